@@ -1,0 +1,416 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "round/Round.h"
+
+#include "ports/Dialogs.h"
+#include "ports/Random.h"
+#include "storage/SharedState.h"
+#include "words/Text.h"
+
+namespace quillora {
+
+namespace {
+
+constexpr int kManyErrorsStrikes = 5;
+constexpr int kPanicStrikes = 7;
+constexpr int kDeathStrikes = 8;
+
+// The sounds the game asks for, by resource number less 100.
+constexpr int kSoundWarning = 1;
+constexpr int kSoundNewPhrase = 2;
+constexpr int kSoundLost = 3;
+constexpr int kSoundStrike = 4;
+constexpr int kSoundWon = 5;
+constexpr int kSoundRight = 6;
+
+const std::string kPlaying = "JUGANDO";
+const std::string kNewGame = "NUEVA PARTIDA";
+const std::string kPlay = "JUGAR";
+const std::string kLeaveQuestion = "¿Seguro de salirse de la partida?";
+
+bool answerCharAllowed(char32_t c) {
+    return (c >= U'0' && c <= U'9') || (c >= U'A' && c <= U'Z') || c == kUpperEnye || c == U' ';
+}
+
+} // namespace
+
+Round::Round(SharedState& shared, Dialogs& dialogs, Random& random, RoundEvents* events)
+    : m_shared(shared), m_dialogs(dialogs), m_random(random),
+      m_events(events ? *events : m_noEvents) {
+    m_catalogue.WordBankInit();
+    BotonNuevo();
+}
+
+bool Round::pointsCount() const {
+    return !m_shared.multiplayer && m_shared.settings.sistemaPuntos;
+}
+
+void Round::requestSound(int number) {
+    m_sound.request(number, m_shared.settings.sonidos);
+}
+
+void Round::light(Lamp lamp) {
+    m_lamp = lamp;
+    if (!m_state.over) {
+        m_lampTimerRunning = true;
+    }
+}
+
+void Round::tickLamp() {
+    if (!m_state.over) {
+        m_lamp = Lamp::None;
+    }
+    m_lampTimerRunning = false;
+}
+
+void Round::tickStatus() {
+    if (m_status.rfind(kPlaying, 0) != 0) {
+        return;
+    }
+    if (!m_shared.settings.animacion) {
+        m_status = kPlaying;
+        return;
+    }
+    const std::size_t dots = m_status.size() - kPlaying.size();
+    m_status = kPlaying + std::string(dots >= 3 ? 0 : dots + 1, '.');
+}
+
+// --- starting and resetting ------------------------------------------------------
+
+void Round::cmdGame() {
+    const bool underWay = !m_state.manyErrors && !m_state.waitingForPhrase && !m_state.over;
+    if (underWay && !m_dialogs.yesNo(kLeaveQuestion)) {
+        return;
+    }
+    eGame();
+}
+
+void Round::eGame() {
+    if (m_playCaption == kNewGame) {
+        eMenuNew();
+        return;
+    }
+    drawCataloguePhrase();
+}
+
+void Round::drawCataloguePhrase() {
+    // Until the phrase window arrives, JUGAR draws a theme and a phrase of it
+    // straight away. A theme drawn as 0 stands for the last one, as in the
+    // selected-themes draw, so all fifty themes can come up.
+    m_catalogue.WordBankInit();
+    int theme = m_random.drawHalfRange(m_catalogue.themeDrawRange());
+    if (theme == 0) {
+        theme = m_catalogue.themeCount();
+    }
+    m_phraseNumber = m_random.drawHalfRange(m_catalogue.phraseDrawRange());
+    while (m_phraseNumber == m_previousPhraseNumber) {
+        m_phraseNumber = m_random.drawHalfRange(m_catalogue.phraseDrawRange());
+    }
+    m_catalogue.ThemeLoad();
+    m_catalogue.PhraseLoad(theme);
+    startPhrase(m_catalogue.phrase(m_phraseNumber + 1), theme, m_catalogue.themeName(theme));
+}
+
+void Round::startPhrase(const std::string& phrase, int theme, const std::string& themeLabel) {
+    m_pendingPhrase = toU32(phrase);
+    m_pendingLetterTotal = PhraseBoard::countLetters(m_pendingPhrase);
+    m_gameTheme = theme;
+    m_gameThemeName = themeLabel;
+    m_playCaption = kNewGame;
+    m_status = kPlaying + "...";
+    m_themeLabel = themeLabel;
+    m_newGameEnabled = true;
+    LayPhrase();
+}
+
+void Round::LayPhrase() {
+    if (!m_board.lay(m_pendingPhrase, m_pendingLetterTotal)) {
+        return;
+    }
+    m_counterVisible = true;
+    m_previousPhraseNumber = m_phraseNumber;
+    m_state.waitingForPhrase = false;
+    requestSound(kSoundNewPhrase);
+    m_events.phraseLaid();
+}
+
+void Round::eMenuNew() {
+    if (m_state.manyErrors) {
+        m_dialogs.exclamation("Tienes bastantes errores, termina el juego.");
+        return;
+    }
+    m_events.countdownStopped();
+    m_newGameEnabled = false;
+    m_playCaption = kPlay;
+    m_board.clear();
+    m_state.strikeSlots.fill("");
+    m_status = kNewGame;
+    m_figure.Muneco();
+    BotonNuevo();
+}
+
+void Round::BotonNuevo() {
+    m_designEnabled = true;
+    m_lamp = Lamp::None;
+    m_lampTimerRunning = false;
+    m_deathColours = false;
+    m_digitPanelVisible = false;
+    m_counterVisible = false;
+    closeAnswerBox();
+    m_board.lay(U"", 0);
+    m_state.over = false;
+    m_queEsEsoVisible = false;
+    m_state.waitingForPhrase = true;
+    m_state.correctionUsed = false;
+    m_state.hit = false;
+    m_state.earlyAnswerBonus = false;
+    m_state.strikeCount = 0;
+    m_themeLabel.clear();
+    m_board.RestoreKeyboard();
+}
+
+// --- guessing ----------------------------------------------------------------------
+
+void Round::typeKey(char32_t typed) {
+    if (!inPlay()) {
+        return;
+    }
+    const ComputerKey key = mapComputerKey(typed);
+    switch (key.action) {
+    case KeyAction::Guess:
+        guess(key.letter);
+        break;
+    case KeyAction::ToggleAnswer:
+        BotonRespuesta();
+        break;
+    case KeyAction::ToggleDigits:
+        showDigitPanel(!m_digitPanelVisible);
+        break;
+    case KeyAction::None:
+        break;
+    }
+}
+
+void Round::clickKey(int key) {
+    if (!inPlay() || key < 0 || key >= kKeyCount) {
+        return;
+    }
+    if (key >= 1 && key <= 37) {
+        guess(keyLetter(key));
+    } else if (key == kWriteKey) {
+        BotonRespuesta();
+    } else {
+        showDigitPanel(key == kDigitPanelKey);
+    }
+}
+
+void Round::guess(char32_t letter) {
+    if (!inPlay()) {
+        return;
+    }
+    m_state.guessedLetter = letter;
+    BotonIntro();
+}
+
+void Round::BotonReLetra() {
+    m_state.alreadyTried = m_board.alreadyTried(m_state.guessedLetter);
+}
+
+void Round::BotonIntro() {
+    m_state.hit = false;
+    BotonReLetra();
+    if (m_state.alreadyTried) {
+        LuzAmarilla();
+        m_state.alreadyTried = false;
+        return;
+    }
+    m_state.hit = m_board.reveal(m_state.guessedLetter);
+    BotonStrike();
+    BotonWin();
+}
+
+void Round::BotonStrike() {
+    if (!m_state.hit) {
+        for (int n = 1; n <= RoundState::kSlots; ++n) {
+            if (m_state.slot(n).empty()) {
+                m_state.strikeCount = n;
+                m_state.slot(n) = toUtf8(m_state.guessedLetter);
+                break;
+            }
+        }
+        if (m_state.strikeCount >= kDeathStrikes) {
+            // The red lamp comes with the death itself.
+            requestSound(kSoundLost);
+        } else if (m_state.strikeCount == kPanicStrikes) {
+            requestSound(kSoundWarning);
+            LuzRoja();
+        } else {
+            requestSound(kSoundStrike);
+            LuzRoja();
+        }
+    } else if (!m_board.complete()) {
+        // The letter that completes the phrase leaves the sound to the win.
+        requestSound(kSoundRight);
+        LuzVerde();
+    }
+    BotonFigura();
+}
+
+void Round::BotonFigura() {
+    const int strikes = m_state.strikeCount;
+    m_figure.draw(strikes);
+    m_state.manyErrors = strikes >= kManyErrorsStrikes && m_shared.settings.sistemaPuntos;
+    if (strikes < kDeathStrikes) {
+        return;
+    }
+    m_events.countdownStopped();
+    endRound("¡MUERTO!");
+    LuzRoja();
+    m_deathColours = true;
+    m_board.showMissed();
+    m_designEnabled = false;
+    closeAnswerBox();
+    if (pointsCount()) {
+        m_events.roundLost();
+    }
+}
+
+void Round::endRound(const std::string& caption) {
+    m_status = caption;
+    m_counterVisible = false;
+    m_state.over = true;
+    m_catalogue.ThemeLoad();
+    m_themeLabel = m_catalogue.themeName(m_gameTheme);
+    m_queEsEsoVisible = true;
+    m_state.manyErrors = false;
+}
+
+void Round::BotonWin() {
+    m_events.nextTurn();
+    if (m_state.over || !m_board.complete()) {
+        return;
+    }
+    endRound("¡VICTORIA!");
+    requestSound(kSoundWon);
+    m_events.countdownStopped();
+    m_figure.calm();
+    LuzVerde();
+    if (pointsCount()) {
+        m_events.roundWon();
+    }
+}
+
+// --- the whole answer ---------------------------------------------------------------
+
+void Round::closeAnswerBox() {
+    m_answerBoxOpen = false;
+    m_answerText.clear();
+}
+
+void Round::BotonRespuesta() {
+    if (m_answerBoxOpen) {
+        closeAnswerBox();
+    } else {
+        m_answerBoxOpen = true;
+    }
+}
+
+bool Round::cmdOk() {
+    if (!m_answerBoxOpen || !inPlay()) {
+        return false;
+    }
+    std::u32string typed = toU32(m_answerText);
+    for (char32_t& c : typed) {
+        c = gameUpper(c);
+    }
+    m_answerText = toUtf8(typed);
+    for (char32_t c : typed) {
+        if (!answerCharAllowed(c)) {
+            m_dialogs.exclamation(
+                "Espere, hay mínimo un símbolo o letra con acento, revise si los hay y quítelos.");
+            return false;
+        }
+    }
+    if (!m_dialogs.yesNo("¿Está seguro?, morirá si se equivoca.")) {
+        return false;
+    }
+    Comparar();
+    return true;
+}
+
+void Round::Comparar() {
+    if (toU32(m_answerText) == m_board.answerText()) {
+        if (m_board.revealedCount() < m_board.letterTotal() / 2.0) {
+            m_state.earlyAnswerBonus = true;
+            m_state.strikeSlots.fill("");
+        }
+        m_board.revealAll();
+        BotonWin();
+    } else {
+        for (auto& slot : m_state.strikeSlots) {
+            if (slot.empty()) {
+                slot = " ";
+            }
+        }
+        requestSound(kSoundLost);
+        m_state.strikeCount = kDeathStrikes;
+        BotonFigura();
+    }
+    closeAnswerBox();
+}
+
+// --- the strike correction --------------------------------------------------------------
+
+bool Round::correctionOffered() const {
+    return m_shared.correctionsLeft >= 1 && !m_state.correctionUsed && !m_state.over &&
+           m_state.strikeCount > 0 && !m_state.hit;
+}
+
+std::string Round::correctionQuestion(int correctionsLeft) {
+    return "La corrección de strikes es muy limitado, sólo tienes " +
+           std::to_string(correctionsLeft) +
+           (correctionsLeft == 1 ? " oportunidad " : " oportunidades ") +
+           "para corregir en todo el juego. ¿Deseas usar una?";
+}
+
+void Round::eBackStrike() {
+    if (!correctionOffered()) {
+        return;
+    }
+    m_events.correctionAsked(true);
+    if (m_dialogs.yesNo(correctionQuestion(m_shared.correctionsLeft))) {
+        --m_state.strikeCount;
+        --m_shared.correctionsLeft;
+        m_state.correctionUsed = true;
+        m_board.dropLastTried();
+        m_board.RestoreKeyboard();
+        for (int k = RoundState::kSlots - 1; k >= 1; --k) {
+            if (!m_state.slot(k).empty() && m_state.slot(k + 1).empty()) {
+                m_state.slot(k).clear();
+                break;
+            }
+        }
+        m_figure.Muneco();
+        BotonFigura();
+        if (m_shared.correctionsLeft == 2) {
+            m_dialogs.information(
+                "Has usado una de tus correcciones, para usar otra tienes que jugar otra partida.");
+        }
+    }
+    m_events.correctionAsked(false);
+}
+
+// --- leaving ----------------------------------------------------------------------------
+
+bool Round::eMenuBack() {
+    if (m_state.manyErrors) {
+        m_dialogs.exclamation("Tiene bastantes errores, termine la partida.");
+        return false;
+    }
+    if (!m_state.waitingForPhrase && !m_state.over) {
+        return m_dialogs.yesNo(kLeaveQuestion);
+    }
+    return true;
+}
+
+} // namespace quillora

@@ -1,0 +1,138 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "words/ThemeCatalogue.h"
+#include "words/Text.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace quillora {
+namespace {
+
+constexpr std::size_t kRow = 14;
+
+std::vector<std::u32string> wordsOf(std::string_view phrase) {
+    std::istringstream in{std::string(phrase)};
+    std::vector<std::u32string> words;
+    for (std::string word; in >> word;)
+        words.push_back(toU32(word));
+    return words;
+}
+
+// Lays the words out for the board from scratch: a word that would straddle a
+// row boundary after its single space goes to the start of the next row.
+std::u32string laidOut(const std::vector<std::u32string>& words) {
+    std::u32string text = words.at(0);
+    for (std::size_t i = 1; i < words.size(); ++i) {
+        const std::size_t first = text.size() + 1; // 0-based cell after one space
+        const std::size_t last = first + words[i].size() - 1;
+        if (first / kRow == last / kRow) {
+            text += U' ';
+        } else {
+            text.append((kRow - text.size() % kRow) % kRow, U' ');
+        }
+        text += words[i];
+    }
+    return text;
+}
+
+TEST(ThemeCatalogueTest, WordBankInitSetsDrawRangesAndThemeCount) {
+    ThemeCatalogue catalogue;
+    catalogue.WordBankInit();
+    EXPECT_EQ(catalogue.phraseDrawRange(), 40);
+    EXPECT_EQ(catalogue.themeDrawRange(), 100);
+    EXPECT_EQ(catalogue.themeCount(), ThemeCatalogue::kThemes);
+}
+
+TEST(ThemeCatalogueTest, ThemeLoadFillsFiftyDistinctNamesAfterNoTheme) {
+    ThemeCatalogue catalogue;
+    catalogue.ThemeLoad();
+    EXPECT_EQ(catalogue.themeName(0), "????");
+    EXPECT_EQ(catalogue.themeName(2), "ASTRONOMÍA");
+    EXPECT_EQ(catalogue.themeName(28), "INTERNET");
+    EXPECT_EQ(catalogue.themeName(50), "VEGETAL");
+    EXPECT_EQ(charCount(catalogue.themeName(2)), 10u);
+    std::set<std::string> names;
+    for (int theme = 1; theme <= ThemeCatalogue::kThemes; ++theme) {
+        EXPECT_EQ(catalogue.themeName(theme), ThemeCatalogue::storedThemeName(theme));
+        names.insert(catalogue.themeName(theme));
+    }
+    EXPECT_EQ(names.size(), 50u);
+    EXPECT_FALSE(names.contains("????"));
+    EXPECT_EQ(catalogue.themeName(-1), "");
+    EXPECT_EQ(catalogue.themeName(51), "");
+    EXPECT_EQ(ThemeCatalogue::storedThemeName(51), "");
+}
+
+TEST(ThemeCatalogueTest, PhraseLoadFillsTheThemeAndIgnoresThemesWithoutPhrases) {
+    ThemeCatalogue catalogue;
+    catalogue.PhraseLoad(1);
+    EXPECT_EQ(catalogue.phrase(1), "GALLINA");
+    catalogue.PhraseLoad(50);
+    EXPECT_EQ(catalogue.phrase(20), "ZANAHORIA");
+    catalogue.PhraseLoad(28);
+    EXPECT_EQ(catalogue.phrase(10), "CORREO        ELECTRONICO");
+
+    catalogue.PhraseLoad(3);
+    catalogue.PhraseLoad(0);
+    catalogue.PhraseLoad(51);
+    catalogue.PhraseLoad(-1);
+    for (int index = 1; index <= ThemeCatalogue::kPhrasesPerTheme; ++index)
+        EXPECT_EQ(catalogue.phrase(index), ThemeCatalogue::storedPhrase(3, index)) << index;
+    EXPECT_EQ(catalogue.phrase(3), "CODIGO        GENETICO");
+    EXPECT_EQ(catalogue.phrase(0), "");
+    EXPECT_EQ(catalogue.phrase(21), "");
+    EXPECT_EQ(ThemeCatalogue::storedPhrase(0, 1), "");
+    EXPECT_EQ(ThemeCatalogue::storedPhrase(1, 0), "");
+    EXPECT_EQ(ThemeCatalogue::storedPhrase(1, 21), "");
+}
+
+TEST(ThemeCatalogueTest, EveryPhraseFitsTheBoardAndCanBeTyped) {
+    for (int theme = 1; theme <= ThemeCatalogue::kThemes; ++theme) {
+        for (int index = 1; index <= ThemeCatalogue::kPhrasesPerTheme; ++index) {
+            const std::u32string text = toU32(ThemeCatalogue::storedPhrase(theme, index));
+            SCOPED_TRACE(::testing::Message() << theme << "/" << index);
+            ASSERT_FALSE(text.empty());
+            EXPECT_LE(text.size(), 35u);
+            EXPECT_NE(text.front(), U' ');
+            EXPECT_NE(text.back(), U' ');
+            for (const char32_t ch : text) {
+                const bool typeable = (ch >= U'A' && ch <= U'Z') || ch == U'Ñ' || ch == U' ' ||
+                                      ch == U'3' || ch == U'7';
+                EXPECT_TRUE(typeable) << static_cast<unsigned>(ch);
+            }
+        }
+    }
+    EXPECT_EQ(ThemeCatalogue::storedPhrase(8, 11), "PAQUICEFALOSAURIO");
+    // "HUEVOS        MOTULEÑOS": the Ñ fills one cell, not two.
+    EXPECT_EQ(charCount(ThemeCatalogue::storedPhrase(5, 3)), 23u);
+}
+
+TEST(ThemeCatalogueTest, OnlyFourPhrasesDepartFromTheRowLayout) {
+    std::set<std::string_view> departures;
+    for (int theme = 1; theme <= ThemeCatalogue::kThemes; ++theme) {
+        for (int index = 1; index <= ThemeCatalogue::kPhrasesPerTheme; ++index) {
+            const std::string_view stored = ThemeCatalogue::storedPhrase(theme, index);
+            if (laidOut(wordsOf(stored)) != toU32(stored))
+                departures.insert(stored);
+        }
+    }
+    const std::set<std::string_view> expected{
+        "LOS           PICAPIEDRA",
+        "EL PAJARO     LOCO",
+        "GARFIELD Y    SUS AMIGOS",
+        "LA GALLINA    DE LOS HUEVOS DE ORO",
+    };
+    EXPECT_EQ(departures, expected);
+
+    // The rule's corners, on phrases the table is known to hold.
+    EXPECT_EQ(toU32(ThemeCatalogue::storedPhrase(3, 3)).find(U"GENETICO"), kRow);
+    EXPECT_EQ(toU32(ThemeCatalogue::storedPhrase(11, 2)).at(kRow), U' '); // REPRODUCTOR DE AUDIO
+}
+
+} // namespace
+} // namespace quillora
