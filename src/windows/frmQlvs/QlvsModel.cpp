@@ -7,11 +7,17 @@
 namespace quillora {
 
 QlvsModel::QlvsModel(SharedState& shared, Dialogs& dialogs, Random& random, RoundEvents* events)
-    : m_shared(shared), m_round(shared, dialogs, random, events) {
+    : m_shared(shared), m_outer(events ? *events : m_noEvents),
+      m_round(shared, dialogs, random, this) {
     if (m_shared.settings.tecladoPermanente) {
         m_heightTwips = kBaseHeightTwips + kKeyboardExtraTwips;
         m_keyboardShown = true;
     }
+}
+
+void QlvsModel::phraseLaid() {
+    openKeyboard();
+    m_outer.phraseLaid();
 }
 
 void QlvsModel::keyTyped(WindowKey key, char32_t character) {

@@ -13,7 +13,7 @@ namespace quillora {
 // The board window's own state beside the game: the keyboard's faces under
 // the mouse, the strike-correction label, the keyboard's opening and which of
 // the window's timers run. The widget draws this and the round it holds.
-class QlvsModel {
+class QlvsModel final : private RoundEvents {
 public:
     static constexpr int kWidthTwips = 11745;
     static constexpr int kBaseHeightTwips = 5340;
@@ -64,7 +64,18 @@ public:
     Rgb background() const { return windowBackground(m_shared.settings); }
 
 private:
+    // The round's hand-overs pass through here: the window opens its keyboard
+    // when a phrase is laid, then whoever else listens hears of it.
+    void nextTurn() override { m_outer.nextTurn(); }
+    void phraseLaid() override;
+    void roundWon() override { m_outer.roundWon(); }
+    void roundLost() override { m_outer.roundLost(); }
+    void countdownStopped() override { m_outer.countdownStopped(); }
+    void correctionAsked(bool asking) override { m_outer.correctionAsked(asking); }
+
     SharedState& m_shared;
+    RoundEvents m_noEvents;
+    RoundEvents& m_outer;
     Round m_round;
     int m_hoveredKey = -1;
     int m_pressedKey = -1;

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QFont>
+#include <QString>
+
+namespace quillora {
+
+// The board's rounded display font and the figure's handwritten face font.
+// Where the preferred families are not installed, the free look-alikes that
+// ship inside the program stand in for them.
+class Fonts {
+public:
+    // Registers the embedded fonts once; call after the application exists.
+    static void registerEmbedded();
+    static QString displayFamily();
+    static QString faceFamily();
+    // The display font at a size in points of the reference layout.
+    static QFont display(double points, bool bold = true);
+    static QFont face(double points);
+};
+
+} // namespace quillora

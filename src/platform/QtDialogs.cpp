@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/QtDialogs.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+namespace quillora {
+
+namespace {
+
+QMessageBox::Icon iconOf(Dialogs::Icon icon) {
+    switch (icon) {
+    case Dialogs::Icon::Exclamation:
+        return QMessageBox::Warning;
+    case Dialogs::Icon::Error:
+        return QMessageBox::Critical;
+    case Dialogs::Icon::Information:
+        break;
+    }
+    return QMessageBox::Information;
+}
+
+} // namespace
+
+void QtDialogs::message(Icon icon, const std::string& text, const std::string& title) {
+    QMessageBox box(iconOf(icon), QString::fromStdString(title), QString::fromStdString(text),
+                    QMessageBox::Ok, QApplication::activeWindow());
+    box.exec();
+}
+
+bool QtDialogs::ask(Question kind, const std::string& text, const std::string& title) {
+    const auto buttons = kind == Question::YesNo ? QMessageBox::Yes | QMessageBox::No
+                                                 : QMessageBox::Ok | QMessageBox::Cancel;
+    QMessageBox box(QMessageBox::Question, QString::fromStdString(title),
+                    QString::fromStdString(text), buttons, QApplication::activeWindow());
+    const int answer = box.exec();
+    return answer == QMessageBox::Yes || answer == QMessageBox::Ok;
+}
+
+} // namespace quillora

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+
+#include <functional>
+
+namespace quillora {
+
+class QlvsModel;
+
+// The on-screen keyboard and its digit panel. Mouse moves, presses and
+// releases go to the model, which decides the faces and what a click does.
+class KeyboardView final : public QWidget {
+public:
+    KeyboardView(QlvsModel& model, std::function<void()> changed, QWidget* parent);
+
+    static constexpr int kLeftTwips = 120;
+    static constexpr int kTopTwips = 4920;
+    static constexpr int kWidthTwips = 11415;
+    static constexpr int kHeightTwips = 975;
+    static constexpr int kDigitsLeftTwips = 3000;
+    static constexpr int kDigitsWidthTwips = 8535;
+    static constexpr int kDigitsHeightTwips = 495;
+
+    // The key under a point of this widget, or -1.
+    int keyAt(QPoint point) const;
+    // The key's rectangle in this widget's pixels.
+    QRect keyRect(int key) const;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+private:
+    bool keyShown(int key) const;
+
+    QlvsModel& m_model;
+    std::function<void()> m_changed;
+};
+
+} // namespace quillora

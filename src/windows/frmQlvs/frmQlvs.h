@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "windows/frmQlvs/QlvsModel.h"
+
+#include <QWidget>
+
+#include <array>
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QTimer;
+
+namespace quillora {
+
+class GallowsView;
+class KeyboardView;
+class PhraseView;
+
+// The board window: the phrase, the figure, the strikes and the keyboard. It
+// turns the player's clicks and keys into calls on its model and paints what
+// the model says.
+class frmQlvs final : public QWidget {
+public:
+    frmQlvs(SharedState& shared, Dialogs& dialogs, Random& random, QWidget* parent = nullptr);
+    ~frmQlvs() override;
+
+    QlvsModel& model() { return m_model; }
+
+    // Brings every control in step with the model and starts or stops the
+    // timers it asks for.
+    void sync();
+
+    // For the tests: the controls a player sees.
+    QLabel* statusLabel() const { return m_lblGame; }
+    QLabel* counterLabel() const { return m_lblCont; }
+    QLabel* themeLabel() const { return m_lblTheme; }
+    QLabel* strikeLabel(int slot) const { return m_lblStrike[static_cast<std::size_t>(slot - 1)]; }
+    QLabel* quitLabel() const { return m_lblQuit; }
+    QPushButton* playButton() const { return m_cmdGame; }
+    QLineEdit* answerBox() const { return m_txtWord; }
+    QPushButton* answerOkButton() const { return m_cmdOk; }
+    KeyboardView* keyboard() const { return m_keyboard; }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void buildControls();
+    void paintPanels();
+    void syncTimers();
+    void playPressed();
+    void okPressed();
+    void keyboardChanged();
+
+    QlvsModel m_model;
+
+    GallowsView* m_gallows = nullptr;
+    PhraseView* m_phrase = nullptr;
+    KeyboardView* m_keyboard = nullptr;
+    QLabel* m_lblGame = nullptr;
+    QLabel* m_lblTheme = nullptr;
+    QLabel* m_lblCont = nullptr;
+    QWidget* m_frmeStrikes = nullptr;
+    std::array<QLabel*, RoundState::kSlots> m_lblStrike{};
+    QLabel* m_lblQuit = nullptr;
+    QPushButton* m_cmdGame = nullptr;
+    QLabel* m_lblQueEs = nullptr;
+    QWidget* m_frmeWord = nullptr;
+    QLabel* m_lblWordPrompt = nullptr;
+    QLineEdit* m_txtWord = nullptr;
+    QPushButton* m_cmdOk = nullptr;
+
+    QTimer* m_tmrSusp = nullptr;
+    QTimer* m_tmrStrike = nullptr;
+    QTimer* m_tmrSound = nullptr;
+    QTimer* m_tmrOpen = nullptr;
+};
+
+} // namespace quillora
