@@ -60,9 +60,13 @@ bool PhraseBoard::reveal(char32_t letter) {
     for (std::size_t i = 0; i < m_phrase.size(); ++i) {
         Cell& c = m_cells[i];
         if (c.isLetter() && c.character == letter) {
-            c.revealed = true;
-            ++m_revealedCount;
             hit = true;
+            // A strike correction can hand back the key of a letter already
+            // found; guessing it again must not count its cells twice.
+            if (!c.revealed) {
+                c.revealed = true;
+                ++m_revealedCount;
+            }
         }
     }
     m_tried.push_back(letter);

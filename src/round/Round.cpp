@@ -28,6 +28,18 @@ const std::string kNewGame = "NUEVA PARTIDA";
 const std::string kPlay = "JUGAR";
 const std::string kLeaveQuestion = "¿Seguro de salirse de la partida?";
 
+// The answer box shows the typed text in capitals, accented letters too, so
+// the player sees the very letter that gets the answer refused.
+char32_t answerUpper(char32_t c) {
+    if (c >= U'\u00E0' && c <= U'\u00FE' && c != U'\u00F7') {
+        return c - 0x20;
+    }
+    if (c == U'\u00FF') {
+        return U'\u0178';
+    }
+    return gameUpper(c);
+}
+
 bool answerCharAllowed(char32_t c) {
     return (c >= U'0' && c <= U'9') || (c >= U'A' && c <= U'Z') || c == kUpperEnye || c == U' ';
 }
@@ -321,7 +333,7 @@ bool Round::cmdOk() {
     }
     std::u32string typed = toU32(m_answerText);
     for (char32_t& c : typed) {
-        c = gameUpper(c);
+        c = answerUpper(c);
     }
     m_answerText = toUtf8(typed);
     for (char32_t c : typed) {

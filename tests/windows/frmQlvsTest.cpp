@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/frmQlvs/frmQlvs.h"
 #include "support/Fakes.h"
 #include "windows/frmQlvs/KeyboardView.h"
-#include "windows/frmQlvs/frmQlvs.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -29,7 +29,8 @@ protected:
     }
     void type(const QString& text, QWidget* target = nullptr) {
         for (const QChar ch : text) {
-            QTest::sendKeyEvent(QTest::Click, target ? target : &window, Qt::Key_unknown, QString(ch), {});
+            QTest::sendKeyEvent(QTest::Click, target ? target : &window, Qt::Key_unknown,
+                                QString(ch), {});
         }
     }
     void openKeyboard() {

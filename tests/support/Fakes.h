@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "ports/Dialogs.h"
+#include "ports/Random.h"
+#include "round/Round.h"
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <string>
+#include <vector>
+
+namespace quillora {
+
+// Answers questions from a script and keeps every box it was shown, so a test
+// can check both what the player was told and what the game did next.
+class ScriptedDialogs : public Dialogs {
+public:
+    struct Shown {
+        bool question = false;
+        Icon icon = Icon::Information;
+        std::string text;
+        std::string title;
+    };
+
+    void answer(std::initializer_list<bool> answers) {
+        m_answers.insert(m_answers.end(), answers.begin(), answers.end());
+    }
+
+    void message(Icon icon, const std::string& text, const std::string& title) override {
+        shown.push_back({false, icon, text, title});
+    }
+    bool ask(Question, const std::string& text, const std::string& title) override {
+        shown.push_back({true, Icon::Information, text, title});
+        if (m_answers.empty()) {
+            ADD_FAILURE() << "unexpected question: " << text;
+            return false;
+        }
+        const bool yes = m_answers.front();
+        m_answers.pop_front();
+        return yes;
+    }
+
+    bool scriptUsedUp() const { return m_answers.empty(); }
+
+    std::vector<Shown> shown;
+
+private:
+    std::deque<bool> m_answers;
+};
+
+// Hands out the fractions a test queued; running dry is a test fault.
+class QueuedRandom : public Random {
+public:
+    void queue(std::initializer_list<double> fractions) {
+        m_fractions.insert(m_fractions.end(), fractions.begin(), fractions.end());
+    }
+    void reseed() override {}
+    double fraction() override {
+        if (m_fractions.empty()) {
+            ADD_FAILURE() << "no fraction queued";
+            return 0.0;
+        }
+        const double f = m_fractions.front();
+        m_fractions.pop_front();
+        return f;
+    }
+
+private:
+    std::deque<double> m_fractions;
+};
+
+// Counts what a game hands over to the rest of the program.
+struct RecordingEvents : RoundEvents {
+    void nextTurn() override { ++turns; }
+    void roundWon() override { ++won; }
+    void roundLost() override { ++lost; }
+    void correctionAsked(bool asking) override { panelShown.push_back(asking); }
+
+    int turns = 0;
+    int won = 0;
+    int lost = 0;
+    std::vector<bool> panelShown;
+};
+
+} // namespace quillora
