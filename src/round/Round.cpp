@@ -89,38 +89,127 @@ void Round::tickStatus() {
 
 // --- starting and resetting ------------------------------------------------------
 
-void Round::cmdGame() {
+GameStart Round::cmdGame() {
     const bool underWay = !m_state.manyErrors && !m_state.waitingForPhrase && !m_state.over;
     if (underWay && !m_dialogs.yesNo(kLeaveQuestion)) {
-        return;
+        return GameStart::Nothing;
     }
-    eGame();
+    return eGame();
 }
 
-void Round::eGame() {
+GameStart Round::eGame() {
     if (m_playCaption == kNewGame) {
-        eMenuNew();
-        return;
+        if (!m_events.scoreCounting()) {
+            eMenuNew();
+        }
+        return GameStart::Nothing;
     }
-    drawCataloguePhrase();
+    if (m_shared.multiplayer) {
+        return GameStart::FriendWindow;
+    }
+    if (!m_shared.settings.fraseAutomatica) {
+        return GameStart::ThemeWindow;
+    }
+    if (m_shared.tourPosition >= 1) {
+        DrawTourPhrase();
+    } else {
+        BotonTema();
+        eOther();
+        eOk();
+    }
+    return GameStart::Started;
 }
 
-void Round::drawCataloguePhrase() {
-    // Until the phrase window arrives, JUGAR draws a theme and a phrase of it
-    // straight away. A theme drawn as 0 stands for the last one, as in the
-    // selected-themes draw, so all fifty themes can come up.
-    m_catalogue.WordBankInit();
-    int theme = m_random.drawHalfRange(m_catalogue.themeDrawRange());
-    if (theme == 0) {
-        theme = m_catalogue.themeCount();
+void Round::BotonTema() {
+    const auto& selected = m_shared.selectedThemes[static_cast<std::size_t>(m_shared.currentSlot)];
+    int marked = 0;
+    for (bool on : selected) {
+        marked += on ? 1 : 0;
     }
-    m_phraseNumber = m_random.drawHalfRange(m_catalogue.phraseDrawRange());
-    while (m_phraseNumber == m_previousPhraseNumber) {
-        m_phraseNumber = m_random.drawHalfRange(m_catalogue.phraseDrawRange());
-    }
+    m_randomTheme = marked > 1;
     m_catalogue.ThemeLoad();
-    m_catalogue.PhraseLoad(theme);
-    startPhrase(m_catalogue.phrase(m_phraseNumber + 1), theme, m_catalogue.themeName(theme));
+    m_word2ThemeLabel = m_randomTheme ? "????" : m_catalogue.themeName(m_shared.settings.tema);
+}
+
+int Round::drawPhraseNumber() {
+    int number = m_random.drawHalfRange(m_catalogue.phraseDrawRange());
+    while (number == m_previousPhraseNumber) {
+        number = m_random.drawHalfRange(m_catalogue.phraseDrawRange());
+    }
+    return number;
+}
+
+void Round::eOther() {
+    m_catalogue.WordBankInit();
+    if (m_randomTheme) {
+        const auto& selected =
+            m_shared.selectedThemes[static_cast<std::size_t>(m_shared.currentSlot)];
+        m_gameTheme = m_random.drawHalfRange(m_catalogue.themeDrawRange());
+        // The draw gives 0..49; a 0 drawn again stands for the fiftieth theme.
+        while (!selected[static_cast<std::size_t>(m_gameTheme)]) {
+            m_gameTheme = m_random.drawHalfRange(m_catalogue.themeDrawRange());
+            if (m_gameTheme == 0) {
+                m_gameTheme = m_catalogue.themeCount();
+            }
+        }
+    } else {
+        m_gameTheme = m_shared.settings.tema;
+    }
+    m_phraseNumber = drawPhraseNumber();
+    m_catalogue.PhraseLoad(m_gameTheme);
+    m_drawnPhrase = m_catalogue.phrase(m_phraseNumber + 1);
+    m_gameThemeName = m_word2ThemeLabel;
+}
+
+void Round::eOk() {
+    layCataloguePhrase(true);
+}
+
+void Round::DrawTourPhrase() {
+    m_catalogue.ThemeLoad();
+    m_gameThemeName = m_catalogue.themeName(m_shared.tourPosition);
+    m_catalogue.WordBankInit();
+    m_gameTheme = m_shared.tourPosition;
+    m_phraseNumber = drawPhraseNumber();
+    m_catalogue.PhraseLoad(m_gameTheme);
+    m_drawnPhrase = m_catalogue.phrase(m_phraseNumber + 1);
+    layCataloguePhrase(false);
+}
+
+void Round::layCataloguePhrase(bool mayStartAuto) {
+    const auto slot = static_cast<std::size_t>(m_shared.currentSlot);
+    m_shared.lastThemeName[slot] = m_gameThemeName;
+    if (mayStartAuto && m_shared.previousThemeName[slot] == m_shared.lastThemeName[slot]) {
+        switchAutoOn();
+    } else {
+        m_shared.previousThemeName[slot] = m_shared.lastThemeName[slot];
+    }
+    startPhrase(m_drawnPhrase, m_gameTheme, m_gameThemeName);
+}
+
+void Round::switchAutoOn() {
+    m_shared.settings.fraseAutomatica = true;
+}
+
+bool Round::autoMarkerVisible() const {
+    return m_shared.settings.fraseAutomatica;
+}
+
+void Round::eMenuAuto() {
+    if (!m_shared.settings.fraseAutomatica) {
+        switchAutoOn();
+    } else {
+        m_shared.settings.fraseAutomatica = false;
+        m_shared.tourPosition = 0;
+        const auto slot = static_cast<std::size_t>(m_shared.currentSlot);
+        m_shared.selectedThemes[slot] = m_shared.tourCopy[slot];
+    }
+    m_autoCaption = "A";
+    m_autoTooltip = " Desactivar la frase automática. ";
+    if (!m_state.over) {
+        m_events.titleChanged();
+    }
+    m_events.settingsChanged();
 }
 
 void Round::startPhrase(const std::string& phrase, int theme, const std::string& themeLabel) {
@@ -285,6 +374,7 @@ void Round::BotonFigura() {
     if (pointsCount()) {
         m_events.roundLost();
     }
+    m_events.settingsChanged();
 }
 
 void Round::endRound(const std::string& caption) {
@@ -293,8 +383,15 @@ void Round::endRound(const std::string& caption) {
     m_state.over = true;
     m_catalogue.ThemeLoad();
     m_themeLabel = m_catalogue.themeName(m_gameTheme);
+    advanceTour();
     m_queEsEsoVisible = true;
     m_state.manyErrors = false;
+}
+
+void Round::advanceTour() {
+    if (m_shared.tourPosition >= 1) {
+        m_shared.tourPosition = m_shared.tourPosition % m_catalogue.themeCount() + 1;
+    }
 }
 
 void Round::BotonWin() {
@@ -310,6 +407,7 @@ void Round::BotonWin() {
     if (pointsCount()) {
         m_events.roundWon();
     }
+    m_events.settingsChanged();
 }
 
 // --- the whole answer ---------------------------------------------------------------

@@ -29,6 +29,20 @@ public:
     virtual void roundLost() {}
     virtual void countdownStopped() {}
     virtual void correctionAsked(bool /*asking*/) {}
+    // An option changed that the configuration file keeps.
+    virtual void settingsChanged() {}
+    // The modes shown in the window title may have changed.
+    virtual void titleChanged() {}
+    // The score label is still counting towards the new points.
+    virtual bool scoreCounting() const { return false; }
+};
+
+// What pressing JUGAR leads to.
+enum class GameStart {
+    Nothing,      // refused, asked and declined, or the board was only cleared
+    Started,      // a phrase is laid and the game is on
+    ThemeWindow,  // the player's phrase window must open (frmWord2)
+    FriendWindow, // a friend types the phrase (frmWord1)
 };
 
 // One game of hangman on the board: guessing, strikes, the figure, the whole
@@ -39,15 +53,33 @@ public:
 
     // --- starting and resetting ---------------------------------------------
     // The play button: asks before abandoning a game under way, then eGame.
-    void cmdGame();
-    void eGame();
+    GameStart cmdGame();
+    GameStart eGame();
     // Clears the board for the next game; refused with many errors.
     void eMenuNew();
     // Back to a neutral board, waiting for a phrase.
     void BotonNuevo();
-    // Lays a catalogue phrase as the game of `theme`.
+    // Lays a phrase as the game of `theme`, shown under `themeLabel`.
     void startPhrase(const std::string& phrase, int theme, const std::string& themeLabel);
     void LayPhrase();
+
+    // --- the player's phrase window and the automatic phrase ----------------------
+    // Whether several themes are selected, and the theme the window shows.
+    void BotonTema();
+    // Draws the theme and the phrase of the next game.
+    void eOther();
+    // Lays the drawn phrase; two games of one theme in a row switch the
+    // automatic phrase on.
+    void eOk();
+    void DrawTourPhrase();
+    void eMenuAuto();
+    bool randomTheme() const { return m_randomTheme; }
+    const std::string& word2ThemeLabel() const { return m_word2ThemeLabel; }
+    const std::string& drawnPhrase() const { return m_drawnPhrase; }
+    bool autoMarkerVisible() const;
+    const std::string& autoMarkerCaption() const { return m_autoCaption; }
+    const std::string& autoMarkerTooltip() const { return m_autoTooltip; }
+    int phraseNumber() const { return m_phraseNumber; }
 
     // --- guessing -----------------------------------------------------------
     bool inPlay() const { return m_board.letterTotal() > 0 && !m_state.over; }
@@ -87,6 +119,10 @@ public:
     // --- what the board shows ---------------------------------------------------
     const PhraseBoard& board() const { return m_board; }
     const RoundState& state() const { return m_state; }
+    // The score hands the half bonus back once it is paid, and clears the
+    // strikes when its count ends.
+    bool& earlyAnswerBonusFlag() { return m_state.earlyAnswerBonus; }
+    int& strikeCountForScore() { return m_state.strikeCount; }
     const Figure& figure() const { return m_figure; }
     const std::string& status() const { return m_status; }
     const std::string& playCaption() const { return m_playCaption; }
@@ -118,7 +154,10 @@ private:
     void LuzRoja() { light(Lamp::Red); }
     void requestSound(int number);
     bool pointsCount() const;
-    void drawCataloguePhrase();
+    int drawPhraseNumber();
+    void layCataloguePhrase(bool switchAutoOn);
+    void switchAutoOn();
+    void advanceTour();
 
     SharedState& m_shared;
     Dialogs& m_dialogs;
@@ -138,6 +177,12 @@ private:
     std::string m_gameThemeName;
     int m_phraseNumber = 0;
     int m_previousPhraseNumber = 0;
+
+    bool m_randomTheme = false;
+    std::string m_word2ThemeLabel;
+    std::string m_drawnPhrase;
+    std::string m_autoCaption = "A";
+    std::string m_autoTooltip = " Desactivar la frase automática. ";
 
     std::string m_status = "NUEVA PARTIDA";
     std::string m_playCaption = "JUGAR";

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "words/Text.h"
 
+#include <cmath>
+#include <cstdio>
+
 namespace quillora {
 
 std::u32string toU32(std::string_view utf8) {
@@ -72,6 +75,15 @@ std::size_t charCount(std::string_view utf8) {
         }
     }
     return n;
+}
+
+std::string formatNumber(double value) {
+    if (std::nearbyint(value) == value && std::fabs(value) < 1e15) {
+        return std::to_string(static_cast<long long>(value));
+    }
+    char buffer[32];
+    std::snprintf(buffer, sizeof buffer, "%.15g", value);
+    return buffer;
 }
 
 } // namespace quillora

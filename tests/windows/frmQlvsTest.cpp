@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/frmQlvs/frmQlvs.h"
 #include "support/Fakes.h"
+#include "windows/frmInicio/InicioModel.h"
 #include "windows/frmQlvs/KeyboardView.h"
+#include "windows/frmWord2/frmWord2.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -11,56 +13,79 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <memory>
+#include <random>
+
 namespace quillora {
 namespace {
 
+namespace fs = std::filesystem;
+
 class BoardWindow : public ::testing::Test {
 protected:
+    BoardWindow() {
+        folder = fs::temp_directory_path() /
+                 ("quillora-board-" + std::to_string(std::random_device{}()));
+        shared.dataFolder = folder;
+        InicioLoad(shared);
+        // No file yet: the theme is drawn, and a 0 reads as theme 1.
+        random.queue({0.0});
+        window = std::make_unique<frmQlvs>(shared, dialogs, random);
+    }
     void SetUp() override {
-        window.show();
-        window.activateWindow();
-        window.setFocus();
+        window->show();
+        window->activateWindow();
+        window->setFocus();
+    }
+    void TearDown() override {
+        window.reset();
+        fs::remove_all(folder);
     }
 
-    // Theme 1 ("ANIMAL"), phrase 2 ("VACA").
+    // Theme 1 ("ANIMAL"), phrase 2 ("VACA"), through the theme window->
     void startVaca() {
-        random.queue({0.02, 0.05});
-        QTest::keyClick(&window, Qt::Key_Return);
+        random.queue({0.05});
+        QTest::keyClick(window.get(), Qt::Key_Return);
+        ASSERT_NE(window->themeWindow(), nullptr);
+        EXPECT_EQ(window->themeWindow()->themeLabel()->text(), "ANIMAL");
+        QTest::mouseClick(window->themeWindow()->acceptButton(), Qt::LeftButton);
     }
     void type(const QString& text, QWidget* target = nullptr) {
         for (const QChar ch : text) {
-            QTest::sendKeyEvent(QTest::Click, target ? target : &window, Qt::Key_unknown,
+            QTest::sendKeyEvent(QTest::Click, target ? target : window.get(), Qt::Key_unknown,
                                 QString(ch), {});
         }
     }
     void openKeyboard() {
-        while (window.model().openTimerRunning()) {
-            window.model().tickOpen();
+        while (window->model().openTimerRunning()) {
+            window->model().tickOpen();
         }
-        window.sync();
+        window->sync();
     }
-    QString strike(int slot) const { return window.strikeLabel(slot)->text(); }
+    QString strike(int slot) const { return window->strikeLabel(slot)->text(); }
 
+    fs::path folder;
     SharedState shared;
     ScriptedDialogs dialogs;
     QueuedRandom random;
-    frmQlvs window{shared, dialogs, random};
+    std::unique_ptr<frmQlvs> window;
 };
 
 TEST_F(BoardWindow, KeysTypedOnTheWindowPlayAGameToVictory) {
-    EXPECT_EQ(window.statusLabel()->text(), "NUEVA PARTIDA");
-    EXPECT_EQ(window.playButton()->text(), "JUGAR");
-    EXPECT_FALSE(window.counterLabel()->isVisible());
+    EXPECT_EQ(window->statusLabel()->text(), "NUEVA PARTIDA");
+    EXPECT_EQ(window->playButton()->text(), "JUGAR");
+    EXPECT_FALSE(window->counterLabel()->isVisible());
 
     startVaca();
-    EXPECT_EQ(window.statusLabel()->text(), "JUGANDO...");
-    EXPECT_EQ(window.playButton()->text(), "NUEVA PARTIDA");
-    EXPECT_EQ(window.themeLabel()->text(), "ANIMAL");
-    EXPECT_TRUE(window.counterLabel()->isVisible());
-    EXPECT_EQ(window.counterLabel()->text(), "0/4");
+    EXPECT_EQ(window->statusLabel()->text(), "JUGANDO...");
+    EXPECT_EQ(window->playButton()->text(), "NUEVA PARTIDA");
+    EXPECT_EQ(window->themeLabel()->text(), "ANIMAL");
+    EXPECT_TRUE(window->counterLabel()->isVisible());
+    EXPECT_EQ(window->counterLabel()->text(), "0/4");
 
     type("a");
-    EXPECT_EQ(window.counterLabel()->text(), "2/4");
+    EXPECT_EQ(window->counterLabel()->text(), "2/4");
     type(QStringLiteral("xñ"));
     EXPECT_EQ(strike(1), "X");
     EXPECT_EQ(strike(2), QStringLiteral("Ñ"));
@@ -68,8 +93,8 @@ TEST_F(BoardWindow, KeysTypedOnTheWindowPlayAGameToVictory) {
     EXPECT_EQ(strike(3), "");
 
     type("vc");
-    EXPECT_EQ(window.statusLabel()->text(), QStringLiteral("¡VICTORIA!"));
-    EXPECT_FALSE(window.counterLabel()->isVisible());
+    EXPECT_EQ(window->statusLabel()->text(), QStringLiteral("¡VICTORIA!"));
+    EXPECT_FALSE(window->counterLabel()->isVisible());
     EXPECT_TRUE(dialogs.shown.empty());
 }
 
@@ -78,38 +103,38 @@ TEST_F(BoardWindow, EightMissesHangTheFigureAndShowTheMissedLetters) {
     type("v");
     type("bdefghij");
     EXPECT_EQ(strike(8), "J");
-    EXPECT_EQ(window.statusLabel()->text(), QStringLiteral("¡MUERTO!"));
-    EXPECT_TRUE(window.model().round().figure().hanging());
-    EXPECT_TRUE(window.model().round().board().cell(2).missed);
+    EXPECT_EQ(window->statusLabel()->text(), QStringLiteral("¡MUERTO!"));
+    EXPECT_TRUE(window->model().round().figure().hanging());
+    EXPECT_TRUE(window->model().round().board().cell(2).missed);
     // Once the game is over the keys play no more.
     type("k");
-    EXPECT_EQ(window.model().round().board().triedLetters(), U"VBDEFGHIJ");
+    EXPECT_EQ(window->model().round().board().triedLetters(), U"VBDEFGHIJ");
 }
 
 TEST_F(BoardWindow, ClicksOnTheOnScreenKeyboardGuessAndOpenTheDigits) {
     startVaca();
     openKeyboard();
-    KeyboardView* keys = window.keyboard();
+    KeyboardView* keys = window->keyboard();
     ASSERT_TRUE(keys->isVisible());
 
     QTest::mouseClick(keys, Qt::LeftButton, {}, keys->keyRect(1).center());
-    EXPECT_EQ(window.counterLabel()->text(), "2/4");
+    EXPECT_EQ(window->counterLabel()->text(), "2/4");
     EXPECT_EQ(keys->keyAt(keys->keyRect(1).center()), -1) << "a tried key is hidden";
 
     QTest::mouseClick(keys, Qt::LeftButton, {}, keys->keyRect(kDigitPanelKey).center());
-    ASSERT_TRUE(window.model().round().digitPanelVisible());
+    ASSERT_TRUE(window->model().round().digitPanelVisible());
     QTest::mouseClick(keys, Qt::LeftButton, {}, keys->keyRect(28).center());
     EXPECT_EQ(strike(1), "1");
     QTest::mouseClick(keys, Qt::LeftButton, {}, keys->keyRect(kCloseDigitsKey).center());
-    EXPECT_FALSE(window.model().round().digitPanelVisible());
+    EXPECT_FALSE(window->model().round().digitPanelVisible());
 }
 
 TEST_F(BoardWindow, TheAnswerBoxFiltersItsKeysAndAsksBeforeComparing) {
     startVaca();
     type("!");
-    ASSERT_TRUE(window.answerBox()->isVisible());
-    QLineEdit* box = window.answerBox();
-    EXPECT_FALSE(window.answerOkButton()->isEnabled());
+    ASSERT_TRUE(window->answerBox()->isVisible());
+    QLineEdit* box = window->answerBox();
+    EXPECT_FALSE(window->answerOkButton()->isEnabled());
 
     type(QStringLiteral(" @vá"), box);
     EXPECT_EQ(box->text(), "v");
@@ -122,7 +147,7 @@ TEST_F(BoardWindow, TheAnswerBoxFiltersItsKeysAndAsksBeforeComparing) {
     dialogs.answer({true});
     QTest::keyClick(box, Qt::Key_Return);
     EXPECT_FALSE(box->isVisible());
-    EXPECT_EQ(window.statusLabel()->text(), QStringLiteral("¡VICTORIA!"));
+    EXPECT_EQ(window->statusLabel()->text(), QStringLiteral("¡VICTORIA!"));
     ASSERT_EQ(dialogs.shown.size(), 2U);
     EXPECT_EQ(dialogs.shown[1].text, "¿Está seguro?, morirá si se equivoca.");
     EXPECT_EQ(dialogs.shown[1].title, "Quillora Vesta");
@@ -131,12 +156,12 @@ TEST_F(BoardWindow, TheAnswerBoxFiltersItsKeysAndAsksBeforeComparing) {
 TEST_F(BoardWindow, DeleteOffersTheCorrectionAndTheQuitLabelShowsIt) {
     startVaca();
     type("z");
-    QTest::mouseMove(window.quitLabel());
-    EXPECT_EQ(window.quitLabel()->text(), "<");
-    EXPECT_EQ(window.quitLabel()->toolTip(), " Borrar un strike. ");
+    QTest::mouseMove(window->quitLabel());
+    EXPECT_EQ(window->quitLabel()->text(), "<");
+    EXPECT_EQ(window->quitLabel()->toolTip(), " Borrar un strike. ");
 
     dialogs.answer({true});
-    QTest::keyClick(&window, Qt::Key_Delete);
+    QTest::keyClick(window.get(), Qt::Key_Delete);
     EXPECT_EQ(strike(1), "");
     EXPECT_EQ(shared.correctionsLeft, 2);
     EXPECT_TRUE(dialogs.scriptUsedUp());
@@ -147,13 +172,13 @@ TEST_F(BoardWindow, DeleteOffersTheCorrectionAndTheQuitLabelShowsIt) {
 TEST_F(BoardWindow, LeavingAGameUnderWayAsksFirst) {
     startVaca();
     dialogs.answer({false});
-    QTest::mouseClick(window.playButton(), Qt::LeftButton);
-    EXPECT_EQ(window.statusLabel()->text(), "JUGANDO...");
+    QTest::mouseClick(window->playButton(), Qt::LeftButton);
+    EXPECT_EQ(window->statusLabel()->text(), "JUGANDO...");
 
     dialogs.answer({true});
-    QTest::mouseClick(window.playButton(), Qt::LeftButton);
-    EXPECT_EQ(window.statusLabel()->text(), "NUEVA PARTIDA");
-    EXPECT_EQ(window.playButton()->text(), "JUGAR");
+    QTest::mouseClick(window->playButton(), Qt::LeftButton);
+    EXPECT_EQ(window->statusLabel()->text(), "NUEVA PARTIDA");
+    EXPECT_EQ(window->playButton()->text(), "JUGAR");
     EXPECT_EQ(dialogs.shown.back().text, "¿Seguro de salirse de la partida?");
 }
 

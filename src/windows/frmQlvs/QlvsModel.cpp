@@ -2,39 +2,104 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/frmQlvs/QlvsModel.h"
 
-#include "storage/SharedState.h"
+#include "ports/Dialogs.h"
+#include "storage/ConfigFile.h"
 
 namespace quillora {
 
+namespace {
+constexpr int kSoundNewPhrase = 2;
+constexpr int kPlaying = 0;
+} // namespace
+
 QlvsModel::QlvsModel(SharedState& shared, Dialogs& dialogs, Random& random, RoundEvents* events)
-    : m_shared(shared), m_outer(events ? *events : m_noEvents),
-      m_round(shared, dialogs, random, this) {
+    : m_shared(shared), m_dialogs(dialogs), m_outer(events ? *events : m_noEvents),
+      m_round(shared, dialogs, random, this), m_scoring(shared, dialogs),
+      m_sessions(shared, dialogs, random), m_panel(shared), m_random(random) {}
+
+void QlvsModel::load() {
+    clearForBoardLoad(m_shared);
+    DataLoad(m_shared, m_random);
+    ConfLoad(m_shared);
+    m_scoring.refreshTitle();
+    m_scoring.showAccount();
+    // A tour that is still running keeps the automatic phrase on.
+    if (m_shared.tourPosition >= 1) {
+        m_shared.settings.fraseAutomatica = true;
+    }
+    if (m_shared.locked) {
+        m_panel.openLocked();
+    }
     if (m_shared.settings.tecladoPermanente) {
         m_heightTwips = kBaseHeightTwips + kKeyboardExtraTwips;
         m_keyboardShown = true;
     }
 }
 
+// --- round hand-overs ---------------------------------------------------------------
+
 void QlvsModel::phraseLaid() {
     openKeyboard();
+    // With sounds off nothing waits for the opening sound: the score settles
+    // at once.
+    if (!m_shared.settings.sonidos) {
+        m_scoring.startCounting();
+    }
     m_outer.phraseLaid();
 }
 
-void QlvsModel::keyTyped(WindowKey key, char32_t character) {
+void QlvsModel::roundWon() {
+    m_scoring.scoreWin(m_round.board().revealedCount(), m_round.state().strikeCount,
+                       m_round.earlyAnswerBonusFlag());
+    m_outer.roundWon();
+}
+
+void QlvsModel::roundLost() {
+    m_scoring.scoreLoss(m_round.board().revealedCount(), m_round.board().letterTotal());
+    m_outer.roundLost();
+}
+
+void QlvsModel::settingsChanged() {
+    ConfSave(m_shared);
+    m_outer.settingsChanged();
+}
+
+// --- keys ------------------------------------------------------------------------------
+
+GameStart QlvsModel::keyTyped(WindowKey key, char32_t character) {
     switch (key) {
     case WindowKey::Delete:
         m_round.eBackStrike();
         break;
     case WindowKey::Enter:
-        m_round.cmdGame();
-        break;
+        return playPressed();
     case WindowKey::Character:
         m_round.typeKey(character);
+        break;
+    case WindowKey::F2:
+        m_round.eMenuNew();
+        break;
+    case WindowKey::F3:
+        eReBoot();
+        break;
+    case WindowKey::F4:
+        eBlueScreen();
+        break;
+    case WindowKey::ToggleAuto:
+        m_round.eMenuAuto();
         break;
     case WindowKey::Escape:
     case WindowKey::Other:
         break;
     }
+    return GameStart::Nothing;
+}
+
+GameStart QlvsModel::playPressed() {
+    if (m_scoring.counting() || !m_scoring.playEnabled()) {
+        return GameStart::Nothing;
+    }
+    return m_round.cmdGame();
 }
 
 void QlvsModel::hoverKey(int key) {
@@ -83,6 +148,90 @@ void QlvsModel::hoverQuit() {
 void QlvsModel::ColorFall() {
     m_quitCaption.clear();
     m_quitTooltip = " Octavo Strike. ";
+}
+
+// --- menu entries ----------------------------------------------------------------------
+
+void QlvsModel::toggleSounds() {
+    m_shared.settings.sonidos = !m_shared.settings.sonidos;
+    ConfSave(m_shared);
+}
+
+void QlvsModel::toggleAnimation() {
+    m_shared.settings.animacion = !m_shared.settings.animacion;
+    ConfSave(m_shared);
+}
+
+void QlvsModel::eReBoot() {
+    if (m_dialogs.okCancel("Está apunto de reiniciar el juego, se borrará todo.")) {
+        eDReBoot();
+    }
+}
+
+void QlvsModel::eDReBoot() {
+    m_restart = true;
+    if (m_shared.sessionLoaded) {
+        m_shared.selectedThemes[static_cast<std::size_t>(m_shared.currentSlot)] = {};
+    }
+}
+
+// --- sessions --------------------------------------------------------------------------
+
+void QlvsModel::eBlueScreen() {
+    if (m_panel.shown() && m_shared.locked) {
+        return;
+    }
+    const bool playing = m_round.status().rfind("JUGANDO", kPlaying) == 0;
+    m_panel.eBlueScreen(static_cast<int>(m_sessions.entries().size()), playing);
+}
+
+void QlvsModel::toggleSessionList() {
+    if (!m_panel.listShown() && m_round.state().manyErrors) {
+        m_dialogs.exclamation("No se puede cambiar de sesión, termine la partida.");
+        return;
+    }
+    m_panel.toggleList(static_cast<int>(m_sessions.entries().size()));
+}
+
+void QlvsModel::sessionChanged(bool changed) {
+    if (changed) {
+        eDReBoot();
+    }
+}
+
+void QlvsModel::addSession(const std::string& typedName, std::string& shownName) {
+    shownName = typedName;
+    sessionChanged(m_sessions.add(typedName, m_round.state().manyErrors, shownName));
+}
+
+void QlvsModel::switchSession(int slot) {
+    sessionChanged(m_sessions.switchTo(slot, m_round.state().manyErrors));
+}
+
+void QlvsModel::deleteSession() {
+    sessionChanged(m_sessions.deleteCurrent());
+}
+
+void QlvsModel::dropFiles(const std::vector<std::string>& paths) {
+    sessionChanged(m_sessions.addFromFiles(paths, m_round.state().manyErrors));
+}
+
+void QlvsModel::keyEntered(const std::string& typed) {
+    m_panel.enterKey(typed);
+}
+
+// --- timers ----------------------------------------------------------------------------
+
+void QlvsModel::tickSound() {
+    // The score waits for the opening sound of a game before it settles.
+    if (m_round.pendingSound().number() == kSoundNewPhrase) {
+        m_scoring.startCounting();
+    }
+    m_round.pendingSound().tick();
+}
+
+void QlvsModel::tickScore() {
+    m_scoring.tick(m_round.strikeCountForScore());
 }
 
 void QlvsModel::openKeyboard() {

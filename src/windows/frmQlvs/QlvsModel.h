@@ -3,16 +3,21 @@
 #pragma once
 
 #include "round/Round.h"
+#include "scoring/Points.h"
+#include "storage/Sessions.h"
 #include "storage/SharedState.h"
 #include "windows/appearance/BoardLook.h"
+#include "windows/frmQlvs/SessionPanelModel.h"
 
 #include <string>
+#include <vector>
 
 namespace quillora {
 
-// The board window's own state beside the game: the keyboard's faces under
-// the mouse, the strike-correction label, the keyboard's opening and which of
-// the window's timers run. The widget draws this and the round it holds.
+// The board window's own state beside the game: the score, the sessions and
+// their panel, the keyboard's faces under the mouse, the strike-correction
+// label, the keyboard's opening and which of the window's timers run. The
+// widget draws this and the round it holds.
 class QlvsModel final : private RoundEvents {
 public:
     static constexpr int kWidthTwips = 11745;
@@ -22,17 +27,26 @@ public:
     static constexpr int kOpenTickMs = 10;
     static constexpr int kStatusTickMs = 500;
     static constexpr int kLampTickMs = 400;
+    static constexpr int kScoreTickMs = 1;
 
     QlvsModel(SharedState& shared, Dialogs& dialogs, Random& random, RoundEvents* events = nullptr);
+
+    // The board's opening: the options of the current session are read and
+    // applied, and a locked session shows its key panel at once.
+    void load();
 
     Round& round() { return m_round; }
     const Round& round() const { return m_round; }
     const SharedState& shared() const { return m_shared; }
+    Scoring& scoring() { return m_scoring; }
+    const Scoring& scoring() const { return m_scoring; }
 
     // --- keys and the mouse ----------------------------------------------------------
-    // A key typed on the window: Delete, Enter and characters.
-    enum class WindowKey { Character, Delete, Enter, Escape, Other };
-    void keyTyped(WindowKey key, char32_t character = 0);
+    // A key the window handles before its controls.
+    enum class WindowKey { Character, Delete, Enter, Escape, F2, F3, F4, ToggleAuto, Other };
+    GameStart keyTyped(WindowKey key, char32_t character = 0);
+    // The JUGAR button.
+    GameStart playPressed();
     void hoverKey(int key);
     void leaveKeys();
     void pressKey(int key);
@@ -47,6 +61,35 @@ public:
     void ColorFall();
     const std::string& quitCaption() const { return m_quitCaption; }
     const std::string& quitTooltip() const { return m_quitTooltip; }
+
+    // --- menu entries --------------------------------------------------------------
+    void eMenuNew() { m_round.eMenuNew(); }
+    void eMenuAuto() { m_round.eMenuAuto(); }
+    void toggleSounds();
+    void toggleAnimation();
+    // F3: asks first. The popup's "Reiniciar" restarts at once.
+    void eReBoot();
+    void eDReBoot();
+    bool restartRequested() const { return m_restart; }
+
+    // --- sessions ------------------------------------------------------------------
+    SessionPanelModel& panel() { return m_panel; }
+    const SessionPanelModel& panel() const { return m_panel; }
+    void eBlueScreen();
+    void toggleSessionList();
+    std::vector<Sessions::Entry> sessionEntries() const { return m_sessions.entries(); }
+    std::string displayName() const { return m_shared.currentSession().displayName; }
+    bool deleteShown() const { return m_shared.currentSlot != 0; }
+    void addSession(const std::string& typedName, std::string& shownName);
+    void switchSession(int slot);
+    void deleteSession();
+    void dropFiles(const std::vector<std::string>& paths);
+    void keyEntered(const std::string& typed);
+
+    // --- timers ----------------------------------------------------------------------
+    void tickSound();
+    void tickScore();
+    bool scoreTimerRunning() const { return m_scoring.counting(); }
 
     // --- the keyboard's opening (tmrOpen) ----------------------------------------------
     void openKeyboard();
@@ -65,18 +108,29 @@ public:
 
 private:
     // The round's hand-overs pass through here: the window opens its keyboard
-    // when a phrase is laid, then whoever else listens hears of it.
+    // when a phrase is laid, scores the end of a game and saves the options,
+    // then whoever else listens hears of it.
     void nextTurn() override { m_outer.nextTurn(); }
     void phraseLaid() override;
-    void roundWon() override { m_outer.roundWon(); }
-    void roundLost() override { m_outer.roundLost(); }
+    void roundWon() override;
+    void roundLost() override;
     void countdownStopped() override { m_outer.countdownStopped(); }
     void correctionAsked(bool asking) override { m_outer.correctionAsked(asking); }
+    void settingsChanged() override;
+    void titleChanged() override { m_scoring.refreshTitle(); }
+    bool scoreCounting() const override { return m_scoring.counting(); }
+
+    void sessionChanged(bool changed);
 
     SharedState& m_shared;
+    Dialogs& m_dialogs;
     RoundEvents m_noEvents;
     RoundEvents& m_outer;
     Round m_round;
+    Scoring m_scoring;
+    Sessions m_sessions;
+    SessionPanelModel m_panel;
+    Random& m_random;
     int m_hoveredKey = -1;
     int m_pressedKey = -1;
     std::string m_quitCaption;
@@ -84,6 +138,7 @@ private:
     bool m_opening = false;
     bool m_keyboardShown = false;
     int m_heightTwips = kBaseHeightTwips;
+    bool m_restart = false;
 };
 
 } // namespace quillora

@@ -8,11 +8,19 @@
 #include "windows/frmQlvs/GallowsView.h"
 #include "windows/frmQlvs/KeyboardView.h"
 #include "windows/frmQlvs/PhraseView.h"
+#include "windows/frmQlvs/SessionPanel.h"
+#include "windows/frmWord2/frmWord2.h"
 #include "words/Text.h"
 
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMimeData>
 #include <QPushButton>
 #include <QTimer>
 
@@ -42,6 +50,8 @@ constexpr int kStrikeWidth = 735, kStrikeHeight = 495, kStrikePitch = 720;
 constexpr int kPlayLeft = 9000, kPlayTop = 3570, kPlayWidth = 2295, kPlayHeight = 615;
 constexpr int kQueEsLeft = 240, kQueEsTop = 4380, kQueEsWidth = 2520, kQueEsHeight = 360;
 constexpr int kWordLeft = 3000, kWordTop = 4290, kWordWidth = 8295, kWordHeight = 540;
+constexpr int kScoreLeft = 120, kScoreTop = 60, kScoreWidth = 2415, kScoreHeight = 720;
+constexpr int kAutoLeft = 2610, kAutoTop = 345, kAutoSize = 330;
 
 const std::array<const char*, RoundState::kSlots> kStrikeTips{
     " Primer Strike. ", " Segundo Strike.", " Tercer Strike. ", " Cuarto Strike. ",
@@ -54,6 +64,8 @@ frmQlvs::frmQlvs(SharedState& shared, Dialogs& dialogs, Random& random, QWidget*
     setWindowTitle(QString::fromUtf8(kAppTitle.data(), static_cast<int>(kAppTitle.size())));
     setFocusPolicy(Qt::StrongFocus);
     setAutoFillBackground(true);
+    setAcceptDrops(true);
+    m_model.load();
     buildControls();
 
     m_tmrSusp = new QTimer(this);
@@ -74,8 +86,31 @@ frmQlvs::frmQlvs(SharedState& shared, Dialogs& dialogs, Random& random, QWidget*
     m_tmrSound = new QTimer(this);
     m_tmrSound->setInterval(PendingSound::kTickMs);
     connect(m_tmrSound, &QTimer::timeout, this, [this] {
-        m_model.round().pendingSound().tick();
+        m_model.tickSound();
         syncTimers();
+    });
+
+    m_tmrScore = new QTimer(this);
+    m_tmrScore->setInterval(QlvsModel::kScoreTickMs);
+    connect(m_tmrScore, &QTimer::timeout, this, [this] {
+        m_model.tickScore();
+        m_lblScore->setText(qs(m_model.scoring().scoreText()));
+        m_cmdGame->setEnabled(m_model.scoring().playEnabled());
+        syncTimers();
+    });
+
+    // The session panel's slide and its list's drop share the 10 ms beat.
+    m_tmrKey = new QTimer(this);
+    m_tmrKey->setInterval(SessionPanelModel::kTickMs);
+    connect(m_tmrKey, &QTimer::timeout, this, [this] {
+        m_model.panel().tick();
+        sync();
+    });
+    m_tmrMenu = new QTimer(this);
+    m_tmrMenu->setInterval(SessionPanelModel::kTickMs);
+    connect(m_tmrMenu, &QTimer::timeout, this, [this] {
+        m_model.panel().tickList();
+        sync();
     });
 
     m_tmrOpen = new QTimer(this);
@@ -175,6 +210,29 @@ void frmQlvs::buildControls() {
 
     m_keyboard = new KeyboardView(
         m_model, [this] { keyboardChanged(); }, this);
+
+    m_frmeScore = new QWidget(this);
+    m_frmeScore->setObjectName(QStringLiteral("frmeScore"));
+    m_frmeScore->setAttribute(Qt::WA_StyledBackground);
+    m_frmeScore->setGeometry(twipRect(kScoreLeft, kScoreTop, kScoreWidth, kScoreHeight));
+    auto* scoreCaption = new QLabel(QStringLiteral(" Puntos "), m_frmeScore);
+    scoreCaption->setGeometry(0, px(15), px(kScoreWidth), px(210));
+    scoreCaption->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    scoreCaption->setFont(Fonts::display(7));
+    m_lblScore = new QLabel(m_frmeScore);
+    m_lblScore->setGeometry(0, px(210), px(kScoreWidth), px(kScoreHeight - 240));
+    m_lblScore->setAlignment(Qt::AlignCenter);
+    m_lblScore->setFont(Fonts::display(14));
+
+    m_lblAuto = new QLabel(this);
+    m_lblAuto->setGeometry(twipRect(kAutoLeft, kAutoTop, kAutoSize, kAutoSize));
+    m_lblAuto->setAlignment(Qt::AlignCenter);
+    m_lblAuto->setFont(Fonts::display(9));
+    m_lblAuto->setCursor(Qt::PointingHandCursor);
+    m_lblAuto->installEventFilter(this);
+
+    m_sessionPanel = new SessionPanel(
+        m_model, [this] { sync(); }, this);
 }
 
 void frmQlvs::paintPanels() {
@@ -201,6 +259,12 @@ void frmQlvs::paintPanels() {
             "background: transparent; border-top: 2px solid %1; border-bottom: 2px solid %1;")
             .arg(css(lamp.dark)));
     m_frmeStrikes->setAttribute(Qt::WA_StyledBackground);
+    m_frmeScore->setStyleSheet(QStringLiteral("#frmeScore { background: %1; border-radius: %2px; }"
+                                              "QLabel { color: white; background: transparent; }")
+                                   .arg(css(m_model.round().deathColours() ? kRedLamp : lamp.light))
+                                   .arg(px(90)));
+    m_lblAuto->setStyleSheet(QStringLiteral("background: %1; color: %2; border-radius: 3px;")
+                                 .arg(css(kPictureButtonBack), css(kAutoMarkerText)));
     m_lblQueEs->setStyleSheet(
         QStringLiteral("color: %1; background: transparent; text-decoration: underline;")
             .arg(css(m_model.shade())));
@@ -249,12 +313,38 @@ void frmQlvs::sync() {
         setFocus();
     }
 
+    const Scoring& scoring = m_model.scoring();
+    setWindowTitle(qs(scoring.title()));
+    m_frmeScore->setVisible(scoring.pointsCount());
+    m_lblScore->setText(qs(scoring.scoreText()));
+    m_cmdGame->setEnabled(scoring.playEnabled());
+    m_lblAuto->setVisible(round.autoMarkerVisible());
+    m_lblAuto->setText(qs(round.autoMarkerCaption()));
+    m_lblAuto->setToolTip(qs(round.autoMarkerTooltip()));
+
     m_keyboard->setVisible(m_model.keyboardShown());
     m_keyboard->update();
     m_phrase->update();
     m_gallows->update();
     setFixedSize(px(QlvsModel::kWidthTwips), px(m_model.heightTwips()));
+    m_sessionPanel->sync();
     syncTimers();
+    followRestart();
+}
+
+void frmQlvs::followRestart() {
+    if (!m_model.restartRequested() || m_restarting) {
+        return;
+    }
+    // The board goes away for a new one; whoever opened it shows what comes
+    // next once the current event is over.
+    m_restarting = true;
+    QTimer::singleShot(0, this, [this] {
+        hide();
+        if (onRestart) {
+            onRestart();
+        }
+    });
 }
 
 void frmQlvs::syncTimers() {
@@ -268,11 +358,29 @@ void frmQlvs::syncTimers() {
     follow(m_tmrStrike, m_model.round().lampTimerRunning());
     follow(m_tmrSound, m_model.round().pendingSound().timerRunning());
     follow(m_tmrOpen, m_model.openTimerRunning());
+    follow(m_tmrScore, m_model.scoreTimerRunning());
+    follow(m_tmrKey, m_model.panel().animating());
+    follow(m_tmrMenu, m_model.panel().listSliding());
 }
 
 void frmQlvs::playPressed() {
-    m_model.round().cmdGame();
+    handleStart(m_model.playPressed());
+}
+
+void frmQlvs::handleStart(GameStart start) {
     sync();
+    if (start != GameStart::ThemeWindow || m_themeWindow) {
+        return;
+    }
+    m_themeWindow = new frmWord2(
+        m_model.round(), m_model.shared().palette, [this] { sync(); }, this);
+    m_themeWindow->setAttribute(Qt::WA_DeleteOnClose);
+    connect(m_themeWindow, &QObject::destroyed, this, [this] {
+        m_themeWindow = nullptr;
+        activateWindow();
+        setFocus();
+    });
+    m_themeWindow->open();
 }
 
 void frmQlvs::okPressed() {
@@ -293,16 +401,34 @@ void frmQlvs::keyboardChanged() {
 
 void frmQlvs::keyPressEvent(QKeyEvent* event) {
     using WindowKey = QlvsModel::WindowKey;
+    if (event->key() == Qt::Key_A && event->modifiers().testFlag(Qt::ControlModifier)) {
+        m_model.keyTyped(WindowKey::ToggleAuto);
+        sync();
+        return;
+    }
+    if (m_model.panel().shown() && event->key() != Qt::Key_F4) {
+        // Behind the session panel the board takes no guesses.
+        return;
+    }
     switch (event->key()) {
     case Qt::Key_Delete:
         m_model.keyTyped(WindowKey::Delete);
         break;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        m_model.keyTyped(WindowKey::Enter);
-        break;
+        handleStart(m_model.keyTyped(WindowKey::Enter));
+        return;
     case Qt::Key_Escape:
         m_model.keyTyped(WindowKey::Escape);
+        break;
+    case Qt::Key_F2:
+        m_model.keyTyped(WindowKey::F2);
+        break;
+    case Qt::Key_F3:
+        m_model.keyTyped(WindowKey::F3);
+        break;
+    case Qt::Key_F4:
+        m_model.keyTyped(WindowKey::F4);
         break;
     default: {
         const std::u32string text = event->text().toStdU32String();
@@ -318,6 +444,11 @@ void frmQlvs::keyPressEvent(QKeyEvent* event) {
 }
 
 bool frmQlvs::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_lblAuto && event->type() == QEvent::MouseButtonRelease) {
+        m_model.eMenuAuto();
+        sync();
+        return true;
+    }
     if (watched == m_lblQuit) {
         if (event->type() == QEvent::Enter || event->type() == QEvent::MouseMove) {
             m_model.hoverQuit();
@@ -351,6 +482,81 @@ bool frmQlvs::eventFilter(QObject* watched, QEvent* event) {
         }
     }
     return QWidget::eventFilter(watched, event);
+}
+
+QMenu* frmQlvs::buildPopup() {
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    const Round& round = m_model.round();
+    const Settings& settings = m_model.shared().settings;
+    auto entry = [&](const char* text, std::function<void()> action, bool enabled = true) {
+        QAction* a = menu->addAction(QString::fromUtf8(text));
+        a->setEnabled(enabled);
+        if (action) {
+            connect(a, &QAction::triggered, this, [this, action] {
+                action();
+                sync();
+            });
+        }
+        return a;
+    };
+    auto check = [](QAction* a, bool on) {
+        a->setCheckable(true);
+        a->setChecked(on);
+    };
+    // Entries whose windows come later are listed in their places, greyed.
+    entry(
+        "Nuevo partida", [this] { m_model.eMenuNew(); }, round.newGameEnabled());
+    menu->addSeparator();
+    entry("Reiniciar", [this] { m_model.eDReBoot(); });
+    entry("Bloquear", [this] { m_model.eBlueScreen(); });
+    if (m_model.scoring().pointsCount()) {
+        entry(settings.supervivencia ? "Modo normal" : "Modo supervivencia", nullptr, false);
+        entry("Estadísticas", nullptr, false);
+    }
+    if (m_model.deleteShown()) {
+        entry("Eliminar sesión", [this] { m_model.deleteSession(); });
+    }
+    entry("Volver al menú", nullptr, false);
+    menu->addSeparator();
+    check(entry("Mostrar sonidos", [this] { m_model.toggleSounds(); }), settings.sonidos);
+    check(entry("Frase automática", [this] { m_model.eMenuAuto(); }), settings.fraseAutomatica);
+    check(entry("Estado animado", [this] { m_model.toggleAnimation(); }), settings.animacion);
+    menu->addSeparator();
+    entry("Editar jugadores", nullptr, false);
+    entry("Historial", nullptr, false);
+    entry("Cambiar diseño", nullptr, false);
+    menu->addSeparator();
+    entry("Ayuda", nullptr, false);
+    entry("Acerca", nullptr, false);
+    menu->addSeparator();
+    entry("Salir", [] { QApplication::quit(); });
+    return menu;
+}
+
+void frmQlvs::contextMenuEvent(QContextMenuEvent* event) {
+    if (m_model.panel().shown()) {
+        return;
+    }
+    buildPopup()->popup(event->globalPos());
+}
+
+void frmQlvs::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->mimeData()->hasUrls()) {
+        event->acceptProposedAction();
+    }
+}
+
+void frmQlvs::dropEvent(QDropEvent* event) {
+    std::vector<std::string> paths;
+    for (const QUrl& url : event->mimeData()->urls()) {
+        if (url.isLocalFile()) {
+            paths.push_back(url.toLocalFile().toStdString());
+        }
+    }
+    event->acceptProposedAction();
+    m_model.dropFiles(paths);
+    sync();
 }
 
 } // namespace quillora

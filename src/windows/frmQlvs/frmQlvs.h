@@ -7,8 +7,10 @@
 #include <QWidget>
 
 #include <array>
+#include <functional>
 
 class QLabel;
+class QMenu;
 class QLineEdit;
 class QPushButton;
 class QTimer;
@@ -18,6 +20,8 @@ namespace quillora {
 class GallowsView;
 class KeyboardView;
 class PhraseView;
+class SessionPanel;
+class frmWord2;
 
 // The board window: the phrase, the figure, the strikes and the keyboard. It
 // turns the player's clicks and keys into calls on its model and paints what
@@ -28,6 +32,10 @@ public:
     ~frmQlvs() override;
 
     QlvsModel& model() { return m_model; }
+
+    // Called when the board closes to start the game again (a restart or a
+    // change of user) rather than to end the program.
+    std::function<void()> onRestart;
 
     // Brings every control in step with the model and starts or stops the
     // timers it asks for.
@@ -43,18 +51,30 @@ public:
     QLineEdit* answerBox() const { return m_txtWord; }
     QPushButton* answerOkButton() const { return m_cmdOk; }
     KeyboardView* keyboard() const { return m_keyboard; }
+    QLabel* scoreLabel() const { return m_lblScore; }
+    QWidget* scoreFrame() const { return m_frmeScore; }
+    QLabel* autoMarker() const { return m_lblAuto; }
+    SessionPanel* sessionPanel() const { return m_sessionPanel; }
+    frmWord2* themeWindow() const { return m_themeWindow; }
+    // The popup menu, built afresh for the state of the board.
+    QMenu* buildPopup();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void buildControls();
     void paintPanels();
     void syncTimers();
     void playPressed();
+    void handleStart(GameStart start);
     void okPressed();
     void keyboardChanged();
+    void followRestart();
 
     QlvsModel m_model;
 
@@ -73,11 +93,20 @@ private:
     QLabel* m_lblWordPrompt = nullptr;
     QLineEdit* m_txtWord = nullptr;
     QPushButton* m_cmdOk = nullptr;
+    QWidget* m_frmeScore = nullptr;
+    QLabel* m_lblScore = nullptr;
+    QLabel* m_lblAuto = nullptr;
+    SessionPanel* m_sessionPanel = nullptr;
+    frmWord2* m_themeWindow = nullptr;
+    bool m_restarting = false;
 
     QTimer* m_tmrSusp = nullptr;
     QTimer* m_tmrStrike = nullptr;
     QTimer* m_tmrSound = nullptr;
     QTimer* m_tmrOpen = nullptr;
+    QTimer* m_tmrScore = nullptr;
+    QTimer* m_tmrKey = nullptr;
+    QTimer* m_tmrMenu = nullptr;
 };
 
 } // namespace quillora

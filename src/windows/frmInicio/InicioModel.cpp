@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/frmInicio/InicioModel.h"
+
+#include "storage/ConfigFile.h"
+#include "storage/Sessions.h"
+#include "storage/SharedState.h"
+
+namespace quillora {
+
+void InicioLoad(SharedState& shared) {
+    Sessions::initialise(shared);
+    shared.palette = Palette{};
+    shared.settings.fraseAutomatica = false;
+    if (shared.skipStartDefaults) {
+        shared.skipStartDefaults = false;
+    } else {
+        UserSession& session = shared.currentSession();
+        session.corrections = "3";
+        shared.survivalPoints = 1000;
+        shared.normalPoints = 0;
+        auto& names = shared.playerNames[static_cast<std::size_t>(shared.currentSlot)];
+        for (std::size_t i = 0; i < names.size(); ++i) {
+            names[i] = "Jugador " + std::to_string(i + 1);
+        }
+    }
+    shared.correctionsLeft = static_cast<int>(leadingNumber(shared.currentSession().corrections));
+}
+
+} // namespace quillora
