@@ -57,7 +57,6 @@ private:
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quillora-vesta"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Quillora Vesta"));
 
     // The standard buttons of the message boxes speak Spanish like the rest
     // of the game, whatever the desktop's language.

@@ -228,7 +228,10 @@ void SessionPanel::keyPressEvent(QKeyEvent* event) {
     QWidget::keyPressEvent(event);
 }
 
-void SessionPanel::mousePressEvent(QMouseEvent*) {
+void SessionPanel::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) {
+        return;
+    }
     m_model.panel().hideListAndUserBox();
     m_changed();
 }
