@@ -104,6 +104,12 @@ GameStart Round::eGame() {
         }
         return GameStart::Nothing;
     }
+    if (!m_shared.multiplayer && m_shared.settings.supervivencia && m_shared.survivalPoints <= 0) {
+        m_dialogs.message(Dialogs::Icon::Exclamation,
+                          "Reinicia el juego o consigue puntos para volver a jugar en este modo.",
+                          "No puedes jugar sin puntos");
+        return GameStart::Nothing;
+    }
     if (m_shared.multiplayer) {
         return GameStart::FriendWindow;
     }

@@ -23,6 +23,7 @@ public:
         Icon icon = Icon::Information;
         std::string text;
         std::string title;
+        Question kind = Question::YesNo;
     };
 
     void answer(std::initializer_list<bool> answers) {
@@ -32,8 +33,8 @@ public:
     void message(Icon icon, const std::string& text, const std::string& title) override {
         shown.push_back({false, icon, text, title});
     }
-    bool ask(Question, const std::string& text, const std::string& title) override {
-        shown.push_back({true, Icon::Information, text, title});
+    bool ask(Question kind, const std::string& text, const std::string& title) override {
+        shown.push_back({true, Icon::Information, text, title, kind});
         if (m_answers.empty()) {
             ADD_FAILURE() << "unexpected question: " << text;
             return false;
@@ -81,10 +82,12 @@ struct RecordingEvents : RoundEvents {
     void roundWon() override { ++won; }
     void roundLost() override { ++lost; }
     void correctionAsked(bool asking) override { panelShown.push_back(asking); }
+    void settingsChanged() override { ++saved; }
 
     int turns = 0;
     int won = 0;
     int lost = 0;
+    int saved = 0;
     std::vector<bool> panelShown;
 };
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/frmQlvs/frmQlvs.h"
+#include "storage/ConfigFile.h"
 #include "support/Fakes.h"
 #include "windows/frmInicio/InicioModel.h"
 #include "windows/frmQlvs/KeyboardView.h"
@@ -8,12 +9,14 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPushButton>
 #include <QTest>
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 #include <memory>
 #include <random>
 
@@ -180,6 +183,78 @@ TEST_F(BoardWindow, LeavingAGameUnderWayAsksFirst) {
     EXPECT_EQ(window->statusLabel()->text(), "NUEVA PARTIDA");
     EXPECT_EQ(window->playButton()->text(), "JUGAR");
     EXPECT_EQ(dialogs.shown.back().text, "¿Seguro de salirse de la partida?");
+}
+
+TEST_F(BoardWindow, AWinCountsItsPointsUpAndNamesThemInTheTitle) {
+    EXPECT_TRUE(window->scoreFrame()->isVisible());
+    EXPECT_EQ(window->scoreLabel()->text(), "0");
+    startVaca();
+    type("vac");
+    EXPECT_EQ(window->windowTitle(), "Quillora Vesta | Puntos | +400");
+    int ticks = 0;
+    while (window->model().scoreTimerRunning() && ticks++ < 1000) {
+        window->model().tickScore();
+    }
+    window->sync();
+    EXPECT_EQ(window->scoreLabel()->text(), "400");
+    EXPECT_TRUE(window->playButton()->isEnabled());
+    const auto saved = readConfigLines(shared.currentSession().Archivo);
+    ASSERT_TRUE(saved) << "the end of a game writes the options";
+    EXPECT_EQ(saved->size(), 20U);
+}
+
+TEST_F(BoardWindow, ShortcutsReachTheirRoutines) {
+    QTest::keyClick(window.get(), Qt::Key_A, Qt::ControlModifier);
+    EXPECT_TRUE(shared.settings.fraseAutomatica);
+    EXPECT_TRUE(window->autoMarker()->isVisible());
+    QTest::keyClick(window.get(), Qt::Key_A, Qt::ControlModifier);
+    EXPECT_FALSE(window->autoMarker()->isVisible());
+
+    startVaca();
+    dialogs.answer({false});
+    QTest::keyClick(window.get(), Qt::Key_F3);
+    EXPECT_EQ(dialogs.shown.back().text, "Está apunto de reiniciar el juego, se borrará todo.");
+    EXPECT_EQ(dialogs.shown.back().kind, Dialogs::Question::OkCancel);
+    EXPECT_FALSE(window->model().restartRequested());
+
+    type("bdefg"); // five strikes with points: no new game
+    QTest::keyClick(window.get(), Qt::Key_F2);
+    EXPECT_EQ(dialogs.shown.back().text, "Tienes bastantes errores, termina el juego.");
+    EXPECT_EQ(window->playButton()->text(), "NUEVA PARTIDA");
+
+    QTest::keyClick(window.get(), Qt::Key_F4);
+    EXPECT_TRUE(window->model().panel().shown());
+    type("z");
+    EXPECT_EQ(strike(6), "") << "no guesses behind the session panel";
+}
+
+TEST_F(BoardWindow, ARestartHandsOverOnceTheEventIsOver) {
+    bool restarted = false;
+    window->onRestart = [&restarted] { restarted = true; };
+    dialogs.answer({true});
+    QTest::keyClick(window.get(), Qt::Key_F3);
+    EXPECT_TRUE(window->model().restartRequested());
+    EXPECT_FALSE(restarted);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(restarted);
+    EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(BoardWindow, ADroppedConfigurationFileBecomesASession) {
+    fs::create_directories(folder);
+    const fs::path file = folder / "ana.txt";
+    std::ofstream(file, std::ios::binary)
+        << "\r\n\r\n1\r\n0\r\n0\r\n0\r\n0\r\n1\r\n0\r\n0\r\n5\r\n1\r\n0\r\n0\r\nAna\r\n";
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QString::fromStdString(file.string()))});
+    QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window.get(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window.get(), &drop);
+    EXPECT_EQ(shared.currentSlot, 1);
+    EXPECT_EQ(shared.currentSession().displayName, "Ana");
+    EXPECT_TRUE(window->model().restartRequested());
 }
 
 } // namespace
