@@ -4,6 +4,7 @@
 #include "storage/SharedState.h"
 
 #include "support/Fakes.h"
+#include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -16,11 +17,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string slurp(const fs::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), {});
-}
-
 // Twenty lines as another copy of the game would write them.
 std::vector<std::string> fileLines() {
     return {"fondo.jpg", "C:\\Fotos", "2", "1", "0",   "1", "0", "1",   "1", "1",
@@ -30,13 +26,9 @@ std::vector<std::string> fileLines() {
 class ConfigFileTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        folder = fs::temp_directory_path() /
-                 ("quillora-config-" + std::to_string(std::random_device{}()));
-        fs::create_directories(folder);
         shared.dataFolder = folder;
         shared.currentSession().Archivo = (folder / "QuilloraVS5.txt").string();
     }
-    void TearDown() override { fs::remove_all(folder); }
 
     void writeRaw(const std::string& bytes) {
         std::ofstream(shared.currentSession().Archivo, std::ios::binary) << bytes;
@@ -58,7 +50,8 @@ protected:
             .value_or(std::vector<std::string>{});
     }
 
-    fs::path folder;
+    TempFolder temp{"quillora-config"};
+    const fs::path& folder = temp.path();
     SharedState shared;
     QueuedRandom random;
 };

@@ -6,6 +6,7 @@
 #include "windows/frmInicio/InicioModel.h"
 
 #include "support/Fakes.h"
+#include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -18,22 +19,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string slurp(const fs::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), {});
-}
-
 class SessionsTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        folder = fs::temp_directory_path() /
-                 ("quillora-sessions-" + std::to_string(std::random_device{}()));
-        fs::create_directories(folder);
         shared.dataFolder = folder;
         InicioLoad(shared);
         shared.currentSession().displayName = "Quillora VS";
     }
-    void TearDown() override { fs::remove_all(folder); }
 
     std::string add(const std::string& typed = "Nombre") {
         random.queue({0.5});
@@ -42,7 +34,8 @@ protected:
         return shown;
     }
 
-    fs::path folder;
+    TempFolder temp{"quillora-sessions"};
+    const fs::path& folder = temp.path();
     SharedState shared;
     ScriptedDialogs dialogs;
     QueuedRandom random;

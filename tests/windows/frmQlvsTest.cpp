@@ -3,6 +3,7 @@
 #include "windows/frmQlvs/frmQlvs.h"
 #include "storage/ConfigFile.h"
 #include "support/Fakes.h"
+#include "support/TempFolder.h"
 #include "windows/frmInicio/InicioModel.h"
 #include "windows/frmQlvs/KeyboardView.h"
 #include "windows/frmWord2/frmWord2.h"
@@ -28,8 +29,6 @@ namespace fs = std::filesystem;
 class BoardWindow : public ::testing::Test {
 protected:
     BoardWindow() {
-        folder = fs::temp_directory_path() /
-                 ("quillora-board-" + std::to_string(std::random_device{}()));
         shared.dataFolder = folder;
         InicioLoad(shared);
         // No file yet: the theme is drawn, and a 0 reads as theme 1.
@@ -41,10 +40,7 @@ protected:
         window->activateWindow();
         window->setFocus();
     }
-    void TearDown() override {
-        window.reset();
-        fs::remove_all(folder);
-    }
+    void TearDown() override { window.reset(); }
 
     // Theme 1 ("ANIMAL"), phrase 2 ("VACA"), through the theme window->
     void startVaca() {
@@ -68,7 +64,8 @@ protected:
     }
     QString strike(int slot) const { return window->strikeLabel(slot)->text(); }
 
-    fs::path folder;
+    TempFolder temp{"quillora-board"};
+    const fs::path& folder = temp.path();
     SharedState shared;
     ScriptedDialogs dialogs;
     QueuedRandom random;

@@ -4,6 +4,7 @@
 
 #include "platform/Fonts.h"
 #include "round/Figure.h"
+#include "windows/appearance/QtColour.h"
 #include "windows/appearance/Twips.h"
 
 #include <QPainter>
@@ -13,9 +14,6 @@ namespace quillora {
 
 namespace {
 
-QColor qc(Rgb c) {
-    return QColor(c.red, c.green, c.blue);
-}
 QRectF box(TwipBox b) {
     return QRectF(b.left, b.top, b.width, b.height);
 }

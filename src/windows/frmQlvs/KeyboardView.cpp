@@ -3,6 +3,7 @@
 #include "windows/frmQlvs/KeyboardView.h"
 
 #include "platform/Fonts.h"
+#include "windows/appearance/QtColour.h"
 #include "windows/appearance/Twips.h"
 #include "windows/frmQlvs/QlvsModel.h"
 
@@ -15,10 +16,6 @@ namespace {
 
 constexpr double kKeyFontPoints = 12;
 constexpr double kWideKeyFontPoints = 10;
-
-QColor qc(Rgb c) {
-    return QColor(c.red, c.green, c.blue);
-}
 
 } // namespace
 

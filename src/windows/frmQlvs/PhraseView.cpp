@@ -3,6 +3,7 @@
 #include "windows/frmQlvs/PhraseView.h"
 
 #include "platform/Fonts.h"
+#include "windows/appearance/QtColour.h"
 #include "windows/appearance/Twips.h"
 #include "windows/frmQlvs/QlvsModel.h"
 
@@ -18,10 +19,6 @@ constexpr int kRowPitch = 720;
 constexpr int kUnderlineLength = 480;
 constexpr int kUnderlineBelowTop = 480;
 constexpr double kCellFontPoints = 20.25;
-
-QColor qc(Rgb c) {
-    return QColor(c.red, c.green, c.blue);
-}
 
 } // namespace
 

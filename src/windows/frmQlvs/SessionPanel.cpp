@@ -3,6 +3,7 @@
 #include "windows/frmQlvs/SessionPanel.h"
 
 #include "platform/Fonts.h"
+#include "windows/appearance/QtColour.h"
 #include "windows/appearance/Twips.h"
 #include "windows/frmQlvs/QlvsModel.h"
 
@@ -18,9 +19,6 @@ namespace quillora {
 
 namespace {
 
-QString css(Rgb c) {
-    return QStringLiteral("rgb(%1,%2,%3)").arg(c.red).arg(c.green).arg(c.blue);
-}
 QString qs(const std::string& text) {
     return QString::fromStdString(text);
 }

@@ -4,6 +4,7 @@
 
 #include "platform/Fonts.h"
 #include "ports/Dialogs.h"
+#include "windows/appearance/QtColour.h"
 #include "windows/appearance/Twips.h"
 #include "windows/frmQlvs/GallowsView.h"
 #include "windows/frmQlvs/KeyboardView.h"
@@ -28,12 +29,6 @@ namespace quillora {
 
 namespace {
 
-QColor qc(Rgb c) {
-    return QColor(c.red, c.green, c.blue);
-}
-QString css(Rgb c) {
-    return QStringLiteral("rgb(%1,%2,%3)").arg(c.red).arg(c.green).arg(c.blue);
-}
 QRect twipRect(int left, int top, int width, int height) {
     return QRect(px(left), px(top), px(width), px(height));
 }

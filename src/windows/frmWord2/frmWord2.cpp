@@ -4,6 +4,7 @@
 
 #include "platform/Fonts.h"
 #include "round/Round.h"
+#include "windows/appearance/QtColour.h"
 #include "windows/appearance/Twips.h"
 
 #include <QKeyEvent>
@@ -17,10 +18,6 @@ namespace {
 
 constexpr int kWidthTwips = 5400;
 constexpr int kHeightTwips = 2160;
-
-QString css(Rgb c) {
-    return QStringLiteral("rgb(%1,%2,%3)").arg(c.red).arg(c.green).arg(c.blue);
-}
 
 } // namespace
 

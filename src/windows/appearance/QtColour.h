@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "windows/appearance/Colour.h"
+
+#include <QColor>
+#include <QString>
+
+namespace quillora {
+
+// The game's colours as the widgets take them: a QColor for painting and
+// the text form that style sheets read.
+inline QColor qc(Rgb c) {
+    return QColor(c.red, c.green, c.blue);
+}
+inline QString css(Rgb c) {
+    return QStringLiteral("rgb(%1,%2,%3)").arg(c.red).arg(c.green).arg(c.blue);
+}
+
+} // namespace quillora
