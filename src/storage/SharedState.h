@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "players/PlayerRoster.h"
 #include "storage/Settings.h"
 #include "storage/UserSession.h"
 #include "windows/appearance/Colour.h"
@@ -62,6 +63,7 @@ struct SharedState {
     // The phrase is typed by a friend rather than drawn from the catalogue.
     bool multiplayer = false;
     int playerCount = 1;
+    PlayerRoster roster;
 
     UserSession& currentSession() { return sessions[static_cast<std::size_t>(currentSlot)]; }
     const UserSession& currentSession() const {
