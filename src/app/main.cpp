@@ -2,18 +2,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/Fonts.h"
 #include "platform/QtDialogs.h"
+#include "platform/QtWeb.h"
 #include "ports/ClockRandom.h"
 #include "storage/SharedState.h"
-#include "windows/frmInicio/InicioModel.h"
+#include "windows/frmInicio/frmInicio.h"
 #include "windows/frmQlvs/frmQlvs.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QProcess>
+#include <QScreen>
 #include <QStandardPaths>
 #include <QTranslator>
 
+#include <QTimer>
+
+#include <functional>
 #include <memory>
 
 namespace {
@@ -30,26 +36,53 @@ public:
         m_shared.settings.nombre = "Quillora VS";
     }
 
+    // The start screen, at program start and after every restart.
     void start() {
-        quillora::InicioLoad(m_shared);
-        auto board = std::make_unique<quillora::frmQlvs>(m_shared, m_dialogs, m_random);
-        board->onRestart = [this] { restart(); };
-        board->show();
-        m_board = std::move(board);
+        auto screen = std::make_unique<quillora::frmInicio>(m_shared, m_dialogs, m_web,
+                                                            quillora::Fonts::displayAvailable());
+        screen->onMenu = [this] { later([this] { openBoard(); }); };
+        screen->onRestart = [] {
+            QProcess::startDetached(QCoreApplication::applicationFilePath(), {});
+            QCoreApplication::quit();
+        };
+        screen->onClose = [] { QCoreApplication::quit(); };
+        centre(*screen);
+        screen->show();
+        replace(std::move(screen));
     }
 
 private:
-    void restart() {
-        // The old board is still on the stack of the event that asked for
-        // the restart, so it is deleted later.
-        m_board.release()->deleteLater();
-        start();
+    void openBoard() {
+        auto board = std::make_unique<quillora::frmQlvs>(m_shared, m_dialogs, m_random);
+        board->onRestart = [this] { later([this] { start(); }); };
+        centre(*board);
+        board->show();
+        replace(std::move(board));
+    }
+
+    // Only one of the game's windows shows at a time. The one going away may
+    // still be on the stack of the event that asked for the change, so it is
+    // hidden now and deleted later.
+    void replace(std::unique_ptr<QWidget> next) {
+        if (m_window) {
+            m_window->hide();
+            m_window.release()->deleteLater();
+        }
+        m_window = std::move(next);
+    }
+    static void later(std::function<void()> step) { QTimer::singleShot(0, std::move(step)); }
+    static void centre(QWidget& window) {
+        if (const QScreen* screen = QGuiApplication::primaryScreen()) {
+            const QRect area = screen->availableGeometry();
+            window.move(area.center() - QPoint(window.width() / 2, window.height() / 2));
+        }
     }
 
     quillora::SharedState m_shared;
     quillora::QtDialogs m_dialogs;
     quillora::ClockRandom m_random;
-    std::unique_ptr<quillora::frmQlvs> m_board;
+    quillora::QtWeb m_web;
+    std::unique_ptr<QWidget> m_window;
 };
 
 } // namespace

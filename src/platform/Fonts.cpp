@@ -43,6 +43,10 @@ QString Fonts::displayFamily() {
     return embeddedDisplay.isEmpty() ? QFont().family() : embeddedDisplay;
 }
 
+bool Fonts::displayAvailable() {
+    return QFontDatabase::families().contains(kPreferredDisplay) || !embeddedDisplay.isEmpty();
+}
+
 QString Fonts::faceFamily() {
     if (QFontDatabase::families().contains(kPreferredFace)) {
         return kPreferredFace;

@@ -15,6 +15,8 @@ public:
     // Registers the embedded fonts once; call after the application exists.
     static void registerEmbedded();
     static QString displayFamily();
+    // The board's font is there: installed, or the look-alike registered.
+    static bool displayAvailable();
     static QString faceFamily();
     // The display font at a size in points of the reference layout.
     static QFont display(double points, bool bold = true);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/frmInicio/InicioModel.h"
 
+#include "ports/Dialogs.h"
+#include "ports/Web.h"
 #include "storage/ConfigFile.h"
 #include "storage/Sessions.h"
 #include "storage/SharedState.h"
@@ -25,6 +27,48 @@ void InicioLoad(SharedState& shared) {
         }
     }
     shared.correctionsLeft = static_cast<int>(leadingNumber(shared.currentSession().corrections));
+}
+
+} // namespace quillora
+
+namespace quillora {
+
+InicioModel::InicioModel(SharedState& shared, bool fontAvailable) : m_fontMissing(!fontAvailable) {
+    InicioLoad(shared);
+}
+
+void InicioModel::tick() {
+    if (!m_running) {
+        return;
+    }
+    if (m_ticks < kTicks) {
+        m_lineLength += kLineStep;
+        ++m_ticks;
+    }
+    if (m_ticks >= kTicks) {
+        eGoForm();
+    }
+}
+
+void InicioModel::eGoForm() {
+    m_running = false;
+    if (!m_fontMissing) {
+        m_outcome = Outcome::ShowMenu;
+        return;
+    }
+    m_pointerShown = true;
+    m_noticeShown = true;
+}
+
+void InicioModel::download(Web& web, Dialogs& dialogs) {
+    if (!web.networkAlive()) {
+        dialogs.information(
+            "Se requiere una conexión a Internet para descargar, intente más tarde.");
+        return;
+    }
+    web.openUrl(kFontDownloadUrl);
+    m_pointerLeft = kPointerAtRestart;
+    m_downloaded = true;
 }
 
 } // namespace quillora
