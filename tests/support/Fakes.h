@@ -4,6 +4,7 @@
 
 #include "ports/Dialogs.h"
 #include "ports/Random.h"
+#include "ports/Web.h"
 #include "round/Round.h"
 
 #include <gtest/gtest.h>
@@ -89,6 +90,16 @@ struct RecordingEvents : RoundEvents {
     int lost = 0;
     int saved = 0;
     std::vector<bool> panelShown;
+};
+
+// A network that is up or down as the test says, and remembers the pages
+// it was asked to open.
+struct FakeWeb : Web {
+    bool networkAlive() override { return alive; }
+    void openUrl(const std::string& url) override { opened.push_back(url); }
+
+    bool alive = true;
+    std::vector<std::string> opened;
 };
 
 } // namespace quillora
