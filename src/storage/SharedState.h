@@ -64,6 +64,9 @@ struct SharedState {
     bool multiplayer = false;
     int playerCount = 1;
     PlayerRoster roster;
+    // The theme text of the last friend's phrase, offered again to the next
+    // friend who writes one; kept for the program's run.
+    std::string lastFriendTheme;
 
     UserSession& currentSession() { return sessions[static_cast<std::size_t>(currentSlot)]; }
     const UserSession& currentSession() const {

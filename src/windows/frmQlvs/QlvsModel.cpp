@@ -88,6 +88,12 @@ GameStart QlvsModel::keyTyped(WindowKey key, char32_t character) {
     case WindowKey::ToggleAuto:
         m_round.eMenuAuto();
         break;
+    case WindowKey::ToggleSounds:
+        toggleSounds();
+        break;
+    case WindowKey::BackToMenu:
+        eMenuBack();
+        break;
     case WindowKey::Escape:
     case WindowKey::Other:
         break;
@@ -160,6 +166,24 @@ void QlvsModel::toggleSounds() {
 void QlvsModel::toggleAnimation() {
     m_shared.settings.animacion = !m_shared.settings.animacion;
     ConfSave(m_shared);
+}
+
+void QlvsModel::eMenuBack() {
+    if (m_round.eMenuBack()) {
+        m_toMenu = true;
+    }
+}
+
+void QlvsModel::hidePlayButton(bool hidden) {
+    m_shared.settings.sinBotonJugar = hidden;
+    ConfSave(m_shared);
+}
+
+GameStart QlvsModel::backgroundClicked() {
+    if (m_shared.settings.sinBotonJugar) {
+        return playPressed();
+    }
+    return GameStart::Nothing;
 }
 
 void QlvsModel::eReBoot() {

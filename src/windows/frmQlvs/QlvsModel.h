@@ -43,7 +43,19 @@ public:
 
     // --- keys and the mouse ----------------------------------------------------------
     // A key the window handles before its controls.
-    enum class WindowKey { Character, Delete, Enter, Escape, F2, F3, F4, ToggleAuto, Other };
+    enum class WindowKey {
+        Character,
+        Delete,
+        Enter,
+        Escape,
+        F2,
+        F3,
+        F4,
+        ToggleAuto,
+        ToggleSounds,
+        BackToMenu,
+        Other
+    };
     GameStart keyTyped(WindowKey key, char32_t character = 0);
     // The JUGAR button.
     GameStart playPressed();
@@ -71,6 +83,14 @@ public:
     void eReBoot();
     void eDReBoot();
     bool restartRequested() const { return m_restart; }
+    // "Volver al menú", Alt+Backspace.
+    void eMenuBack();
+    bool menuRequested() const { return m_toMenu; }
+    // "Desaparecer botón" and the restore label.
+    void hidePlayButton(bool hidden);
+    // A click on the board's background: closes the side panels, and plays
+    // when the JUGAR button is hidden.
+    GameStart backgroundClicked();
 
     // --- sessions ------------------------------------------------------------------
     SessionPanelModel& panel() { return m_panel; }
@@ -139,6 +159,7 @@ private:
     bool m_keyboardShown = false;
     int m_heightTwips = kBaseHeightTwips;
     bool m_restart = false;
+    bool m_toMenu = false;
 };
 
 } // namespace quillora

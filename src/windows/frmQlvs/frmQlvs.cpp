@@ -14,6 +14,7 @@
 #include "words/Text.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QContextMenuEvent>
 #include <QDragEnterEvent>
 #include <QDropEvent>
@@ -47,6 +48,7 @@ constexpr int kQueEsLeft = 240, kQueEsTop = 4380, kQueEsWidth = 2520, kQueEsHeig
 constexpr int kWordLeft = 3000, kWordTop = 4290, kWordWidth = 8295, kWordHeight = 540;
 constexpr int kScoreLeft = 120, kScoreTop = 60, kScoreWidth = 2415, kScoreHeight = 720;
 constexpr int kAutoLeft = 2610, kAutoTop = 345, kAutoSize = 330;
+constexpr int kCopyLeft = 2130, kCopyTop = 3630, kCopyWidth = 780, kCopyHeight = 435;
 
 const std::array<const char*, RoundState::kSlots> kStrikeTips{
     " Primer Strike. ", " Segundo Strike.", " Tercer Strike. ", " Cuarto Strike. ",
@@ -176,6 +178,22 @@ void frmQlvs::buildControls() {
     m_cmdGame->setFont(Fonts::display(13));
     m_cmdGame->setCursor(Qt::PointingHandCursor);
     connect(m_cmdGame, &QPushButton::clicked, this, &frmQlvs::playPressed);
+    m_cmdGame->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_cmdGame, &QWidget::customContextMenuRequested, this,
+            [this](const QPoint& at) { buildPlayMenu()->popup(m_cmdGame->mapToGlobal(at)); });
+
+    // The small twin of JUGAR: it plays too, and keys typed on it are guesses.
+    m_cmdCopy = new QPushButton(QStringLiteral("JUGAR"), this);
+    m_cmdCopy->setGeometry(twipRect(kCopyLeft, kCopyTop, kCopyWidth, kCopyHeight));
+    m_cmdCopy->setFont(Fonts::display(7));
+    m_cmdCopy->setCursor(Qt::PointingHandCursor);
+    m_cmdCopy->setFocusPolicy(Qt::NoFocus);
+    connect(m_cmdCopy, &QPushButton::clicked, this, &frmQlvs::playPressed);
+
+    m_lblRestore = new QLabel(this);
+    m_lblRestore->setGeometry(twipRect(kPlayLeft, kPlayTop, kPlayWidth, kPlayHeight));
+    m_lblRestore->setCursor(Qt::PointingHandCursor);
+    m_lblRestore->installEventFilter(this);
 
     m_lblQueEs = new QLabel(QStringLiteral("¿Qué es eso?"), this);
     m_lblQueEs->setGeometry(twipRect(kQueEsLeft, kQueEsTop, kQueEsWidth, kQueEsHeight));
@@ -258,6 +276,11 @@ void frmQlvs::paintPanels() {
                                               "QLabel { color: white; background: transparent; }")
                                    .arg(css(m_model.round().deathColours() ? kRedLamp : lamp.light))
                                    .arg(px(90)));
+    m_cmdCopy->setStyleSheet(QStringLiteral("QPushButton { background: %1; color: white; border: none;"
+                                            " border-radius: 4px; } QPushButton:disabled { background: %2; }")
+                                 .arg(css(game), css(kPictureButtonBack)));
+    m_lblRestore->setStyleSheet(QStringLiteral("QLabel { border: 1px dashed %1; border-radius: 8px; }")
+                                    .arg(css(kPictureButtonBack)));
     m_lblAuto->setStyleSheet(QStringLiteral("background: %1; color: %2; border-radius: 3px;")
                                  .arg(css(kPictureButtonBack), css(kAutoMarkerText)));
     m_lblQueEs->setStyleSheet(
@@ -313,6 +336,13 @@ void frmQlvs::sync() {
     m_frmeScore->setVisible(scoring.pointsCount());
     m_lblScore->setText(qs(scoring.scoreText()));
     m_cmdGame->setEnabled(scoring.playEnabled());
+    const bool buttonHidden = m_model.shared().settings.sinBotonJugar;
+    m_cmdGame->setVisible(!buttonHidden);
+    m_cmdCopy->setVisible(!buttonHidden);
+    m_cmdCopy->setText(qs(round.playCaption() == "JUGAR" ? "JUGAR" : "NUEVA"));
+    m_cmdCopy->setEnabled(scoring.playEnabled() && !m_model.shared().locked);
+    m_lblRestore->setVisible(buttonHidden);
+    m_lblRestore->setToolTip(buttonHidden ? QStringLiteral(" Regresar botón JUGAR. ") : QString());
     m_lblAuto->setVisible(round.autoMarkerVisible());
     m_lblAuto->setText(qs(round.autoMarkerCaption()));
     m_lblAuto->setToolTip(qs(round.autoMarkerTooltip()));
@@ -328,6 +358,17 @@ void frmQlvs::sync() {
 }
 
 void frmQlvs::followRestart() {
+    if (m_model.menuRequested() && !m_restarting) {
+        m_restarting = true;
+        QTimer::singleShot(0, this, [this] {
+            m_leaving = true;
+            hide();
+            if (onMenu) {
+                onMenu();
+            }
+        });
+        return;
+    }
     if (!m_model.restartRequested() || m_restarting) {
         return;
     }
@@ -335,6 +376,7 @@ void frmQlvs::followRestart() {
     // next once the current event is over.
     m_restarting = true;
     QTimer::singleShot(0, this, [this] {
+        m_leaving = true;
         hide();
         if (onRestart) {
             onRestart();
@@ -401,6 +443,20 @@ void frmQlvs::keyPressEvent(QKeyEvent* event) {
         sync();
         return;
     }
+    if (event->modifiers().testFlag(Qt::ControlModifier) && event->key() == Qt::Key_S) {
+        m_model.keyTyped(WindowKey::ToggleSounds);
+        sync();
+        return;
+    }
+    if (event->modifiers().testFlag(Qt::AltModifier) && event->key() == Qt::Key_Backspace) {
+        m_model.keyTyped(WindowKey::BackToMenu);
+        sync();
+        return;
+    }
+    if (event->key() == Qt::Key_Menu) {
+        buildPopup()->popup(mapToGlobal(rect().center()));
+        return;
+    }
     if (m_model.panel().shown() && event->key() != Qt::Key_F4) {
         // Behind the session panel the board takes no guesses.
         return;
@@ -439,6 +495,13 @@ void frmQlvs::keyPressEvent(QKeyEvent* event) {
 }
 
 bool frmQlvs::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_lblRestore && event->type() == QEvent::MouseButtonRelease) {
+        if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+            m_model.hidePlayButton(false);
+            sync();
+        }
+        return true;
+    }
     if (watched == m_lblAuto && event->type() == QEvent::MouseButtonRelease) {
         m_model.eMenuAuto();
         sync();
@@ -512,7 +575,7 @@ QMenu* frmQlvs::buildPopup() {
     if (m_model.deleteShown()) {
         entry("Eliminar sesión", [this] { m_model.deleteSession(); });
     }
-    entry("Volver al menú", nullptr, false);
+    entry("Volver al menú", [this] { m_model.eMenuBack(); });
     menu->addSeparator();
     check(entry("Mostrar sonidos", [this] { m_model.toggleSounds(); }), settings.sonidos);
     check(entry("Frase automática", [this] { m_model.eMenuAuto(); }), settings.fraseAutomatica);
@@ -527,6 +590,39 @@ QMenu* frmQlvs::buildPopup() {
     menu->addSeparator();
     entry("Salir", [] { QApplication::quit(); });
     return menu;
+}
+
+QMenu* frmQlvs::buildPlayMenu() {
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    QAction* autoPhrase = menu->addAction(QStringLiteral("Frase automática"));
+    autoPhrase->setCheckable(true);
+    autoPhrase->setChecked(m_model.shared().settings.fraseAutomatica);
+    connect(autoPhrase, &QAction::triggered, this, [this] {
+        m_model.eMenuAuto();
+        sync();
+    });
+    connect(menu->addAction(QStringLiteral("Desaparecer botón")), &QAction::triggered, this, [this] {
+        m_model.hidePlayButton(true);
+        sync();
+    });
+    return menu;
+}
+
+void frmQlvs::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && !m_model.panel().shown()) {
+        handleStart(m_model.backgroundClicked());
+        return;
+    }
+    QWidget::mousePressEvent(event);
+}
+
+void frmQlvs::closeEvent(QCloseEvent* event) {
+    // The close box ends the game; going to the menu or restarting does not.
+    if (!m_leaving) {
+        QApplication::quit();
+    }
+    event->accept();
 }
 
 void frmQlvs::contextMenuEvent(QContextMenuEvent* event) {

@@ -36,6 +36,8 @@ public:
     // Called when the board closes to start the game again (a restart or a
     // change of user) rather than to end the program.
     std::function<void()> onRestart;
+    // Called when the board goes back to the main menu.
+    std::function<void()> onMenu;
 
     // Brings every control in step with the model and starts or stops the
     // timers it asks for.
@@ -48,6 +50,9 @@ public:
     QLabel* strikeLabel(int slot) const { return m_lblStrike[static_cast<std::size_t>(slot - 1)]; }
     QLabel* quitLabel() const { return m_lblQuit; }
     QPushButton* playButton() const { return m_cmdGame; }
+    QPushButton* smallPlayButton() const { return m_cmdCopy; }
+    QLabel* restoreLabel() const { return m_lblRestore; }
+    QMenu* buildPlayMenu();
     QLineEdit* answerBox() const { return m_txtWord; }
     QPushButton* answerOkButton() const { return m_cmdOk; }
     KeyboardView* keyboard() const { return m_keyboard; }
@@ -65,6 +70,8 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     void buildControls();
@@ -93,12 +100,15 @@ private:
     QLabel* m_lblWordPrompt = nullptr;
     QLineEdit* m_txtWord = nullptr;
     QPushButton* m_cmdOk = nullptr;
+    QPushButton* m_cmdCopy = nullptr;
+    QLabel* m_lblRestore = nullptr;
     QWidget* m_frmeScore = nullptr;
     QLabel* m_lblScore = nullptr;
     QLabel* m_lblAuto = nullptr;
     SessionPanel* m_sessionPanel = nullptr;
     frmWord2* m_themeWindow = nullptr;
     bool m_restarting = false;
+    bool m_leaving = false;
 
     QTimer* m_tmrSusp = nullptr;
     QTimer* m_tmrStrike = nullptr;
