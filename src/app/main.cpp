@@ -6,6 +6,7 @@
 #include "ports/ClockRandom.h"
 #include "storage/SharedState.h"
 #include "windows/frmInicio/frmInicio.h"
+#include "windows/frmMenu/frmMenu.h"
 #include "windows/frmQlvs/frmQlvs.h"
 
 #include <QApplication>
@@ -21,6 +22,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace {
 
@@ -40,7 +42,7 @@ public:
     void start() {
         auto screen = std::make_unique<quillora::frmInicio>(m_shared, m_dialogs, m_web,
                                                             quillora::Fonts::displayAvailable());
-        screen->onMenu = [this] { later([this] { openBoard(); }); };
+        screen->onMenu = [this] { later([this] { openMenu(std::nullopt); }); };
         screen->onRestart = [] {
             QProcess::startDetached(QCoreApplication::applicationFilePath(), {});
             QCoreApplication::quit();
@@ -52,10 +54,34 @@ public:
     }
 
 private:
+    // The main menu: centred at start, where the board was when the board
+    // goes back to it.
+    void openMenu(std::optional<QPoint> boardCentre) {
+        auto menu = std::make_unique<quillora::frmMenu>(m_shared, m_dialogs);
+        menu->onPlay = [this] { later([this] { openBoard(); }); };
+        menu->onQuit = [] { QCoreApplication::quit(); };
+        if (boardCentre) {
+            menu->move(*boardCentre - QPoint(menu->width() / 2, menu->height() / 2));
+        } else {
+            centre(*menu);
+        }
+        menu->show();
+        replace(std::move(menu));
+    }
+
     void openBoard() {
+        const QPoint menuCentre = m_window ? m_window->geometry().center() : QPoint();
         auto board = std::make_unique<quillora::frmQlvs>(m_shared, m_dialogs, m_random);
         board->onRestart = [this] { later([this] { start(); }); };
-        centre(*board);
+        board->onMenu = [this] {
+            const QPoint at = m_window->geometry().center();
+            later([this, at] { openMenu(at); });
+        };
+        if (m_window) {
+            board->move(menuCentre - QPoint(board->width() / 2, board->height() / 2));
+        } else {
+            centre(*board);
+        }
         board->show();
         replace(std::move(board));
     }

@@ -258,6 +258,8 @@ void Round::eMenuNew() {
 
 void Round::BotonNuevo() {
     m_designEnabled = true;
+    // A friend's phrase leaves out its author; the next game counts everyone.
+    m_shared.playerCount = m_shared.roster.rosterSize;
     m_lamp = Lamp::None;
     m_lampTimerRunning = false;
     m_deathColours = false;
@@ -388,7 +390,10 @@ void Round::endRound(const std::string& caption) {
     m_counterVisible = false;
     m_state.over = true;
     m_catalogue.ThemeLoad();
-    m_themeLabel = m_catalogue.themeName(m_gameTheme);
+    // A friend's phrase has no catalogue theme: its own theme text stays.
+    if (m_gameTheme != 0) {
+        m_themeLabel = m_catalogue.themeName(m_gameTheme);
+    }
     advanceTour();
     m_queEsEsoVisible = true;
     m_state.manyErrors = false;

@@ -30,6 +30,7 @@ void QlvsModel::load() {
     if (m_shared.locked) {
         m_panel.openLocked();
     }
+    ePlayerName();
     if (m_shared.settings.tecladoPermanente) {
         m_heightTwips = kBaseHeightTwips + kKeyboardExtraTwips;
         m_keyboardShown = true;
@@ -37,6 +38,47 @@ void QlvsModel::load() {
 }
 
 // --- round hand-overs ---------------------------------------------------------------
+
+void QlvsModel::ePlayerName() {
+    m_player = quillora::ePlayerName(m_shared, m_player.caption);
+}
+
+void QlvsModel::hoverPlayer() {
+    if (!freeTurn()) {
+        ePlayerName();
+    }
+}
+
+void QlvsModel::adelantar() {
+    quillora::adelantar(m_shared);
+    ePlayerName();
+}
+
+void QlvsModel::atrasar() {
+    quillora::atrasar(m_shared);
+    ePlayerName();
+}
+
+void QlvsModel::toggleFreeTurn() {
+    quillora::toggleFreeTurn(m_shared);
+    ePlayerName();
+}
+
+void QlvsModel::namesClosed() {
+    ePlayerName();
+    ConfSave(m_shared);
+}
+
+void QlvsModel::friendPhrase(const std::string& phrase, const std::string& themeText) {
+    ePlayerName();
+    m_round.startPhrase(phrase, 0, themeText);
+}
+
+void QlvsModel::nextTurn() {
+    eNext(m_shared);
+    ePlayerName();
+    m_outer.nextTurn();
+}
 
 void QlvsModel::phraseLaid() {
     openKeyboard();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "players/Players.h"
 #include "round/Round.h"
 #include "scoring/Points.h"
 #include "storage/Sessions.h"
@@ -38,6 +39,9 @@ public:
     Round& round() { return m_round; }
     const Round& round() const { return m_round; }
     const SharedState& shared() const { return m_shared; }
+    // The windows the board opens work on the same state and boxes.
+    SharedState& shared() { return m_shared; }
+    Dialogs& dialogs() { return m_dialogs; }
     Scoring& scoring() { return m_scoring; }
     const Scoring& scoring() const { return m_scoring; }
 
@@ -92,6 +96,24 @@ public:
     // when the JUGAR button is hidden.
     GameStart backgroundClicked();
 
+    // --- players -----------------------------------------------------------------
+    // The player whose turn it is, as the label shows it.
+    const PlayerLabel& playerLabel() const { return m_player; }
+    void ePlayerName();
+    // The mouse passes over a player label.
+    void hoverPlayer();
+    bool turnMovesEnabled() const { return quillora::turnMovesEnabled(m_shared); }
+    bool freeTurn() const { return freeTurnOn(m_shared); }
+    void adelantar();
+    void atrasar();
+    void toggleFreeTurn();
+    // The players window closed with the names stored.
+    void namesClosed();
+    // tmrNames: a game with friends starts with their names.
+    bool namesAtStart() const { return m_shared.multiplayer; }
+    // A friend's phrase accepted in "LA FRASE ES:".
+    void friendPhrase(const std::string& phrase, const std::string& themeText);
+
     // --- sessions ------------------------------------------------------------------
     SessionPanelModel& panel() { return m_panel; }
     const SessionPanelModel& panel() const { return m_panel; }
@@ -130,7 +152,7 @@ private:
     // The round's hand-overs pass through here: the window opens its keyboard
     // when a phrase is laid, scores the end of a game and saves the options,
     // then whoever else listens hears of it.
-    void nextTurn() override { m_outer.nextTurn(); }
+    void nextTurn() override;
     void phraseLaid() override;
     void roundWon() override;
     void roundLost() override;
@@ -160,6 +182,7 @@ private:
     int m_heightTwips = kBaseHeightTwips;
     bool m_restart = false;
     bool m_toMenu = false;
+    PlayerLabel m_player;
 };
 
 } // namespace quillora

@@ -6,10 +6,12 @@
 #include "ports/Dialogs.h"
 #include "windows/appearance/QtColour.h"
 #include "windows/appearance/Twips.h"
+#include "windows/frmNames/frmNames.h"
 #include "windows/frmQlvs/GallowsView.h"
 #include "windows/frmQlvs/KeyboardView.h"
 #include "windows/frmQlvs/PhraseView.h"
 #include "windows/frmQlvs/SessionPanel.h"
+#include "windows/frmWord1/frmWord1.h"
 #include "windows/frmWord2/frmWord2.h"
 #include "words/Text.h"
 
@@ -116,6 +118,17 @@ frmQlvs::frmQlvs(SharedState& shared, Dialogs& dialogs, Random& random, QWidget*
         m_model.tickOpen();
         sync();
     });
+
+    // A game with friends starts with their names.
+    m_tmrNames = new QTimer(this);
+    m_tmrNames->setSingleShot(true);
+    m_tmrNames->setInterval(500);
+    connect(m_tmrNames, &QTimer::timeout, this, [this] {
+        if (m_model.namesAtStart()) {
+            eNames();
+        }
+    });
+    m_tmrNames->start();
 
     sync();
 }
@@ -237,6 +250,24 @@ void frmQlvs::buildControls() {
     m_lblScore->setAlignment(Qt::AlignCenter);
     m_lblScore->setFont(Fonts::display(14));
 
+    m_frmePlayer = new QWidget(this);
+    m_frmePlayer->setObjectName(QStringLiteral("frmePlayer"));
+    m_frmePlayer->setAttribute(Qt::WA_StyledBackground);
+    m_frmePlayer->setGeometry(twipRect(kScoreLeft, kScoreTop, kScoreWidth, kScoreHeight));
+    auto* playerCaption = new QLabel(QStringLiteral(" Turno "), m_frmePlayer);
+    playerCaption->setGeometry(0, px(15), px(kScoreWidth), px(210));
+    playerCaption->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    playerCaption->setFont(Fonts::display(7));
+    m_lblPlayer1 = new QLabel(m_frmePlayer);
+    m_lblPlayer1->setGeometry(0, px(210), px(kScoreWidth), px(kScoreHeight - 240));
+    m_lblPlayer1->setAlignment(Qt::AlignCenter);
+    m_lblPlayer1->setFont(Fonts::display(11));
+    m_lblPlayer1->setMouseTracking(true);
+    m_lblPlayer1->setContextMenuPolicy(Qt::CustomContextMenu);
+    m_lblPlayer1->installEventFilter(this);
+    connect(m_lblPlayer1, &QWidget::customContextMenuRequested, this,
+            [this](const QPoint& at) { buildTurnMenu()->popup(m_lblPlayer1->mapToGlobal(at)); });
+
     m_lblAuto = new QLabel(this);
     m_lblAuto->setGeometry(twipRect(kAutoLeft, kAutoTop, kAutoSize, kAutoSize));
     m_lblAuto->setAlignment(Qt::AlignCenter);
@@ -276,11 +307,18 @@ void frmQlvs::paintPanels() {
                                               "QLabel { color: white; background: transparent; }")
                                    .arg(css(m_model.round().deathColours() ? kRedLamp : lamp.light))
                                    .arg(px(90)));
-    m_cmdCopy->setStyleSheet(QStringLiteral("QPushButton { background: %1; color: white; border: none;"
-                                            " border-radius: 4px; } QPushButton:disabled { background: %2; }")
-                                 .arg(css(game), css(kPictureButtonBack)));
-    m_lblRestore->setStyleSheet(QStringLiteral("QLabel { border: 1px dashed %1; border-radius: 8px; }")
-                                    .arg(css(kPictureButtonBack)));
+    m_frmePlayer->setStyleSheet(
+        QStringLiteral("#frmePlayer { background: %1; border-radius: %2px; }"
+                       "QLabel { color: white; background: transparent; }")
+            .arg(css(lamp.light))
+            .arg(px(90)));
+    m_cmdCopy->setStyleSheet(
+        QStringLiteral("QPushButton { background: %1; color: white; border: none;"
+                       " border-radius: 4px; } QPushButton:disabled { background: %2; }")
+            .arg(css(game), css(kPictureButtonBack)));
+    m_lblRestore->setStyleSheet(
+        QStringLiteral("QLabel { border: 1px dashed %1; border-radius: 8px; }")
+            .arg(css(kPictureButtonBack)));
     m_lblAuto->setStyleSheet(QStringLiteral("background: %1; color: %2; border-radius: 3px;")
                                  .arg(css(kPictureButtonBack), css(kAutoMarkerText)));
     m_lblQueEs->setStyleSheet(
@@ -334,6 +372,9 @@ void frmQlvs::sync() {
     const Scoring& scoring = m_model.scoring();
     setWindowTitle(qs(scoring.title()));
     m_frmeScore->setVisible(scoring.pointsCount());
+    m_frmePlayer->setVisible(!scoring.pointsCount());
+    m_lblPlayer1->setText(qs(m_model.playerLabel().caption));
+    m_lblPlayer1->setToolTip(qs(m_model.playerLabel().tooltip));
     m_lblScore->setText(qs(scoring.scoreText()));
     m_cmdGame->setEnabled(scoring.playEnabled());
     const bool buttonHidden = m_model.shared().settings.sinBotonJugar;
@@ -406,6 +447,23 @@ void frmQlvs::playPressed() {
 
 void frmQlvs::handleStart(GameStart start) {
     sync();
+    if (start == GameStart::FriendWindow && !m_friendWindow) {
+        m_friendWindow = new frmWord1(
+            m_model.shared(), m_model.dialogs(),
+            [this](const FriendPhrase& phrase) {
+                m_model.friendPhrase(phrase.phrase, phrase.themeText);
+                sync();
+            },
+            this);
+        m_friendWindow->setAttribute(Qt::WA_DeleteOnClose);
+        connect(m_friendWindow, &QObject::destroyed, this, [this] {
+            m_friendWindow = nullptr;
+            activateWindow();
+            setFocus();
+        });
+        m_friendWindow->open();
+        return;
+    }
     if (start != GameStart::ThemeWindow || m_themeWindow) {
         return;
     }
@@ -453,6 +511,10 @@ void frmQlvs::keyPressEvent(QKeyEvent* event) {
         sync();
         return;
     }
+    if (event->modifiers().testFlag(Qt::ControlModifier) && event->key() == Qt::Key_J) {
+        eNames();
+        return;
+    }
     if (event->key() == Qt::Key_Menu) {
         buildPopup()->popup(mapToGlobal(rect().center()));
         return;
@@ -495,6 +557,17 @@ void frmQlvs::keyPressEvent(QKeyEvent* event) {
 }
 
 bool frmQlvs::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_lblPlayer1) {
+        if (event->type() == QEvent::MouseMove || event->type() == QEvent::Enter) {
+            m_model.hoverPlayer();
+            m_lblPlayer1->setText(qs(m_model.playerLabel().caption));
+            m_lblPlayer1->setToolTip(qs(m_model.playerLabel().tooltip));
+        } else if (event->type() == QEvent::MouseButtonDblClick) {
+            eNames();
+            return true;
+        }
+        return false;
+    }
     if (watched == m_lblRestore && event->type() == QEvent::MouseButtonRelease) {
         if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
             m_model.hidePlayButton(false);
@@ -581,7 +654,7 @@ QMenu* frmQlvs::buildPopup() {
     check(entry("Frase automática", [this] { m_model.eMenuAuto(); }), settings.fraseAutomatica);
     check(entry("Estado animado", [this] { m_model.toggleAnimation(); }), settings.animacion);
     menu->addSeparator();
-    entry("Editar jugadores", nullptr, false);
+    entry("Editar jugadores", [this] { eNames(); });
     entry("Historial", nullptr, false);
     entry("Cambiar diseño", nullptr, false);
     menu->addSeparator();
@@ -590,6 +663,50 @@ QMenu* frmQlvs::buildPopup() {
     menu->addSeparator();
     entry("Salir", [] { QApplication::quit(); });
     return menu;
+}
+
+QMenu* frmQlvs::buildTurnMenu() {
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    QAction* free = menu->addAction(QStringLiteral("Turno libre"));
+    free->setCheckable(true);
+    free->setChecked(m_model.freeTurn());
+    connect(free, &QAction::triggered, this, [this] {
+        m_model.toggleFreeTurn();
+        sync();
+    });
+    menu->addSeparator();
+    QAction* forward = menu->addAction(QStringLiteral("Adelantar"));
+    QAction* back = menu->addAction(QStringLiteral("Atrasar"));
+    forward->setEnabled(m_model.turnMovesEnabled());
+    back->setEnabled(m_model.turnMovesEnabled());
+    connect(forward, &QAction::triggered, this, [this] {
+        m_model.adelantar();
+        sync();
+    });
+    connect(back, &QAction::triggered, this, [this] {
+        m_model.atrasar();
+        sync();
+    });
+    return menu;
+}
+
+void frmQlvs::eNames() {
+    if (m_namesWindow) {
+        return;
+    }
+    m_namesWindow = new frmNames(m_model.shared(), [this] {
+        m_model.namesClosed();
+        show();
+        activateWindow();
+        sync();
+    });
+    m_namesWindow->setAttribute(Qt::WA_DeleteOnClose);
+    connect(m_namesWindow, &QObject::destroyed, this, [this] { m_namesWindow = nullptr; });
+    m_namesWindow->move(geometry().center() -
+                        QPoint(m_namesWindow->width() / 2, m_namesWindow->height() / 2));
+    hide();
+    m_namesWindow->show();
 }
 
 QMenu* frmQlvs::buildPlayMenu() {
@@ -602,10 +719,11 @@ QMenu* frmQlvs::buildPlayMenu() {
         m_model.eMenuAuto();
         sync();
     });
-    connect(menu->addAction(QStringLiteral("Desaparecer botón")), &QAction::triggered, this, [this] {
-        m_model.hidePlayButton(true);
-        sync();
-    });
+    connect(menu->addAction(QStringLiteral("Desaparecer botón")), &QAction::triggered, this,
+            [this] {
+                m_model.hidePlayButton(true);
+                sync();
+            });
     return menu;
 }
 

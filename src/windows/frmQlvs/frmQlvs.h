@@ -22,6 +22,8 @@ class KeyboardView;
 class PhraseView;
 class SessionPanel;
 class frmWord2;
+class frmWord1;
+class frmNames;
 
 // The board window: the phrase, the figure, the strikes and the keyboard. It
 // turns the player's clicks and keys into calls on its model and paints what
@@ -61,6 +63,12 @@ public:
     QLabel* autoMarker() const { return m_lblAuto; }
     SessionPanel* sessionPanel() const { return m_sessionPanel; }
     frmWord2* themeWindow() const { return m_themeWindow; }
+    frmWord1* friendWindow() const { return m_friendWindow; }
+    frmNames* namesWindow() const { return m_namesWindow; }
+    QLabel* playerLabel() const { return m_lblPlayer1; }
+    QMenu* buildTurnMenu();
+    // eNames: the board steps aside for the players window.
+    void eNames();
     // The popup menu, built afresh for the state of the board.
     QMenu* buildPopup();
 
@@ -107,6 +115,11 @@ private:
     QLabel* m_lblAuto = nullptr;
     SessionPanel* m_sessionPanel = nullptr;
     frmWord2* m_themeWindow = nullptr;
+    frmWord1* m_friendWindow = nullptr;
+    frmNames* m_namesWindow = nullptr;
+    QWidget* m_frmePlayer = nullptr;
+    QLabel* m_lblPlayer1 = nullptr;
+    QTimer* m_tmrNames = nullptr;
     bool m_restarting = false;
     bool m_leaving = false;
 
