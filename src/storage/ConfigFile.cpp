@@ -5,10 +5,15 @@
 #include "ports/Random.h"
 #include "storage/SharedState.h"
 #include "words/Text.h"
+#include "words/ThemeCatalogue.h"
 
 #include <array>
-#include <cmath>
+#include <atomic>
+#include <charconv>
+#include <chrono>
+#include <cstdio>
 #include <fstream>
+#include <limits>
 #include <system_error>
 
 namespace quillora {
@@ -17,15 +22,32 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// 0x80..0x9F of Windows-1252; 0 marks the five unused bytes.
+// 0x80..0x9F of Windows-1252. The five bytes the code page leaves unused
+// stand for the control characters of the same number, as Windows reads
+// them, so no byte of a file is lost on its way through the game.
 constexpr std::array<char32_t, 32> kHighControls{
-    0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
 const std::string kDefaultName = "Quillora VS";
+// A new file's theme is Int(100 * r / 2): 0 to 49, where 0 loads as theme 1.
+constexpr int kThemeDrawRange = 100;
 
-// Line numbers (from 1) of the on/off options, with the option each holds.
+// The lines that are not on/off options.
+enum Line : int {
+    kFondo = 1,
+    kCarpetaFondo = 2,
+    kEstilo = 3,
+    kFraseAutomatica = 9,
+    kTema = 11,
+    kContratiempo = 14,
+    kNombre = 15,
+    kColorJuego = 18,
+};
+
+// The on/off options and their lines; loading and saving both go through
+// this one table.
 using Flag = bool Settings::*;
 struct FlagLine {
     int line;
@@ -36,7 +58,7 @@ constexpr std::array<FlagLine, 13> kFlagLines{{{4, &Settings::letraOpaca},
                                                {6, &Settings::lineaBlanca},
                                                {7, &Settings::tamanoReal},
                                                {8, &Settings::sonidos},
-                                               {9, &Settings::fraseAutomatica},
+                                               {kFraseAutomatica, &Settings::fraseAutomatica},
                                                {10, &Settings::animacion},
                                                {12, &Settings::sistemaPuntos},
                                                {13, &Settings::supervivencia},
@@ -48,12 +70,64 @@ constexpr std::array<FlagLine, 13> kFlagLines{{{4, &Settings::letraOpaca},
 std::string& line(SharedState& shared, int number) {
     return shared.configLines[static_cast<std::size_t>(number - 1)];
 }
-double number(const SharedState& shared, int lineNumber) {
-    return leadingNumber(shared.configLines[static_cast<std::size_t>(lineNumber - 1)]);
+double number(SharedState& shared, int lineNumber) {
+    return leadingNumber(line(shared, lineNumber));
 }
 
 std::string randomTheme(Random& random) {
-    return std::to_string(random.drawHalfRange(100));
+    return std::to_string(random.drawHalfRange(kThemeDrawRange));
+}
+
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+// The twenty lines that hold a set of options. Line 9 is passed apart: the
+// automatic phrase is only kept when the game says so.
+std::vector<std::string> linesOf(const Settings& s, bool keepAutomaticPhrase) {
+    std::vector<std::string> lines(kConfigLines);
+    const auto at = [&lines](int number) -> std::string& {
+        return lines[static_cast<std::size_t>(number - 1)];
+    };
+    at(kFondo) = s.fondo;
+    at(kCarpetaFondo) = s.carpetaFondo;
+    at(kEstilo) = std::to_string(s.estilo);
+    for (const FlagLine& f : kFlagLines) {
+        const bool on = f.line == kFraseAutomatica ? keepAutomaticPhrase : s.*f.flag;
+        at(f.line) = on ? "1" : "0";
+    }
+    at(kTema) = std::to_string(s.tema);
+    at(kContratiempo) =
+        std::to_string(s.contratiempo == 1 || s.contratiempo == 2 ? s.contratiempo : 0);
+    at(kNombre) = s.nombre;
+    at(kColorJuego) = std::to_string(s.colorJuego.packed());
+    return lines;
+}
+
+// A name for the file a save writes first, hidden, in the folder of the real
+// one so the final rename never crosses file systems.
+fs::path temporaryName(const fs::path& folder) {
+    static std::atomic<unsigned> counter{0};
+    const auto ticks = std::chrono::steady_clock::now().time_since_epoch().count();
+    return folder /
+           (".quillora-" + std::to_string(ticks) + "-" + std::to_string(++counter) + ".tmp");
+}
+
+// Writes the bytes to a new file that did not exist before; false, with
+// nothing left behind, if any step fails.
+bool writeNewFile(const fs::path& path, const std::string& bytes) {
+    std::FILE* out = std::fopen(path.c_str(), "wbx");
+    if (!out) {
+        return false;
+    }
+    bool ok = std::fwrite(bytes.data(), 1, bytes.size(), out) == bytes.size();
+    ok = std::fflush(out) == 0 && ok;
+    ok = std::fclose(out) == 0 && ok;
+    if (!ok) {
+        std::error_code ignored;
+        fs::remove(path, ignored);
+    }
+    return ok;
 }
 
 } // namespace
@@ -63,12 +137,7 @@ std::string fromWindows1252(std::string_view bytes) {
     text.reserve(bytes.size());
     for (char c : bytes) {
         const auto byte = static_cast<unsigned char>(c);
-        if (byte >= 0x80 && byte <= 0x9F) {
-            const char32_t mapped = kHighControls[byte - 0x80];
-            text.push_back(mapped ? mapped : U'?');
-        } else {
-            text.push_back(byte);
-        }
+        text.push_back(byte >= 0x80 && byte <= 0x9F ? kHighControls[byte - 0x80] : byte);
     }
     return toUtf8(text);
 }
@@ -83,7 +152,7 @@ std::string toWindows1252(std::string_view utf8) {
         }
         char out = '?';
         for (std::size_t i = 0; i < kHighControls.size(); ++i) {
-            if (kHighControls[i] == c && c != 0) {
+            if (kHighControls[i] == c) {
                 out = static_cast<char>(0x80 + i);
             }
         }
@@ -93,98 +162,131 @@ std::string toWindows1252(std::string_view utf8) {
 }
 
 double leadingNumber(std::string_view text) {
-    std::size_t i = 0;
-    while (i < text.size() && (text[i] == ' ' || text[i] == '\t')) {
+    std::size_t i = text.find_first_not_of(" \t");
+    if (i == std::string_view::npos) {
+        return 0;
+    }
+    const bool negative = text[i] == '-';
+    if (text[i] == '-' || text[i] == '+') {
         ++i;
     }
-    double sign = 1;
-    if (i < text.size() && (text[i] == '-' || text[i] == '+')) {
-        sign = text[i] == '-' ? -1 : 1;
+    const std::size_t start = i;
+    while (i < text.size() && isDigit(text[i])) {
         ++i;
     }
-    double value = 0;
-    bool digits = false;
-    for (; i < text.size() && text[i] >= '0' && text[i] <= '9'; ++i) {
-        value = value * 10 + (text[i] - '0');
-        digits = true;
-    }
+    bool digits = i > start;
+    const bool wholePart =
+        text.substr(start, i - start).find_first_not_of('0') != std::string_view::npos;
     if (i < text.size() && text[i] == '.') {
-        double scale = 0.1;
-        for (++i; i < text.size() && text[i] >= '0' && text[i] <= '9'; ++i, scale /= 10) {
-            value += (text[i] - '0') * scale;
-            digits = true;
+        const std::size_t fraction = ++i;
+        while (i < text.size() && isDigit(text[i])) {
+            ++i;
         }
+        digits = digits || i > fraction;
     }
-    return digits ? sign * value : 0;
+    if (!digits) {
+        return 0;
+    }
+    // from_chars rather than strtod: the game runs under the player's
+    // locale, where strtod may want a decimal comma.
+    double value = 0;
+    const auto parsed =
+        std::from_chars(text.data() + start, text.data() + i, value, std::chars_format::fixed);
+    if (parsed.ec == std::errc::result_out_of_range) {
+        value = wholePart ? std::numeric_limits<double>::max() : 0.0;
+    }
+    return negative ? -value : value;
+}
+
+Rgb colourFromLine(std::string_view text, Rgb defaultColour) {
+    if (text.empty()) {
+        return defaultColour;
+    }
+    // A negative or larger number from a hand-edited line is no colour; it
+    // would otherwise wrap round into some unrelated one.
+    const double value = leadingNumber(text);
+    if (!(value >= 0 && value <= 0xFFFFFF)) {
+        return defaultColour;
+    }
+    return Rgb::fromPacked(static_cast<std::uint32_t>(value));
 }
 
 std::optional<std::vector<std::string>> readConfigLines(const fs::path& path) {
     std::error_code error;
-    if (!fs::is_regular_file(path, error) || fs::file_size(path, error) > kMaxConfigBytes ||
-        error) {
+    if (!fs::is_regular_file(path, error)) {
         return std::nullopt;
     }
     std::ifstream in(path, std::ios::binary);
     if (!in) {
         return std::nullopt;
     }
-    const std::string bytes{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    // One byte more than the limit tells a file that is too large without
+    // trusting a size taken before the read.
+    std::string bytes(kMaxConfigBytes + 1, '\0');
+    in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     if (in.bad()) {
+        return std::nullopt;
+    }
+    bytes.resize(static_cast<std::size_t>(in.gcount()));
+    if (bytes.size() > kMaxConfigBytes) {
         return std::nullopt;
     }
     std::vector<std::string> lines;
     std::size_t start = 0;
     while (start < bytes.size()) {
-        std::size_t end = bytes.find('\n', start);
-        const bool last = end == std::string::npos;
-        if (last) {
+        std::size_t end = bytes.find_first_of("\r\n", start);
+        if (end == std::string::npos) {
             end = bytes.size();
         }
-        std::size_t stop = end;
-        if (stop > start && bytes[stop - 1] == '\r') {
-            --stop;
-        }
-        lines.push_back(fromWindows1252(std::string_view(bytes).substr(start, stop - start)));
+        lines.push_back(fromWindows1252(std::string_view(bytes).substr(start, end - start)));
         start = end + 1;
+        if (end + 1 < bytes.size() && bytes[end] == '\r' && bytes[end + 1] == '\n') {
+            ++start;
+        }
     }
     return lines;
 }
 
 bool writeConfigLines(const fs::path& path, const std::vector<std::string>& lines) {
     std::error_code error;
-    if (path.empty() || fs::is_directory(path, error)) {
+    if (!path.has_filename() || fs::is_directory(path, error)) {
         return false;
     }
     const fs::path folder = path.parent_path();
     if (!folder.empty()) {
         fs::create_directories(folder, error);
+        if (error) {
+            return false;
+        }
     }
     std::string bytes;
     for (const std::string& text : lines) {
-        bytes += toWindows1252(text);
+        std::string encoded = toWindows1252(text);
+        // A line break inside a value would shift every later line.
+        for (char& c : encoded) {
+            if (c == '\r' || c == '\n') {
+                c = ' ';
+            }
+        }
+        bytes += encoded;
         bytes += "\r\n";
     }
-    fs::path temporary = path;
-    temporary += ".tmp";
-    {
-        std::ofstream out(temporary, std::ios::binary | std::ios::trunc);
-        if (!out) {
+    for (int attempt = 0; attempt < 8; ++attempt) {
+        const fs::path temporary = temporaryName(folder.empty() ? fs::path(".") : folder);
+        if (fs::exists(temporary, error)) {
+            continue;
+        }
+        if (!writeNewFile(temporary, bytes)) {
             return false;
         }
-        out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-        out.flush();
-        if (!out) {
-            out.close();
+        fs::rename(temporary, path, error);
+        if (error) {
             fs::remove(temporary, error);
             return false;
         }
+        return true;
     }
-    fs::rename(temporary, path, error);
-    if (error) {
-        fs::remove(temporary, error);
-        return false;
-    }
-    return true;
+    return false;
 }
 
 fs::path sessionFilePath(const fs::path& folder, std::string_view userName) {
@@ -203,8 +305,8 @@ fs::path sessionFilePath(const fs::path& folder, std::string_view userName) {
 }
 
 void clearForBoardLoad(SharedState& shared) {
-    line(shared, 1).clear();
-    line(shared, 2).clear();
+    line(shared, kFondo).clear();
+    line(shared, kCarpetaFondo).clear();
     for (int n : {4, 5, 6, 7, 9, 10, 13, 14, 16, 17, 19, 20}) {
         line(shared, n) = "0";
     }
@@ -213,10 +315,14 @@ void clearForBoardLoad(SharedState& shared) {
 void DataLoad(SharedState& shared, Random& random) {
     const auto lines = readConfigLines(shared.currentSession().Archivo);
     if (!lines) {
-        line(shared, 3) = "1";
+        line(shared, kEstilo) = "1";
         line(shared, 8) = "1";
         line(shared, 12) = "1";
-        line(shared, 11) = randomTheme(random);
+        line(shared, kTema) = randomTheme(random);
+        // The name and colour in use stay; at the first start they are the
+        // fallbacks the main menu put in place when it could not read the file.
+        line(shared, kNombre) = shared.settings.nombre;
+        line(shared, kColorJuego) = std::to_string(shared.palette.gameColour.packed());
         return;
     }
     for (int n = 1; n <= kConfigLines; ++n) {
@@ -227,33 +333,26 @@ void DataLoad(SharedState& shared, Random& random) {
 
 void ConfLoad(SharedState& shared) {
     Settings& s = shared.settings;
-    shared.currentSession().displayName = line(shared, 15);
-    s.fondo = line(shared, 1);
-    s.carpetaFondo = line(shared, 2);
-    s.nombre = line(shared, 15);
+    s.fondo = line(shared, kFondo);
+    s.carpetaFondo = line(shared, kCarpetaFondo);
+    s.nombre = line(shared, kNombre);
+    shared.currentSession().displayName = s.nombre;
 
-    const double style = number(shared, 3);
+    const double style = number(shared, kEstilo);
     s.estilo = style >= 1 && style <= 4 ? static_cast<int>(style) : 0;
     for (const FlagLine& f : kFlagLines) {
         s.*f.flag = number(shared, f.line) >= 1;
     }
-    const double countdown = number(shared, 14);
+    const double countdown = number(shared, kContratiempo);
     s.contratiempo = countdown == 1 ? 1 : countdown >= 2 ? 2 : 0;
 
-    const double theme = number(shared, 11);
-    if (theme >= 1 && theme <= 50) {
+    const double theme = number(shared, kTema);
+    if (theme >= 1 && theme <= ThemeCatalogue::kThemes) {
         s.tema = static_cast<int>(theme);
     } else if (theme == 0) {
         s.tema = 1;
     }
-    if (line(shared, 18).empty()) {
-        s.colorJuego = shared.palette.defaultBlue;
-    } else {
-        // A colour is 24 bits; whatever else a hand-edited line holds is
-        // dropped rather than turned into a colour of its own.
-        const auto packed = static_cast<long long>(number(shared, 18));
-        s.colorJuego = Rgb::fromPacked(static_cast<std::uint32_t>(packed) & 0xFFFFFFU);
-    }
+    s.colorJuego = colourFromLine(line(shared, kColorJuego), shared.palette.defaultBlue);
     shared.palette.gameColour = s.colorJuego;
     if (shared.themeChosen && s.tema >= 0 && s.tema < kThemeFlags) {
         shared.selectedThemes[static_cast<std::size_t>(shared.currentSlot)]
@@ -266,48 +365,21 @@ bool ConfSave(SharedState& shared) {
     if (s.nombre.empty()) {
         s.nombre = kDefaultName;
     }
-    line(shared, 1) = s.fondo;
-    line(shared, 2) = s.carpetaFondo;
-    line(shared, 3) = std::to_string(s.estilo);
-    for (const FlagLine& f : kFlagLines) {
-        line(shared, f.line) = s.*f.flag ? "1" : "0";
-    }
     // The automatic phrase comes back next time only for a chosen theme,
     // and never in the middle of a tour.
-    line(shared, 9) =
-        shared.tourPosition == 0 && s.fraseAutomatica && shared.themeChosen ? "1" : "0";
-    line(shared, 11) = std::to_string(s.tema);
-    line(shared, 14) =
-        std::to_string(s.contratiempo == 1 || s.contratiempo == 2 ? s.contratiempo : 0);
-    line(shared, 15) = s.nombre;
-    line(shared, 18) = std::to_string(s.colorJuego.packed());
-    return writeConfigLines(
-        shared.currentSession().Archivo,
-        std::vector<std::string>(shared.configLines.begin(), shared.configLines.end()));
+    const bool keepAutomaticPhrase =
+        shared.tourPosition == 0 && s.fraseAutomatica && shared.themeChosen;
+    const std::vector<std::string> lines = linesOf(s, keepAutomaticPhrase);
+    std::copy(lines.begin(), lines.end(), shared.configLines.begin());
+    return writeConfigLines(shared.currentSession().Archivo, lines);
 }
 
 bool NewConfFile(const fs::path& path, const std::string& userName, Random& random) {
-    const std::vector<std::string> lines{"",
-                                         "",
-                                         "1",
-                                         "0",
-                                         "0",
-                                         "0",
-                                         "0",
-                                         "1",
-                                         "0",
-                                         "0",
-                                         randomTheme(random),
-                                         "1",
-                                         "0",
-                                         "0",
-                                         userName,
-                                         "0",
-                                         "0",
-                                         std::to_string(kDefaultBlue.packed()),
-                                         "0",
-                                         "0"};
-    return writeConfigLines(path, lines);
+    // A default Settings is a new user's: only the theme and the name differ.
+    Settings fresh;
+    fresh.tema = random.drawHalfRange(kThemeDrawRange);
+    fresh.nombre = userName;
+    return writeConfigLines(path, linesOf(fresh, fresh.fraseAutomatica));
 }
 
 } // namespace quillora

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "windows/appearance/Colour.h"
+
 #include <cstdint>
 #include <filesystem>
 #include <optional>
@@ -19,20 +21,28 @@ inline constexpr int kConfigLines = 20;
 inline constexpr std::uintmax_t kMaxConfigBytes = 64 * 1024;
 
 // Configuration files are 8-bit Windows-1252 text so they move between the
-// game's platforms unchanged; in memory texts are UTF-8.
+// game's platforms unchanged; in memory texts are UTF-8. Every byte has a
+// character, so any file read and written back keeps its bytes.
 std::string fromWindows1252(std::string_view bytes);
 // Characters Windows-1252 cannot hold are written as '?'.
 std::string toWindows1252(std::string_view utf8);
 
 // The leading decimal number of a text: blanks skipped, an optional sign,
-// digits and a fraction. Text without one reads as 0.
+// digits and a fraction. Text without one reads as 0; the result is always
+// finite.
 double leadingNumber(std::string_view text);
 
-// The lines of a configuration file, decoded; nothing for a file that cannot
-// be read, is not a regular file or is too large to be one.
+// Line 18 as a colour: empty text, or a number that is no 24-bit colour,
+// gives the default colour.
+Rgb colourFromLine(std::string_view text, Rgb defaultColour);
+
+// The lines of a configuration file, decoded; CR LF, LF or CR end a line.
+// Nothing for a file that cannot be read, is not a regular file or is too
+// large to be one.
 std::optional<std::vector<std::string>> readConfigLines(const std::filesystem::path& path);
 // Writes the lines, each ended by CR LF, replacing the file in one step: a
 // crash leaves either the old file or the new one, never half of either.
+// Creates the folder if needed.
 bool writeConfigLines(const std::filesystem::path& path, const std::vector<std::string>& lines);
 
 // The file of a user in the data folder. Separators, NUL and a leading dot

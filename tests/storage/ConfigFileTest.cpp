@@ -10,14 +10,19 @@
 
 #include <filesystem>
 #include <fstream>
-#include <random>
+#include <limits>
+#include <ostream>
 
 namespace quillora {
 namespace {
 
 namespace fs = std::filesystem;
 
-// Twenty lines as another copy of the game would write them.
+constexpr double kMax = std::numeric_limits<double>::max();
+const std::string kNines(400, '9');
+
+// Twenty lines as another copy of the game would write them, each line a
+// value no other line holds, so a line read into the wrong option shows.
 std::vector<std::string> fileLines() {
     return {"fondo.jpg", "C:\\Fotos", "2", "1", "0",   "1", "0", "1",   "1", "1",
             "12",        "1",         "0", "1", "Ana", "1", "0", "255", "0", "1"};
@@ -27,16 +32,15 @@ class ConfigFileTest : public ::testing::Test {
 protected:
     void SetUp() override {
         shared.dataFolder = folder;
-        shared.currentSession().Archivo = (folder / "QuilloraVS5.txt").string();
+        shared.currentSession().Archivo = file().string();
     }
 
-    void writeRaw(const std::string& bytes) {
-        std::ofstream(shared.currentSession().Archivo, std::ios::binary) << bytes;
-    }
-    void write(std::vector<std::string> lines) {
+    fs::path file() const { return folder / "QuilloraVS5.txt"; }
+    void writeRaw(const std::string& bytes) { std::ofstream(file(), std::ios::binary) << bytes; }
+    void write(const std::vector<std::string>& lines, const std::string& ending = "\r\n") {
         std::string bytes;
         for (const auto& l : lines) {
-            bytes += l + "\r\n";
+            bytes += l + ending;
         }
         writeRaw(bytes);
     }
@@ -45,9 +49,8 @@ protected:
         DataLoad(shared, random);
         ConfLoad(shared);
     }
-    std::vector<std::string> savedLines() {
-        return readConfigLines(shared.currentSession().Archivo)
-            .value_or(std::vector<std::string>{});
+    std::vector<std::string> savedLines() const {
+        return readConfigLines(file()).value_or(std::vector<std::string>{});
     }
 
     TempFolder temp{"quillora-config"};
@@ -56,40 +59,77 @@ protected:
     QueuedRandom random;
 };
 
-TEST(ConfigText, LeadingNumbersAndWindows1252) {
-    const std::vector<std::pair<std::string, double>> numbers{
-        {"12", 12}, {"  7abc", 7}, {"1.5", 1.5}, {"-5", -5},
-        {"abc", 0}, {"", 0},       {"+3", 3},    {".5", 0.5}};
-    for (const auto& [text, value] : numbers) {
-        EXPECT_DOUBLE_EQ(leadingNumber(text), value) << text;
+struct NumberCase {
+    std::string text;
+    double value;
+};
+void PrintTo(const NumberCase& c, std::ostream* os) {
+    *os << '"' << c.text.substr(0, 12) << (c.text.size() > 12 ? "..." : "") << '"';
+}
+class LeadingNumberTest : public ::testing::TestWithParam<NumberCase> {};
+
+TEST_P(LeadingNumberTest, ReadsOnlyTheLeadingDecimalNumber) {
+    EXPECT_DOUBLE_EQ(leadingNumber(GetParam().text), GetParam().value);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, LeadingNumberTest,
+    ::testing::Values(NumberCase{"1.5", 1.5}, NumberCase{"-5", -5}, NumberCase{"12abc", 12},
+                      NumberCase{"abc", 0}, NumberCase{"", 0}, NumberCase{" \t7", 7},
+                      NumberCase{"+3", 3}, NumberCase{".5", 0.5}, NumberCase{"5.", 5},
+                      NumberCase{"-", 0}, NumberCase{".", 0}, NumberCase{"- 4", 0},
+                      NumberCase{"1e3", 1}, NumberCase{"1,5", 1}, NumberCase{"0x1F", 0},
+                      NumberCase{"inf", 0}, NumberCase{kNines, kMax},
+                      NumberCase{"-" + kNines, -kMax},
+                      NumberCase{"0." + std::string(400, '0') + "1", 0}));
+
+TEST(Windows1252, EveryByteComesBackAndTheCodePageMapsItsCharacters) {
+    for (int b = 0; b < 256; ++b) {
+        const std::string byte(1, static_cast<char>(b));
+        EXPECT_EQ(toWindows1252(fromWindows1252(byte)), byte) << b;
     }
-    EXPECT_EQ(toWindows1252("PEÑA €"), std::string("PE\xD1"
-                                                   "A \x80"));
-    EXPECT_EQ(fromWindows1252(std::string("PE\xD1"
-                                          "A \x80")),
-              "PEÑA €");
-    EXPECT_EQ(toWindows1252("日本"), "??");
+    const std::vector<std::pair<std::string, std::string>> pairs{
+        {"\xD1", "Ñ"}, {"\xF1", "ñ"}, {"\xE1", "á"}, {"\x80", "€"},
+        {"\x8A", "Š"}, {"\x96", "–"}, {"\x9F", "Ÿ"}, {"\x81", "\u0081"}};
+    for (const auto& [bytes, utf8] : pairs) {
+        EXPECT_EQ(fromWindows1252(bytes), utf8);
+        EXPECT_EQ(toWindows1252(utf8), bytes) << utf8;
+    }
+    EXPECT_EQ(toWindows1252("日本 \u0080"), "?? ?");
 }
 
 TEST_F(ConfigFileTest, AFileFromAnotherCopyLoadsLineByLine) {
-    write(fileLines());
-    load();
-    const Settings& s = shared.settings;
-    EXPECT_EQ(s.fondo, "fondo.jpg");
-    EXPECT_EQ(s.carpetaFondo, "C:\\Fotos");
-    EXPECT_EQ(s.estilo, 2);
-    EXPECT_TRUE(s.letraOpaca && !s.letraBlanca && s.lineaBlanca && !s.tamanoReal);
-    EXPECT_TRUE(s.sonidos && s.fraseAutomatica && s.animacion && s.sistemaPuntos);
-    EXPECT_FALSE(s.supervivencia);
-    EXPECT_EQ(s.contratiempo, 1);
-    EXPECT_EQ(s.tema, 12);
-    EXPECT_EQ(s.nombre, "Ana");
-    EXPECT_EQ(shared.currentSession().displayName, "Ana");
-    EXPECT_TRUE(s.usarEnciclopedia) << "line 16 is the encyclopedia";
-    EXPECT_FALSE(s.masPuntosNegativos) << "line 17 is the points option";
-    EXPECT_EQ(s.colorJuego, (Rgb{255, 0, 0}));
-    EXPECT_FALSE(s.sinBotonJugar);
-    EXPECT_TRUE(s.tecladoPermanente);
+    for (const std::string ending : {"\r\n", "\n", "\r"}) {
+        SCOPED_TRACE(ending == "\n" ? "LF" : ending == "\r" ? "CR" : "CR LF");
+        write(fileLines(), ending);
+        load();
+        const Settings& s = shared.settings;
+        EXPECT_EQ(s.fondo, "fondo.jpg");
+        EXPECT_EQ(s.carpetaFondo, "C:\\Fotos");
+        EXPECT_EQ(s.estilo, 2);
+        EXPECT_TRUE(s.letraOpaca && !s.letraBlanca && s.lineaBlanca && !s.tamanoReal);
+        EXPECT_TRUE(s.sonidos && s.fraseAutomatica && s.animacion && s.sistemaPuntos);
+        EXPECT_FALSE(s.supervivencia);
+        EXPECT_EQ(s.contratiempo, 1);
+        EXPECT_EQ(s.tema, 12);
+        EXPECT_EQ(s.nombre, "Ana");
+        EXPECT_EQ(shared.currentSession().displayName, "Ana");
+        EXPECT_TRUE(s.usarEnciclopedia) << "line 16 is the encyclopedia";
+        EXPECT_FALSE(s.masPuntosNegativos) << "line 17 is the points option";
+        EXPECT_EQ(s.colorJuego, (Rgb{255, 0, 0}));
+        EXPECT_EQ(shared.palette.gameColour, (Rgb{255, 0, 0}));
+        EXPECT_FALSE(s.sinBotonJugar);
+        EXPECT_TRUE(s.tecladoPermanente);
+    }
+}
+
+TEST_F(ConfigFileTest, TheBoardClearsAllButStyleSoundsThemePointsNameAndColour) {
+    shared.configLines.fill("7");
+    clearForBoardLoad(shared);
+    const std::array<std::string, kConfigLines> expected{"",  "",  "7", "0", "0", "0", "0",
+                                                         "7", "0", "0", "7", "7", "0", "0",
+                                                         "7", "0", "0", "7", "0", "0"};
+    EXPECT_EQ(shared.configLines, expected);
 }
 
 struct LineCase {
@@ -97,28 +137,52 @@ struct LineCase {
     std::string text;
     int expected;
 };
+void PrintTo(const LineCase& c, std::ostream* os) {
+    *os << "line " << c.line << " \"" << c.text.substr(0, 12) << '"';
+}
 class ConfigLineTest : public ConfigFileTest, public ::testing::WithParamInterface<LineCase> {};
 
-TEST_P(ConfigLineTest, NumbersTakeTheirBounds) {
+TEST_P(ConfigLineTest, EachLineTakesItsBounds) {
     auto lines = fileLines();
     lines[static_cast<std::size_t>(GetParam().line - 1)] = GetParam().text;
     shared.settings.tema = 33; // what a theme out of range leaves in place
     write(lines);
     load();
     const Settings& s = shared.settings;
-    const int got = GetParam().line == 3    ? s.estilo
-                    : GetParam().line == 11 ? s.tema
-                                            : s.contratiempo;
+    int got = -1;
+    switch (GetParam().line) {
+    case 3:
+        got = s.estilo;
+        break;
+    case 4:
+        got = s.letraOpaca;
+        break;
+    case 11:
+        got = s.tema;
+        break;
+    case 14:
+        got = s.contratiempo;
+        break;
+    case 18:
+        got = static_cast<int>(s.colorJuego.packed());
+        break;
+    }
     EXPECT_EQ(got, GetParam().expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(Lines, ConfigLineTest,
-                         ::testing::Values(LineCase{3, "5", 0}, LineCase{3, "4", 4},
-                                           LineCase{3, "0", 0}, LineCase{3, "x", 0},
-                                           LineCase{11, "0", 1}, LineCase{11, "51", 33},
-                                           LineCase{11, "50", 50}, LineCase{11, "-3", 33},
-                                           LineCase{14, "1.5", 0}, LineCase{14, "2", 2},
-                                           LineCase{14, "3", 2}, LineCase{14, "-1", 0}));
+constexpr int kBlue = static_cast<int>(kDefaultBlue.packed());
+INSTANTIATE_TEST_SUITE_P(
+    Lines, ConfigLineTest,
+    ::testing::Values(LineCase{3, "5", 0}, LineCase{3, "4", 4}, LineCase{3, "0", 0},
+                      LineCase{3, " 2x", 2}, LineCase{3, "-1", 0}, LineCase{4, "2", 1},
+                      LineCase{4, "0.5", 0}, LineCase{4, "-1", 0}, LineCase{4, "1abc", 1},
+                      LineCase{4, "", 0}, LineCase{11, "0", 1}, LineCase{11, "51", 33},
+                      LineCase{11, "50", 50}, LineCase{11, "-3", 33}, LineCase{11, "", 1},
+                      LineCase{11, kNines, 33}, LineCase{14, "1.5", 0}, LineCase{14, "1", 1},
+                      LineCase{14, "2", 2}, LineCase{14, "3", 2}, LineCase{14, "-1", 0},
+                      LineCase{14, "x", 0}, LineCase{18, "", kBlue}, LineCase{18, "255", 255},
+                      LineCase{18, "abc", 0}, LineCase{18, "-1", kBlue},
+                      LineCase{18, "16777216", kBlue}, LineCase{18, kNines, kBlue}));
 
 TEST_F(ConfigFileTest, AShortOldFileLoadsWithDefaultsAndSavesTwentyLines) {
     auto lines = fileLines();
@@ -128,19 +192,20 @@ TEST_F(ConfigFileTest, AShortOldFileLoadsWithDefaultsAndSavesTwentyLines) {
     EXPECT_EQ(shared.settings.colorJuego, kDefaultBlue);
     EXPECT_FALSE(shared.settings.sinBotonJugar || shared.settings.tecladoPermanente);
     ASSERT_TRUE(ConfSave(shared));
-    const std::string bytes = slurp(shared.currentSession().Archivo);
+    const std::string bytes = slurp(file());
     std::size_t crlf = 0;
-    for (std::size_t at = bytes.find("\r\n"); at != std::string::npos;
-         at = bytes.find("\r\n", at + 2)) {
-        ++crlf;
+    std::size_t lf = 0;
+    for (std::size_t at = 0; at < bytes.size(); ++at) {
+        lf += bytes[at] == '\n';
+        crlf += bytes.compare(at, 2, "\r\n") == 0;
     }
     EXPECT_EQ(crlf, 20U);
+    EXPECT_EQ(lf, 20U) << "no line ends in a bare LF";
     EXPECT_EQ(bytes.substr(bytes.size() - 2), "\r\n");
-    EXPECT_EQ(bytes.find('\n', 0), bytes.find("\r\n", 0) + 1) << "every line ends in CR LF";
     EXPECT_EQ(savedLines()[17], "15759390");
 }
 
-TEST_F(ConfigFileTest, SavingWritesFlagsAsOnesAndTheGameRulesForNameAndLineNine) {
+TEST_F(ConfigFileTest, SavingWritesEveryLineFromTheLiveOptions) {
     auto lines = fileLines();
     lines[3] = "2"; // a flag of 2
     lines[14] = ""; // no name
@@ -148,11 +213,12 @@ TEST_F(ConfigFileTest, SavingWritesFlagsAsOnesAndTheGameRulesForNameAndLineNine)
     load();
     shared.themeChosen = false;
     ASSERT_TRUE(ConfSave(shared));
-    auto saved = savedLines();
-    ASSERT_EQ(saved.size(), 20U);
-    EXPECT_EQ(saved[3], "1");
-    EXPECT_EQ(saved[14], "Quillora VS");
-    EXPECT_EQ(saved[8], "0") << "the automatic phrase needs a chosen theme";
+    auto expected = fileLines();
+    expected[3] = "1";
+    expected[8] = "0"; // the automatic phrase needs a chosen theme
+    expected[14] = "Quillora VS";
+    EXPECT_EQ(savedLines(), expected);
+    EXPECT_EQ(shared.settings.nombre, "Quillora VS");
 
     shared.themeChosen = true;
     ASSERT_TRUE(ConfSave(shared));
@@ -160,15 +226,19 @@ TEST_F(ConfigFileTest, SavingWritesFlagsAsOnesAndTheGameRulesForNameAndLineNine)
     shared.tourPosition = 4;
     ASSERT_TRUE(ConfSave(shared));
     EXPECT_EQ(savedLines()[8], "0") << "never during a tour";
-    EXPECT_FALSE(fs::exists(fs::path(shared.currentSession().Archivo + ".tmp")));
+
+    shared.settings.fondo = "a\r\nb";
+    ASSERT_TRUE(ConfSave(shared));
+    const auto saved = savedLines();
+    ASSERT_EQ(saved.size(), 20U) << "a line break in a value shifts no line";
+    EXPECT_EQ(saved[14], "Quillora VS");
 }
 
 TEST_F(ConfigFileTest, AnEnyeInTheNameIsOneByteOnDiskAndComesBack) {
     shared.settings.nombre = "NUÑEZ";
     ASSERT_TRUE(ConfSave(shared));
-    EXPECT_NE(slurp(shared.currentSession().Archivo)
-                  .find("\r\nNU\xD1"
-                        "EZ\r\n"),
+    EXPECT_NE(slurp(file()).find("\r\nNU\xD1"
+                                 "EZ\r\n"),
               std::string::npos);
     shared.settings.nombre.clear();
     load();
@@ -176,54 +246,108 @@ TEST_F(ConfigFileTest, AnEnyeInTheNameIsOneByteOnDiskAndComesBack) {
 }
 
 TEST_F(ConfigFileTest, AMissingFileGivesTheDefaultsAndKeepsNameAndColour) {
-    shared.configLines[14] = "Quillora VS";
-    shared.configLines[17] = "255";
+    // What the main menu leaves when it cannot read the file either, over
+    // raw lines of an earlier user.
+    shared.settings.nombre = "Quillora VS";
+    shared.palette.gameColour = Rgb{255, 0, 0};
+    write(fileLines());
+    load();
+    fs::remove(file());
     random.queue({0.5});
     load();
-    EXPECT_EQ(shared.settings.estilo, 1);
-    EXPECT_TRUE(shared.settings.sonidos && shared.settings.sistemaPuntos);
-    EXPECT_FALSE(shared.settings.fraseAutomatica || shared.settings.animacion);
-    EXPECT_EQ(shared.settings.tema, 25);
-    EXPECT_EQ(shared.settings.nombre, "Quillora VS");
-    EXPECT_EQ(shared.settings.colorJuego, (Rgb{255, 0, 0}));
-    EXPECT_FALSE(fs::exists(shared.currentSession().Archivo)) << "reading never creates the file";
+    const Settings& s = shared.settings;
+    EXPECT_EQ(s.estilo, 1);
+    EXPECT_TRUE(s.sonidos && s.sistemaPuntos);
+    EXPECT_FALSE(s.letraOpaca || s.fraseAutomatica || s.animacion || s.tecladoPermanente);
+    EXPECT_EQ(s.contratiempo, 0);
+    EXPECT_EQ(s.fondo, "");
+    EXPECT_EQ(s.tema, 25);
+    EXPECT_EQ(s.nombre, "Ana");
+    EXPECT_EQ(s.colorJuego, (Rgb{255, 0, 0}));
+    EXPECT_FALSE(fs::exists(file())) << "reading never creates the file";
+
+    shared.settings.nombre = "Quillora VS";
+    shared.palette.gameColour = kDefaultBlue;
+    random.queue({0.0});
+    load();
+    EXPECT_EQ(shared.currentSession().displayName, "Quillora VS");
+    EXPECT_EQ(s.colorJuego, kDefaultBlue);
+    EXPECT_EQ(s.tema, 1);
 }
 
-TEST_F(ConfigFileTest, FilesThatAreNotConfigurationsLoadAsMissingAndStayUntouched) {
-    const std::string binary("\x89PNG\r\n\x1A\n\0\0\0\rIHDR", 16);
+TEST_F(ConfigFileTest, FilesThatAreNotConfigurationsNeitherCrashNorChange) {
+    const std::string binary("\x89PNG\r\n\x1A\n\0\0\0\rIHDR\xFF\xD8", 18);
     writeRaw(binary);
-    load(); // a binary reads as odd lines, harmlessly
-    EXPECT_EQ(slurp(shared.currentSession().Archivo), binary);
+    load();
+    EXPECT_GE(shared.settings.estilo, 0);
+    EXPECT_LE(shared.settings.estilo, 4);
+    EXPECT_EQ(slurp(file()), binary);
 
-    writeRaw(std::string(kMaxConfigBytes + 1, 'A'));
-    EXPECT_FALSE(readConfigLines(shared.currentSession().Archivo));
-    EXPECT_FALSE(readConfigLines(folder));
-    EXPECT_FALSE(writeConfigLines(folder, {"x"})) << "a folder is never written over";
-    EXPECT_TRUE(fs::is_directory(folder));
+    writeRaw(std::string(kMaxConfigBytes, '\n'));
+    EXPECT_TRUE(readConfigLines(file()));
+    const std::string huge(kMaxConfigBytes + 1, '7');
+    writeRaw(huge);
+    random.queue({0.2});
+    load();
+    EXPECT_EQ(shared.settings.tema, 10) << "too large to be ours: loads as missing";
+    EXPECT_EQ(slurp(file()), huge);
+
+    fs::remove(file());
+    fs::create_directory(file());
+    random.queue({0.2});
+    load();
+    EXPECT_EQ(shared.settings.estilo, 1);
+    EXPECT_FALSE(ConfSave(shared)) << "a folder is never written over";
+    EXPECT_TRUE(fs::is_directory(file()));
 }
 
 TEST_F(ConfigFileTest, AFreshFileHoldsTheNewUsersDefaults) {
-    const fs::path file = folder / "nuevo.txt";
-    random.queue({0.01});
-    ASSERT_TRUE(NewConfFile(file, "Beto", random));
-    const auto lines = readConfigLines(file);
-    ASSERT_TRUE(lines);
+    const fs::path fresh = folder / "nuevo.txt";
+    random.queue({0.7, 0.01});
+    ASSERT_TRUE(NewConfFile(fresh, "Beto", random));
     const std::vector<std::string> expected{"",     "",  "1", "0",        "0", "0", "0",
-                                            "1",    "0", "0", "0",        "1", "0", "0",
+                                            "1",    "0", "0", "35",       "1", "0", "0",
                                             "Beto", "0", "0", "15759390", "0", "0"};
-    EXPECT_EQ(*lines, expected);
-    shared.currentSession().Archivo = file.string();
+    EXPECT_EQ(readConfigLines(fresh), expected);
+
+    ASSERT_TRUE(NewConfFile(fresh, "Beto", random));
+    EXPECT_EQ(readConfigLines(fresh).value_or(expected)[10], "0");
+    shared.currentSession().Archivo = fresh.string();
     load();
     EXPECT_EQ(shared.settings.tema, 1) << "a theme drawn as 0 loads as the first";
 }
 
 TEST_F(ConfigFileTest, UserNamesNeverLeaveTheDataFolder) {
-    for (const char* name : {"../x", "/etc/passwd", ".", "..", "a/../../b", ""}) {
-        const fs::path file = sessionFilePath(folder, name);
-        EXPECT_EQ(file.parent_path(), folder) << name;
-        EXPECT_NE(file.filename().string().front(), '.') << name;
+    for (const std::string& name : std::vector<std::string>{
+             "../x", "/etc/passwd", ".", "..", "a/../../b", "", std::string("a\0b", 3)}) {
+        const fs::path path = sessionFilePath(folder, name);
+        EXPECT_EQ(path.parent_path(), folder) << name;
+        EXPECT_NE(path.filename().string().front(), '.') << name;
     }
     EXPECT_EQ(sessionFilePath(folder, "Usuario 2").filename(), "Usuario 2.txt");
+    EXPECT_EQ(sessionFilePath(folder, std::string("a\0b", 3)).filename(), "a_b.txt");
+
+    random.queue({0.5});
+    ASSERT_TRUE(NewConfFile(sessionFilePath(folder, "../x"), "../x", random));
+    EXPECT_TRUE(fs::exists(folder / "_._x.txt"));
+    EXPECT_FALSE(fs::exists(folder.parent_path() / "x.txt"));
+}
+
+TEST_F(ConfigFileTest, SavingCreatesTheFolderAndLeavesNoTemporaryFile) {
+    const fs::path nested = folder / "quillora-vesta" / "QuilloraVS5.txt";
+    shared.currentSession().Archivo = nested.string();
+    ASSERT_TRUE(ConfSave(shared));
+    ASSERT_TRUE(ConfSave(shared));
+    std::vector<fs::path> entries;
+    for (const auto& entry : fs::directory_iterator(nested.parent_path())) {
+        entries.push_back(entry.path());
+    }
+    EXPECT_EQ(entries, std::vector<fs::path>{nested});
+
+    writeRaw("not a folder");
+    shared.currentSession().Archivo = (file() / "QuilloraVS5.txt").string();
+    EXPECT_FALSE(ConfSave(shared));
+    EXPECT_EQ(slurp(file()), "not a folder");
 }
 
 } // namespace
