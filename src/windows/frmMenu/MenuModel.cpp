@@ -44,13 +44,7 @@ void MenuModel::eOpen() {
     }
     const auto index = static_cast<std::size_t>(kColourLine - 1);
     const std::string text = index < lines->size() ? (*lines)[index] : std::string();
-    const double value = leadingNumber(text);
-    if (text.empty() || value < 0) {
-        palette.gameColour = palette.defaultBlue;
-    } else {
-        const auto packed = static_cast<long long>(value);
-        palette.gameColour = Rgb::fromPacked(static_cast<std::uint32_t>(packed) & 0xFFFFFFU);
-    }
+    palette.gameColour = colourFromLine(text, palette.defaultBlue);
 }
 
 Rgb MenuModel::gameColour() const {
