@@ -16,7 +16,13 @@ constexpr int kDeathStrikes = 8;
 } // namespace
 
 int roundHalfEven16(double value) {
-    const double rounded = std::nearbyint(value); // the default mode rounds halves to even
+    // Worked out by hand rather than with nearbyint, so a rounding mode some
+    // library left behind cannot change what a game is worth.
+    const double lower = std::floor(value);
+    const double fraction = value - lower;
+    const bool up = fraction > 0.5 || (fraction == 0.5 && std::fmod(lower, 2.0) != 0.0);
+    const double rounded = up ? lower + 1 : lower;
+    // Written so that NaN (a phrase without letters) fails the test too.
     if (!(rounded >= -32768 && rounded <= 32767)) {
         throw std::overflow_error("points out of 16-bit range");
     }
