@@ -73,6 +73,7 @@ private:
         const QPoint menuCentre = m_window ? m_window->geometry().center() : QPoint();
         auto board = std::make_unique<quillora::frmQlvs>(m_shared, m_dialogs, m_random);
         board->onRestart = [this] { later([this] { start(); }); };
+        board->onClose = [] { QCoreApplication::quit(); };
         board->onMenu = [this] {
             const QPoint at = m_window->geometry().center();
             later([this, at] { openMenu(at); });

@@ -1,11 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/frmQlvs/frmQlvs.h"
+#include "players/Players.h"
 #include "storage/ConfigFile.h"
 #include "support/Fakes.h"
 #include "support/TempFolder.h"
 #include "windows/frmInicio/InicioModel.h"
+#include "windows/frmNames/frmNames.h"
 #include "windows/frmQlvs/KeyboardView.h"
+#include "windows/frmWord1/frmWord1.h"
 #include "windows/frmWord2/frmWord2.h"
 
 #include <QLabel>
@@ -31,18 +34,20 @@ protected:
     BoardWindow() {
         shared.dataFolder = folder;
         InicioLoad(shared);
+    }
+    void SetUp() override { SetUpBoard(); }
+    // A fresh board for the shared state as it stands.
+    void SetUpBoard() {
         // No file yet: the theme is drawn, and a 0 reads as theme 1.
         random.queue({0.0});
         window = std::make_unique<frmQlvs>(shared, dialogs, random);
-    }
-    void SetUp() override {
         window->show();
         window->activateWindow();
         window->setFocus();
     }
     void TearDown() override { window.reset(); }
 
-    // Theme 1 ("ANIMAL"), phrase 2 ("VACA"), through the theme window->
+    // Theme 1 ("ANIMAL"), phrase 2 ("VACA"), through the theme window.
     void startVaca() {
         random.queue({0.05});
         QTest::keyClick(window.get(), Qt::Key_Return);
@@ -252,6 +257,59 @@ TEST_F(BoardWindow, ADroppedConfigurationFileBecomesASession) {
     EXPECT_EQ(shared.currentSlot, 1);
     EXPECT_EQ(shared.currentSession().displayName, "Ana");
     EXPECT_TRUE(window->model().restartRequested());
+}
+
+TEST_F(BoardWindow, OnlyTheCloseBoxEndsTheGame) {
+    int closes = 0, menus = 0;
+    window->onClose = [&closes] { ++closes; };
+    window->onMenu = [&menus] { ++menus; };
+    startVaca();
+    dialogs.answer({true});
+    QTest::keyClick(window.get(), Qt::Key_Backspace, Qt::AltModifier);
+    EXPECT_EQ(dialogs.shown.back().text, "¿Seguro de salirse de la partida?");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(menus, 1);
+    EXPECT_EQ(closes, 0) << "going back to the menu does not end the game";
+
+    BoardWindow::TearDown();
+    SetUpBoard();
+    window->onClose = [&closes] { ++closes; };
+    window->close();
+    EXPECT_EQ(closes, 1);
+}
+
+TEST_F(BoardWindow, FriendsStartWithTheirNamesThenOneOfThemWritesThePhrase) {
+    setUpRoster(shared, true, 3);
+    shared.playerNames[0][0] = "Ana";
+    shared.playerNames[0][1] = "Beto";
+    shared.playerNames[0][2] = "Ciro";
+    SetUpBoard();
+    EXPECT_EQ(window->windowTitle(), "Quillora Vesta");
+    EXPECT_FALSE(window->scoreFrame()->isVisible());
+    EXPECT_EQ(window->playerLabel()->text(), "Ana");
+    EXPECT_EQ(window->playerLabel()->toolTip(), " 3 Jugadores están jugando ");
+
+    window->eNames();
+    ASSERT_NE(window->namesWindow(), nullptr);
+    EXPECT_FALSE(window->isVisible()) << "the board steps aside for the names";
+    window->namesWindow()->close();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(window->isVisible());
+
+    QTest::keyClick(window.get(), Qt::Key_Return);
+    ASSERT_NE(window->friendWindow(), nullptr);
+    QLineEdit* phrase = window->friendWindow()->phraseBox();
+    type(QStringLiteral("la casa"), phrase);
+    EXPECT_EQ(window->friendWindow()->previewRow(1)->text(), "LA CASA");
+    QTest::keyClick(phrase, Qt::Key_Return);
+    EXPECT_EQ(window->themeLabel()->text(), "Frase de Ana");
+    EXPECT_EQ(window->counterLabel()->text(), "0/6");
+    EXPECT_EQ(window->playerLabel()->text(), "Beto") << "Ana wrote it and moved last";
+    EXPECT_EQ(window->playerLabel()->toolTip(), " 2 Jugadores están jugando ");
+    type("x");
+    EXPECT_EQ(window->playerLabel()->text(), "Ciro");
+    type("y");
+    EXPECT_EQ(window->playerLabel()->text(), "Beto");
 }
 
 } // namespace

@@ -661,7 +661,11 @@ QMenu* frmQlvs::buildPopup() {
     entry("Ayuda", nullptr, false);
     entry("Acerca", nullptr, false);
     menu->addSeparator();
-    entry("Salir", [] { QApplication::quit(); });
+    entry("Salir", [this] {
+        if (onClose) {
+            onClose();
+        }
+    });
     return menu;
 }
 
@@ -737,8 +741,8 @@ void frmQlvs::mousePressEvent(QMouseEvent* event) {
 
 void frmQlvs::closeEvent(QCloseEvent* event) {
     // The close box ends the game; going to the menu or restarting does not.
-    if (!m_leaving) {
-        QApplication::quit();
+    if (!m_leaving && onClose) {
+        onClose();
     }
     event->accept();
 }

@@ -40,6 +40,9 @@ public:
     std::function<void()> onRestart;
     // Called when the board goes back to the main menu.
     std::function<void()> onMenu;
+    // Called when the player closes the board with its close box or "Salir":
+    // the game ends.
+    std::function<void()> onClose;
 
     // Brings every control in step with the model and starts or stops the
     // timers it asks for.
