@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/frmQlvs/QlvsModel.h"
 
+#include "storage/ConfigFile.h"
 #include "support/Fakes.h"
+#include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -85,6 +87,32 @@ TEST_F(QlvsModelTest, KeyboardGrowsSixtyTwipsATickAndLampsFollowTheRound) {
     model.round().tickLamp();
     EXPECT_EQ(model.lampColours().light, model.gameColour());
     EXPECT_EQ(model.lampColours().dark, model.shade());
+}
+
+} // namespace
+} // namespace quillora
+
+namespace quillora {
+namespace {
+
+TEST(QlvsModelKeyboard, AKeptKeyboardOpensAtOnceAndTheBoardClimbsSixHundredTwips) {
+    SharedState shared;
+    ScriptedDialogs dialogs;
+    QueuedRandom random;
+    TempFolder folder("quillora-keyboard");
+    shared.currentSession().Archivo = (folder.path() / "QuilloraVS5.txt").string();
+    shared.settings.tecladoPermanente = true;
+    ASSERT_TRUE(ConfSave(shared)); // the board takes it from the file
+    QlvsModel model{shared, dialogs, random};
+    model.load();
+    EXPECT_TRUE(model.keyboardShown());
+    EXPECT_EQ(model.heightTwips(), QlvsModel::kBaseHeightTwips + QlvsModel::kKeyboardExtraTwips);
+    EXPECT_EQ(model.openingDropTwips(), 120);
+    int climbed = 0;
+    while (model.topTimerRunning()) {
+        climbed += model.tickTop();
+    }
+    EXPECT_EQ(climbed, 600);
 }
 
 } // namespace

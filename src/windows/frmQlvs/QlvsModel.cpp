@@ -34,6 +34,7 @@ void QlvsModel::load() {
     if (m_shared.settings.tecladoPermanente) {
         m_heightTwips = kBaseHeightTwips + kKeyboardExtraTwips;
         m_keyboardShown = true;
+        m_topSteps = kTopSteps;
     }
 }
 
@@ -315,7 +316,18 @@ void QlvsModel::tickOpen() {
         m_heightTwips = kBaseHeightTwips + kKeyboardExtraTwips;
         m_keyboardShown = true;
         m_opening = false;
+        if (m_shared.settings.tecladoPermanente) {
+            m_topSteps = kTopSteps;
+        }
     }
+}
+
+int QlvsModel::tickTop() {
+    if (m_topSteps == 0) {
+        return 0;
+    }
+    --m_topSteps;
+    return kTopStepTwips;
 }
 
 LampColours QlvsModel::lampColours() const {

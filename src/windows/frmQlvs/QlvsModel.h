@@ -29,6 +29,9 @@ public:
     static constexpr int kStatusTickMs = 500;
     static constexpr int kLampTickMs = 400;
     static constexpr int kScoreTickMs = 1;
+    static constexpr int kPermanentDropTwips = 120;
+    static constexpr int kTopStepTwips = 60;
+    static constexpr int kTopSteps = 10;
 
     QlvsModel(SharedState& shared, Dialogs& dialogs, Random& random, RoundEvents* events = nullptr);
 
@@ -138,6 +141,14 @@ public:
     void tickOpen();
     bool openTimerRunning() const { return m_opening; }
     bool keyboardShown() const { return m_keyboardShown; }
+    // With the keyboard kept open the board opens a little lower, and once
+    // its keyboard is out it climbs back up in steps (tmrTop).
+    int openingDropTwips() const {
+        return m_shared.settings.tecladoPermanente ? kPermanentDropTwips : 0;
+    }
+    bool topTimerRunning() const { return m_topSteps > 0; }
+    // One step up, in twips.
+    int tickTop();
     int heightTwips() const { return m_heightTwips; }
 
     // --- colours ----------------------------------------------------------------------
@@ -182,6 +193,7 @@ private:
     int m_heightTwips = kBaseHeightTwips;
     bool m_restart = false;
     bool m_toMenu = false;
+    int m_topSteps = 0;
     PlayerLabel m_player;
 };
 

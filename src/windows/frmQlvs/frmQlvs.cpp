@@ -119,6 +119,13 @@ frmQlvs::frmQlvs(SharedState& shared, Dialogs& dialogs, Random& random, QWidget*
         sync();
     });
 
+    m_tmrTop = new QTimer(this);
+    m_tmrTop->setInterval(QlvsModel::kOpenTickMs);
+    connect(m_tmrTop, &QTimer::timeout, this, [this] {
+        move(x(), y() - px(m_model.tickTop()));
+        syncTimers();
+    });
+
     // A game with friends starts with their names.
     m_tmrNames = new QTimer(this);
     m_tmrNames->setSingleShot(true);
@@ -436,6 +443,7 @@ void frmQlvs::syncTimers() {
     follow(m_tmrStrike, m_model.round().lampTimerRunning());
     follow(m_tmrSound, m_model.round().pendingSound().timerRunning());
     follow(m_tmrOpen, m_model.openTimerRunning());
+    follow(m_tmrTop, m_model.topTimerRunning() && m_shownOnce);
     follow(m_tmrScore, m_model.scoreTimerRunning());
     follow(m_tmrKey, m_model.panel().animating());
     follow(m_tmrMenu, m_model.panel().listSliding());
@@ -737,6 +745,15 @@ void frmQlvs::mousePressEvent(QMouseEvent* event) {
         return;
     }
     QWidget::mousePressEvent(event);
+}
+
+void frmQlvs::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (!m_shownOnce) {
+        m_shownOnce = true;
+        move(x(), y() + px(m_model.openingDropTwips()));
+        syncTimers();
+    }
 }
 
 void frmQlvs::closeEvent(QCloseEvent* event) {

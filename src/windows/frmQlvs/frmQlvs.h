@@ -83,6 +83,7 @@ protected:
     void dropEvent(QDropEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     void buildControls();
@@ -123,8 +124,10 @@ private:
     QWidget* m_frmePlayer = nullptr;
     QLabel* m_lblPlayer1 = nullptr;
     QTimer* m_tmrNames = nullptr;
+    QTimer* m_tmrTop = nullptr;
     bool m_restarting = false;
     bool m_leaving = false;
+    bool m_shownOnce = false;
 
     QTimer* m_tmrSusp = nullptr;
     QTimer* m_tmrStrike = nullptr;
