@@ -275,6 +275,24 @@ void frmQlvs::buildControls() {
     connect(m_lblPlayer1, &QWidget::customContextMenuRequested, this,
             [this](const QPoint& at) { buildTurnMenu()->popup(m_lblPlayer1->mapToGlobal(at)); });
 
+    // Menus whose entries belong to features still to come: they are there,
+    // greyed, so the board offers what it will.
+    auto laterMenu = [this](QWidget* owner, QStringList entries) {
+        owner->setContextMenuPolicy(Qt::CustomContextMenu);
+        connect(owner, &QWidget::customContextMenuRequested, this,
+                [this, owner, entries](const QPoint& at) {
+                    auto* menu = new QMenu(this);
+                    menu->setAttribute(Qt::WA_DeleteOnClose);
+                    for (const QString& entry : entries) {
+                        menu->addAction(entry)->setEnabled(false);
+                    }
+                    menu->popup(owner->mapToGlobal(at));
+                });
+    };
+    laterMenu(m_lblTheme,
+              {QStringLiteral("Temas seleccionados"), QStringLiteral("Dame un consejo")});
+    laterMenu(m_frmeScore, {QStringLiteral("Pasar puntos a supervivencia")});
+
     m_lblAuto = new QLabel(this);
     m_lblAuto->setGeometry(twipRect(kAutoLeft, kAutoTop, kAutoSize, kAutoSize));
     m_lblAuto->setAlignment(Qt::AlignCenter);
