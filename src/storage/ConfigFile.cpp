@@ -7,8 +7,10 @@
 #include "words/Text.h"
 #include "words/ThemeCatalogue.h"
 
+#include <algorithm>
 #include <array>
 #include <atomic>
+#include <cctype>
 #include <charconv>
 #include <chrono>
 #include <cstdio>
@@ -211,6 +213,11 @@ Rgb colourFromLine(std::string_view text, Rgb defaultColour) {
     return Rgb::fromPacked(static_cast<std::uint32_t>(value));
 }
 
+int leadingCount(std::string_view text) {
+    const double value = leadingNumber(text);
+    return static_cast<int>(std::clamp(value, -32768.0, 32767.0));
+}
+
 std::optional<std::vector<std::string>> readConfigLines(const fs::path& path) {
     std::error_code error;
     if (!fs::is_regular_file(path, error)) {
@@ -300,6 +307,16 @@ fs::path sessionFilePath(const fs::path& folder, std::string_view userName) {
         name = "_";
     } else if (name.front() == '.') {
         name.front() = '_';
+    }
+    // A user called like the main session's file would overwrite it.
+    auto lowered = [](std::string text) {
+        for (char& c : text) {
+            c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+        }
+        return text;
+    };
+    if (lowered(name + ".txt") == lowered(kMainConfigName)) {
+        name.insert(name.begin(), '_');
     }
     return folder / (name + ".txt");
 }

@@ -31,6 +31,8 @@ std::string toWindows1252(std::string_view utf8);
 // digits and a fraction. Text without one reads as 0; the result is always
 // finite.
 double leadingNumber(std::string_view text);
+// The same, as a 16-bit count: what the game keeps its small numbers in.
+int leadingCount(std::string_view text);
 
 // Line 18 as a colour: empty text, or a number that is no 24-bit colour,
 // gives the default colour.

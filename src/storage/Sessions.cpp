@@ -69,16 +69,16 @@ void Sessions::loadCurrent() {
     const UserSession& s = m_shared.currentSession();
     m_shared.normalPoints = leadingNumber(s.points);
     m_shared.survivalPoints = leadingNumber(s.survivalPoints);
-    m_shared.settings.tema = static_cast<int>(leadingNumber(s.theme));
+    m_shared.settings.tema = leadingCount(s.theme);
     m_shared.history = s.history;
-    m_shared.correctionsLeft = static_cast<int>(leadingNumber(s.corrections));
+    m_shared.correctionsLeft = leadingCount(s.corrections);
     m_shared.key = s.key;
     if (s.locked == "1") {
         m_shared.locked = true;
     } else if (s.locked == "0") {
         m_shared.locked = false;
     }
-    m_shared.tourPosition = static_cast<int>(leadingNumber(s.tour));
+    m_shared.tourPosition = leadingCount(s.tour);
     m_shared.sessionLoaded = true;
 }
 

@@ -326,6 +326,8 @@ TEST_F(ConfigFileTest, UserNamesNeverLeaveTheDataFolder) {
     }
     EXPECT_EQ(sessionFilePath(folder, "Usuario 2").filename(), "Usuario 2.txt");
     EXPECT_EQ(sessionFilePath(folder, std::string("a\0b", 3)).filename(), "a_b.txt");
+    EXPECT_EQ(sessionFilePath(folder, "quilloraVS5").filename(), "_quilloraVS5.txt")
+        << "no user may take the main session's file";
 
     random.queue({0.5});
     ASSERT_TRUE(NewConfFile(sessionFilePath(folder, "../x"), "../x", random));

@@ -26,7 +26,7 @@ void InicioLoad(SharedState& shared) {
             names[i] = "Jugador " + std::to_string(i + 1);
         }
     }
-    shared.correctionsLeft = static_cast<int>(leadingNumber(shared.currentSession().corrections));
+    shared.correctionsLeft = leadingCount(shared.currentSession().corrections);
 }
 
 } // namespace quillora
