@@ -19,10 +19,6 @@ namespace {
 constexpr int kWidth = 4200, kBaseHeight = 840, kRowTop = 120,
               kRowHeight = NamesModel::kRowHeightTwips;
 
-QString qs(const std::string& text) {
-    return QString::fromStdString(text);
-}
-
 } // namespace
 
 frmNames::frmNames(SharedState& shared, std::function<void()> closed, QWidget* parent)

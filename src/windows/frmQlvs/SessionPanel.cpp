@@ -19,10 +19,6 @@ namespace quillora {
 
 namespace {
 
-QString qs(const std::string& text) {
-    return QString::fromStdString(text);
-}
-
 constexpr int kKeyFrameLeft = 3000, kKeyFrameTop = 1920, kKeyFrameWidth = 5745,
               kKeyFrameHeight = 1560;
 const QString kWrongText = QStringLiteral("Incorrecto");

@@ -35,9 +35,6 @@ namespace {
 QRect twipRect(int left, int top, int width, int height) {
     return QRect(px(left), px(top), px(width), px(height));
 }
-QString qs(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 // Where the board's own controls sit, in twips.
 constexpr int kStatusLeft = 3000, kStatusTop = 300, kStatusWidth = 5040, kStatusHeight = 720;

@@ -18,10 +18,6 @@ namespace {
 
 constexpr int kWidth = 6600, kHeight = 4080;
 
-QString qs(const std::string& text) {
-    return QString::fromStdString(text);
-}
-
 } // namespace
 
 frmWord1::frmWord1(SharedState& shared, Dialogs& dialogs,
