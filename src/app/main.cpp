@@ -4,7 +4,7 @@
 #include "platform/QtDialogs.h"
 #include "platform/QtWeb.h"
 #include "ports/ClockRandom.h"
-#include "storage/SharedState.h"
+#include "state/SharedState.h"
 #include "windows/frmInicio/frmInicio.h"
 #include "windows/frmMenu/frmMenu.h"
 #include "windows/frmQlvs/frmQlvs.h"

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "look/Colour.h"
+
+namespace quillora {
+
+struct Settings;
+
+enum class Lamp { None, Yellow, Green, Red };
+
+// How one letter cell of the board is painted.
+struct CellLook {
+    Rgb background;
+    bool filled = false;
+    Rgb letter;
+    Rgb underline;
+};
+
+// The letter style and flags applied to cell 1..42 of the board.
+CellLook ApplyLetterStyle(const Settings& settings, int cell);
+
+// Colour of the letters left unguessed at the death.
+Rgb missColour(const Settings& settings, const Palette& palette);
+
+// Background of the board window behind the panels.
+Rgb windowBackground(const Settings& settings);
+
+// Panels flash in a lamp's colour; its lines and the strike counter take the
+// darker form. With no lamp lit they are the game colour and its shade.
+struct LampColours {
+    Rgb light;
+    Rgb dark;
+};
+LampColours lampColours(Lamp lamp, const Palette& palette);
+
+// The on-screen keyboard: keys 1..27 letters, 28..37 digits, 38 "123",
+// 39 "Escribir", 0 the "x" that closes the digit panel.
+struct KeyLook {
+    Rgb face;
+    Rgb caption;
+};
+Rgb keyRestColour(int key);
+KeyLook keyLook(int key, bool hovered, bool pressed, const Palette& palette);
+
+} // namespace quillora

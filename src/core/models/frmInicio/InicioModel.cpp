@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "models/frmInicio/InicioModel.h"
+
+#include "ports/Dialogs.h"
+#include "ports/Web.h"
+#include "storage/ConfigFile.h"
+#include "storage/Sessions.h"
+#include "state/SharedState.h"
+
+namespace quillora {
+
+void InicioLoad(SharedState& shared) {
+    Sessions::initialise(shared);
+    shared.palette = Palette{};
+    shared.settings.fraseAutomatica = false;
+    if (shared.skipStartDefaults) {
+        shared.skipStartDefaults = false;
+    } else {
+        UserSession& session = shared.currentSession();
+        session.corrections = "3";
+        shared.survivalPoints = 1000;
+        shared.normalPoints = 0;
+        auto& names = shared.playerNames[static_cast<std::size_t>(shared.currentSlot)];
+        for (std::size_t i = 0; i < names.size(); ++i) {
+            names[i] = "Jugador " + std::to_string(i + 1);
+        }
+    }
+    shared.correctionsLeft = leadingCount(shared.currentSession().corrections);
+}
+
+} // namespace quillora
+
+namespace quillora {
+
+InicioModel::InicioModel(SharedState& shared, bool fontAvailable) : m_fontMissing(!fontAvailable) {
+    InicioLoad(shared);
+}
+
+void InicioModel::tick() {
+    if (!m_running) {
+        return;
+    }
+    if (m_ticks < kTicks) {
+        m_lineLength += kLineStep;
+        ++m_ticks;
+    }
+    if (m_ticks >= kTicks) {
+        eGoForm();
+    }
+}
+
+void InicioModel::eGoForm() {
+    m_running = false;
+    if (!m_fontMissing) {
+        m_outcome = Outcome::ShowMenu;
+        return;
+    }
+    m_pointerShown = true;
+    m_noticeShown = true;
+}
+
+void InicioModel::download(Web& web, Dialogs& dialogs) {
+    if (!web.networkAlive()) {
+        dialogs.information(
+            "Se requiere una conexión a Internet para descargar, intente más tarde.");
+        return;
+    }
+    web.openUrl(kFontDownloadUrl);
+    m_pointerLeft = kPointerAtRestart;
+    m_downloaded = true;
+}
+
+} // namespace quillora

@@ -1,0 +1,337 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "models/frmQlvs/QlvsModel.h"
+
+#include "ports/Dialogs.h"
+#include "storage/ConfigFile.h"
+
+namespace quillora {
+
+namespace {
+constexpr int kSoundNewPhrase = 2;
+constexpr int kPlaying = 0;
+} // namespace
+
+QlvsModel::QlvsModel(SharedState& shared, Dialogs& dialogs, Random& random, RoundEvents* events)
+    : m_shared(shared), m_dialogs(dialogs), m_outer(events ? *events : m_noEvents),
+      m_round(shared, dialogs, random, this), m_scoring(shared, dialogs),
+      m_sessions(shared, dialogs, random), m_panel(shared), m_random(random) {}
+
+void QlvsModel::load() {
+    clearForBoardLoad(m_shared);
+    DataLoad(m_shared, m_random);
+    ConfLoad(m_shared);
+    m_scoring.refreshTitle();
+    m_scoring.showAccount();
+    // A tour that is still running keeps the automatic phrase on.
+    if (m_shared.tourPosition >= 1) {
+        m_shared.settings.fraseAutomatica = true;
+    }
+    if (m_shared.locked) {
+        m_panel.openLocked();
+    }
+    ePlayerName();
+    if (m_shared.settings.tecladoPermanente) {
+        m_heightTwips = kBaseHeightTwips + kKeyboardExtraTwips;
+        m_keyboardShown = true;
+        m_topSteps = kTopSteps;
+    }
+}
+
+// --- round hand-overs ---------------------------------------------------------------
+
+void QlvsModel::ePlayerName() {
+    m_player = quillora::ePlayerName(m_shared, m_player.caption);
+}
+
+void QlvsModel::hoverPlayer() {
+    if (!freeTurn()) {
+        ePlayerName();
+    }
+}
+
+void QlvsModel::adelantar() {
+    quillora::adelantar(m_shared);
+    ePlayerName();
+}
+
+void QlvsModel::atrasar() {
+    quillora::atrasar(m_shared);
+    ePlayerName();
+}
+
+void QlvsModel::toggleFreeTurn() {
+    quillora::toggleFreeTurn(m_shared);
+    ePlayerName();
+}
+
+void QlvsModel::namesClosed() {
+    ePlayerName();
+    ConfSave(m_shared);
+}
+
+void QlvsModel::friendPhrase(const std::string& phrase, const std::string& themeText) {
+    ePlayerName();
+    m_round.startPhrase(phrase, 0, themeText);
+}
+
+void QlvsModel::nextTurn() {
+    eNext(m_shared);
+    ePlayerName();
+    m_outer.nextTurn();
+}
+
+void QlvsModel::phraseLaid() {
+    openKeyboard();
+    // With sounds off nothing waits for the opening sound: the score settles
+    // at once.
+    if (!m_shared.settings.sonidos) {
+        m_scoring.startCounting();
+    }
+    m_outer.phraseLaid();
+}
+
+void QlvsModel::roundWon() {
+    m_scoring.scoreWin(m_round.board().revealedCount(), m_round.state().strikeCount,
+                       m_round.earlyAnswerBonusFlag());
+    m_outer.roundWon();
+}
+
+void QlvsModel::roundLost() {
+    m_scoring.scoreLoss(m_round.board().revealedCount(), m_round.board().letterTotal());
+    m_outer.roundLost();
+}
+
+void QlvsModel::settingsChanged() {
+    ConfSave(m_shared);
+    m_outer.settingsChanged();
+}
+
+// --- keys ------------------------------------------------------------------------------
+
+GameStart QlvsModel::keyTyped(WindowKey key, char32_t character) {
+    switch (key) {
+    case WindowKey::Delete:
+        m_round.eBackStrike();
+        break;
+    case WindowKey::Enter:
+        return playPressed();
+    case WindowKey::Character:
+        m_round.typeKey(character);
+        break;
+    case WindowKey::F2:
+        m_round.eMenuNew();
+        break;
+    case WindowKey::F3:
+        eReBoot();
+        break;
+    case WindowKey::F4:
+        eBlueScreen();
+        break;
+    case WindowKey::ToggleAuto:
+        m_round.eMenuAuto();
+        break;
+    case WindowKey::ToggleSounds:
+        toggleSounds();
+        break;
+    case WindowKey::BackToMenu:
+        eMenuBack();
+        break;
+    case WindowKey::Escape:
+    case WindowKey::Other:
+        break;
+    }
+    return GameStart::Nothing;
+}
+
+GameStart QlvsModel::playPressed() {
+    if (m_scoring.counting() || !m_scoring.playEnabled()) {
+        return GameStart::Nothing;
+    }
+    return m_round.cmdGame();
+}
+
+void QlvsModel::hoverKey(int key) {
+    if (m_pressedKey >= 0) {
+        return;
+    }
+    m_hoveredKey = key;
+    ColorFall();
+}
+
+void QlvsModel::leaveKeys() {
+    if (m_pressedKey < 0) {
+        m_hoveredKey = -1;
+    }
+}
+
+void QlvsModel::pressKey(int key) {
+    m_pressedKey = key;
+}
+
+void QlvsModel::releaseMouse(int keyUnderMouse) {
+    const int pressed = m_pressedKey;
+    m_pressedKey = -1;
+    m_hoveredKey = keyUnderMouse;
+    ColorFall();
+    if (pressed >= 0 && pressed == keyUnderMouse) {
+        // The clicked key returns to its resting face before it is guessed.
+        if (pressed <= 37) {
+            m_hoveredKey = -1;
+        }
+        m_round.clickKey(pressed);
+    }
+}
+
+KeyLook QlvsModel::keyFace(int key) const {
+    return keyLook(key, key == m_hoveredKey, key == m_pressedKey, m_shared.palette);
+}
+
+void QlvsModel::hoverQuit() {
+    if (m_round.correctionOffered()) {
+        m_quitCaption = "<";
+        m_quitTooltip = " Borrar un strike. ";
+    }
+}
+
+void QlvsModel::ColorFall() {
+    m_quitCaption.clear();
+    m_quitTooltip = " Octavo Strike. ";
+}
+
+// --- menu entries ----------------------------------------------------------------------
+
+void QlvsModel::toggleSounds() {
+    m_shared.settings.sonidos = !m_shared.settings.sonidos;
+    ConfSave(m_shared);
+}
+
+void QlvsModel::toggleAnimation() {
+    m_shared.settings.animacion = !m_shared.settings.animacion;
+    ConfSave(m_shared);
+}
+
+void QlvsModel::eMenuBack() {
+    if (m_round.eMenuBack()) {
+        m_toMenu = true;
+    }
+}
+
+void QlvsModel::hidePlayButton(bool hidden) {
+    m_shared.settings.sinBotonJugar = hidden;
+    ConfSave(m_shared);
+}
+
+GameStart QlvsModel::backgroundClicked() {
+    if (m_shared.settings.sinBotonJugar) {
+        return playPressed();
+    }
+    return GameStart::Nothing;
+}
+
+void QlvsModel::eReBoot() {
+    if (m_dialogs.okCancel("Está apunto de reiniciar el juego, se borrará todo.")) {
+        eDReBoot();
+    }
+}
+
+void QlvsModel::eDReBoot() {
+    m_restart = true;
+    if (m_shared.sessionLoaded) {
+        m_shared.selectedThemes[static_cast<std::size_t>(m_shared.currentSlot)] = {};
+    }
+}
+
+// --- sessions --------------------------------------------------------------------------
+
+void QlvsModel::eBlueScreen() {
+    if (m_panel.shown() && m_shared.locked) {
+        return;
+    }
+    const bool playing = m_round.status().rfind("JUGANDO", kPlaying) == 0;
+    m_panel.eBlueScreen(static_cast<int>(m_sessions.entries().size()), playing);
+}
+
+void QlvsModel::toggleSessionList() {
+    if (!m_panel.listShown() && m_round.state().manyErrors) {
+        m_dialogs.exclamation("No se puede cambiar de sesión, termine la partida.");
+        return;
+    }
+    m_panel.toggleList(static_cast<int>(m_sessions.entries().size()));
+}
+
+void QlvsModel::sessionChanged(bool changed) {
+    if (changed) {
+        eDReBoot();
+    }
+}
+
+void QlvsModel::addSession(const std::string& typedName, std::string& shownName) {
+    shownName = typedName;
+    sessionChanged(m_sessions.add(typedName, m_round.state().manyErrors, shownName));
+}
+
+void QlvsModel::switchSession(int slot) {
+    sessionChanged(m_sessions.switchTo(slot, m_round.state().manyErrors));
+}
+
+void QlvsModel::deleteSession() {
+    sessionChanged(m_sessions.deleteCurrent());
+}
+
+void QlvsModel::dropFiles(const std::vector<std::string>& paths) {
+    sessionChanged(m_sessions.addFromFiles(paths, m_round.state().manyErrors));
+}
+
+void QlvsModel::keyEntered(const std::string& typed) {
+    m_panel.enterKey(typed);
+}
+
+// --- timers ----------------------------------------------------------------------------
+
+void QlvsModel::tickSound() {
+    // The score waits for the opening sound of a game before it settles.
+    if (m_round.pendingSound().number() == kSoundNewPhrase) {
+        m_scoring.startCounting();
+    }
+    m_round.pendingSound().tick();
+}
+
+void QlvsModel::tickScore() {
+    m_scoring.tick(m_round.strikeCountForScore());
+}
+
+void QlvsModel::openKeyboard() {
+    if (!m_keyboardShown) {
+        m_opening = true;
+    }
+}
+
+void QlvsModel::tickOpen() {
+    if (!m_opening) {
+        return;
+    }
+    m_heightTwips += kOpenStepTwips;
+    if (m_heightTwips >= kBaseHeightTwips + kKeyboardExtraTwips) {
+        m_heightTwips = kBaseHeightTwips + kKeyboardExtraTwips;
+        m_keyboardShown = true;
+        m_opening = false;
+        if (m_shared.settings.tecladoPermanente) {
+            m_topSteps = kTopSteps;
+        }
+    }
+}
+
+int QlvsModel::tickTop() {
+    if (m_topSteps == 0) {
+        return 0;
+    }
+    --m_topSteps;
+    return kTopStepTwips;
+}
+
+LampColours QlvsModel::lampColours() const {
+    return quillora::lampColours(m_round.lamp(), m_shared.palette);
+}
+
+} // namespace quillora

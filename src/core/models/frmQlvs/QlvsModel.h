@@ -1,0 +1,200 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "players/Players.h"
+#include "round/Round.h"
+#include "scoring/Points.h"
+#include "storage/Sessions.h"
+#include "state/SharedState.h"
+#include "look/BoardLook.h"
+#include "models/frmQlvs/SessionPanelModel.h"
+
+#include <string>
+#include <vector>
+
+namespace quillora {
+
+// The board window's own state beside the game: the score, the sessions and
+// their panel, the keyboard's faces under the mouse, the strike-correction
+// label, the keyboard's opening and which of the window's timers run. The
+// widget draws this and the round it holds.
+class QlvsModel final : private RoundEvents {
+public:
+    static constexpr int kWidthTwips = 11745;
+    static constexpr int kBaseHeightTwips = 5340;
+    static constexpr int kKeyboardExtraTwips = 1080;
+    static constexpr int kOpenStepTwips = 60;
+    static constexpr int kOpenTickMs = 10;
+    static constexpr int kStatusTickMs = 500;
+    static constexpr int kLampTickMs = 400;
+    static constexpr int kScoreTickMs = 1;
+    static constexpr int kPermanentDropTwips = 120;
+    static constexpr int kTopStepTwips = 60;
+    static constexpr int kTopSteps = 10;
+
+    QlvsModel(SharedState& shared, Dialogs& dialogs, Random& random, RoundEvents* events = nullptr);
+
+    // The board's opening: the options of the current session are read and
+    // applied, and a locked session shows its key panel at once.
+    void load();
+
+    Round& round() { return m_round; }
+    const Round& round() const { return m_round; }
+    const SharedState& shared() const { return m_shared; }
+    // The windows the board opens work on the same state and boxes.
+    SharedState& shared() { return m_shared; }
+    Dialogs& dialogs() { return m_dialogs; }
+    Scoring& scoring() { return m_scoring; }
+    const Scoring& scoring() const { return m_scoring; }
+
+    // --- keys and the mouse ----------------------------------------------------------
+    // A key the window handles before its controls.
+    enum class WindowKey {
+        Character,
+        Delete,
+        Enter,
+        Escape,
+        F2,
+        F3,
+        F4,
+        ToggleAuto,
+        ToggleSounds,
+        BackToMenu,
+        Other
+    };
+    GameStart keyTyped(WindowKey key, char32_t character = 0);
+    // The JUGAR button.
+    GameStart playPressed();
+    void hoverKey(int key);
+    void leaveKeys();
+    void pressKey(int key);
+    // The release of the mouse anywhere; a click completes on the key it began.
+    void releaseMouse(int keyUnderMouse);
+    KeyLook keyFace(int key) const;
+    int hoveredKey() const { return m_hoveredKey; }
+    int pressedKey() const { return m_pressedKey; }
+
+    // The label over the eighth strike mark offers the correction on hover.
+    void hoverQuit();
+    void ColorFall();
+    const std::string& quitCaption() const { return m_quitCaption; }
+    const std::string& quitTooltip() const { return m_quitTooltip; }
+
+    // --- menu entries --------------------------------------------------------------
+    void eMenuNew() { m_round.eMenuNew(); }
+    void eMenuAuto() { m_round.eMenuAuto(); }
+    void toggleSounds();
+    void toggleAnimation();
+    // F3: asks first. The popup's "Reiniciar" restarts at once.
+    void eReBoot();
+    void eDReBoot();
+    bool restartRequested() const { return m_restart; }
+    // "Volver al menú", Alt+Backspace.
+    void eMenuBack();
+    bool menuRequested() const { return m_toMenu; }
+    // "Desaparecer botón" and the restore label.
+    void hidePlayButton(bool hidden);
+    // A click on the board's background: closes the side panels, and plays
+    // when the JUGAR button is hidden.
+    GameStart backgroundClicked();
+
+    // --- players -----------------------------------------------------------------
+    // The player whose turn it is, as the label shows it.
+    const PlayerLabel& playerLabel() const { return m_player; }
+    void ePlayerName();
+    // The mouse passes over a player label.
+    void hoverPlayer();
+    bool turnMovesEnabled() const { return quillora::turnMovesEnabled(m_shared); }
+    bool freeTurn() const { return freeTurnOn(m_shared); }
+    void adelantar();
+    void atrasar();
+    void toggleFreeTurn();
+    // The players window closed with the names stored.
+    void namesClosed();
+    // tmrNames: a game with friends starts with their names.
+    bool namesAtStart() const { return m_shared.multiplayer; }
+    // A friend's phrase accepted in "LA FRASE ES:".
+    void friendPhrase(const std::string& phrase, const std::string& themeText);
+
+    // --- sessions ------------------------------------------------------------------
+    SessionPanelModel& panel() { return m_panel; }
+    const SessionPanelModel& panel() const { return m_panel; }
+    void eBlueScreen();
+    void toggleSessionList();
+    std::vector<Sessions::Entry> sessionEntries() const { return m_sessions.entries(); }
+    std::string displayName() const { return m_shared.currentSession().displayName; }
+    bool deleteShown() const { return m_shared.currentSlot != 0; }
+    void addSession(const std::string& typedName, std::string& shownName);
+    void switchSession(int slot);
+    void deleteSession();
+    void dropFiles(const std::vector<std::string>& paths);
+    void keyEntered(const std::string& typed);
+
+    // --- timers ----------------------------------------------------------------------
+    void tickSound();
+    void tickScore();
+    bool scoreTimerRunning() const { return m_scoring.counting(); }
+
+    // --- the keyboard's opening (tmrOpen) ----------------------------------------------
+    void openKeyboard();
+    void tickOpen();
+    bool openTimerRunning() const { return m_opening; }
+    bool keyboardShown() const { return m_keyboardShown; }
+    // With the keyboard kept open the board opens a little lower, and once
+    // its keyboard is out it climbs back up in steps (tmrTop).
+    int openingDropTwips() const {
+        return m_shared.settings.tecladoPermanente ? kPermanentDropTwips : 0;
+    }
+    bool topTimerRunning() const { return m_topSteps > 0; }
+    // One step up, in twips.
+    int tickTop();
+    int heightTwips() const { return m_heightTwips; }
+
+    // --- colours ----------------------------------------------------------------------
+    LampColours lampColours() const;
+    Rgb gameColour() const { return m_shared.palette.gameColour; }
+    Rgb shade() const { return eColor(m_shared.palette.gameColour); }
+    CellLook cellLook(int cell) const { return ApplyLetterStyle(m_shared.settings, cell); }
+    Rgb missColour() const { return quillora::missColour(m_shared.settings, m_shared.palette); }
+    Rgb background() const { return windowBackground(m_shared.settings); }
+
+private:
+    // The round's hand-overs pass through here: the window opens its keyboard
+    // when a phrase is laid, scores the end of a game and saves the options,
+    // then whoever else listens hears of it.
+    void nextTurn() override;
+    void phraseLaid() override;
+    void roundWon() override;
+    void roundLost() override;
+    void countdownStopped() override { m_outer.countdownStopped(); }
+    void correctionAsked(bool asking) override { m_outer.correctionAsked(asking); }
+    void settingsChanged() override;
+    void titleChanged() override { m_scoring.refreshTitle(); }
+    bool scoreCounting() const override { return m_scoring.counting(); }
+
+    void sessionChanged(bool changed);
+
+    SharedState& m_shared;
+    Dialogs& m_dialogs;
+    RoundEvents m_noEvents;
+    RoundEvents& m_outer;
+    Round m_round;
+    Scoring m_scoring;
+    Sessions m_sessions;
+    SessionPanelModel m_panel;
+    Random& m_random;
+    int m_hoveredKey = -1;
+    int m_pressedKey = -1;
+    std::string m_quitCaption;
+    std::string m_quitTooltip = " Octavo Strike. ";
+    bool m_opening = false;
+    bool m_keyboardShown = false;
+    int m_heightTwips = kBaseHeightTwips;
+    bool m_restart = false;
+    bool m_toMenu = false;
+    int m_topSteps = 0;
+    PlayerLabel m_player;
+};
+
+} // namespace quillora

@@ -1,0 +1,134 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "models/frmWord1/Word1Model.h"
+
+#include "players/Players.h"
+#include "ports/Dialogs.h"
+#include "round/Keyboard.h"
+#include "state/SharedState.h"
+#include "words/Text.h"
+
+namespace quillora {
+
+namespace {
+
+constexpr int kBackspace = 8;
+
+// Capitals as the friend would expect them, accented letters included, so a
+// pasted "á" shows as "Á" and is refused as an accent, not as a small letter.
+char32_t friendUpper(char32_t ch) {
+    if (ch >= 0xE0 && ch <= 0xFE && ch != 0xF7) {
+        return ch - 0x20;
+    }
+    return gameUpper(ch);
+}
+
+std::u32string upper(std::u32string text) {
+    for (char32_t& ch : text) {
+        ch = friendUpper(ch);
+    }
+    return text;
+}
+
+bool hasBoardCell(char32_t ch) {
+    return (ch >= U'0' && ch <= U'9') || (ch >= U'A' && ch <= U'Z') || ch == kUpperEnye ||
+           ch == U' ';
+}
+
+std::string firstChars(const std::string& text, std::size_t count) {
+    std::u32string chars = toU32(text);
+    if (chars.size() > count) {
+        chars.resize(count);
+    }
+    return toUtf8(chars);
+}
+
+} // namespace
+
+Word1Model::Word1Model(const SharedState& shared)
+    : m_theme(shared.lastFriendTheme.empty() ? kNoTheme : shared.lastFriendTheme) {}
+
+void Word1Model::setThemeText(const std::string& text) {
+    m_theme = firstChars(text, kMaxThemeChars);
+}
+
+void Word1Model::themeFocusIn() {
+    if (m_theme == kNoTheme) {
+        m_theme.clear();
+    }
+}
+
+void Word1Model::themeFocusOut() {
+    if (m_theme.empty()) {
+        m_theme = kNoTheme;
+    }
+}
+
+void Word1Model::setPhraseText(const std::string& text) {
+    m_phrase = firstChars(text, kMaxPhraseChars);
+}
+
+bool Word1Model::keyAllowed(int keyCode) const {
+    if (Verificar_Tecla(keyCode, !m_phrase.empty()) == 0) {
+        return false;
+    }
+    return keyCode == kBackspace || charCount(m_phrase) < kMaxPhraseChars;
+}
+
+void Word1Model::type(char32_t key) {
+    if (!keyAllowed(static_cast<int>(key))) {
+        return;
+    }
+    std::u32string chars = toU32(m_phrase);
+    if (key == kBackspace) {
+        if (!chars.empty()) {
+            chars.pop_back();
+        }
+    } else {
+        chars.push_back(key);
+    }
+    m_phrase = toUtf8(chars);
+}
+
+bool Word1Model::okEnabled() const {
+    return !m_phrase.empty() && m_phrase.front() != ' ';
+}
+
+std::string Word1Model::previewRow(int row) const {
+    const std::u32string chars = upper(toU32(m_phrase));
+    const auto start = static_cast<std::size_t>((row - 1) * kRowChars);
+    if (row < 1 || row > kPreviewRows || start >= chars.size()) {
+        return {};
+    }
+    return toUtf8(std::u32string_view(chars).substr(start, kRowChars));
+}
+
+std::optional<FriendPhrase> Word1Model::accept(SharedState& shared, Dialogs& dialogs) {
+    if (!okEnabled()) {
+        return std::nullopt;
+    }
+    const std::u32string phrase = upper(toU32(m_phrase));
+    m_phrase = toUtf8(phrase);
+    int blanks = 0;
+    for (char32_t ch : phrase) {
+        if (!hasBoardCell(ch)) {
+            dialogs.exclamation(kRefusal);
+            return std::nullopt;
+        }
+        blanks += ch == U' ' ? 1 : 0;
+    }
+
+    FriendPhrase result;
+    result.phrase = m_phrase;
+    result.letterTotal = static_cast<int>(phrase.size()) - blanks;
+
+    const std::string author = playerName(shared, shared.roster.currentPlayer);
+    MoveAuthorLast(shared);
+    shared.playerCount = shared.roster.guesserCount;
+
+    result.themeText = m_theme.empty() || m_theme == kNoTheme ? "Frase de " + author : m_theme;
+    shared.lastFriendTheme = result.themeText;
+    return result;
+}
+
+} // namespace quillora

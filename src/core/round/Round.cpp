@@ -1,0 +1,537 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "round/Round.h"
+
+#include "ports/Dialogs.h"
+#include "ports/Random.h"
+#include "state/SharedState.h"
+#include "words/Text.h"
+
+namespace quillora {
+
+namespace {
+
+constexpr int kManyErrorsStrikes = 5;
+constexpr int kPanicStrikes = 7;
+constexpr int kDeathStrikes = 8;
+
+// The sounds the game asks for, by resource number less 100.
+constexpr int kSoundWarning = 1;
+constexpr int kSoundNewPhrase = 2;
+constexpr int kSoundLost = 3;
+constexpr int kSoundStrike = 4;
+constexpr int kSoundWon = 5;
+constexpr int kSoundRight = 6;
+
+const std::string kPlaying = "JUGANDO";
+const std::string kNewGame = "NUEVA PARTIDA";
+const std::string kPlay = "JUGAR";
+const std::string kLeaveQuestion = "¿Seguro de salirse de la partida?";
+
+// The answer box shows the typed text in capitals, accented letters too, so
+// the player sees the very letter that gets the answer refused.
+char32_t answerUpper(char32_t c) {
+    if (c >= U'\u00E0' && c <= U'\u00FE' && c != U'\u00F7') {
+        return c - 0x20;
+    }
+    if (c == U'\u00FF') {
+        return U'\u0178';
+    }
+    return gameUpper(c);
+}
+
+bool answerCharAllowed(char32_t c) {
+    return (c >= U'0' && c <= U'9') || (c >= U'A' && c <= U'Z') || c == kUpperEnye || c == U' ';
+}
+
+} // namespace
+
+Round::Round(SharedState& shared, Dialogs& dialogs, Random& random, RoundEvents* events)
+    : m_shared(shared), m_dialogs(dialogs), m_random(random),
+      m_events(events ? *events : m_noEvents) {
+    m_catalogue.WordBankInit();
+    BotonNuevo();
+}
+
+bool Round::pointsCount() const {
+    return !m_shared.multiplayer && m_shared.settings.sistemaPuntos;
+}
+
+void Round::requestSound(int number) {
+    m_sound.request(number, m_shared.settings.sonidos);
+}
+
+void Round::light(Lamp lamp) {
+    m_lamp = lamp;
+    if (!m_state.over) {
+        m_lampTimerRunning = true;
+    }
+}
+
+void Round::tickLamp() {
+    if (!m_state.over) {
+        m_lamp = Lamp::None;
+    }
+    m_lampTimerRunning = false;
+}
+
+void Round::tickStatus() {
+    if (m_status.rfind(kPlaying, 0) != 0) {
+        return;
+    }
+    if (!m_shared.settings.animacion) {
+        m_status = kPlaying;
+        return;
+    }
+    const std::size_t dots = m_status.size() - kPlaying.size();
+    m_status = kPlaying + std::string(dots >= 3 ? 0 : dots + 1, '.');
+}
+
+// --- starting and resetting ------------------------------------------------------
+
+GameStart Round::cmdGame() {
+    const bool underWay = !m_state.manyErrors && !m_state.waitingForPhrase && !m_state.over;
+    if (underWay && !m_dialogs.yesNo(kLeaveQuestion)) {
+        return GameStart::Nothing;
+    }
+    return eGame();
+}
+
+GameStart Round::eGame() {
+    if (m_playCaption == kNewGame) {
+        if (!m_events.scoreCounting()) {
+            eMenuNew();
+        }
+        return GameStart::Nothing;
+    }
+    if (!m_shared.multiplayer && m_shared.settings.supervivencia && m_shared.survivalPoints <= 0) {
+        m_dialogs.message(Dialogs::Icon::Exclamation,
+                          "Reinicia el juego o consigue puntos para volver a jugar en este modo.",
+                          "No puedes jugar sin puntos");
+        return GameStart::Nothing;
+    }
+    if (m_shared.multiplayer) {
+        return GameStart::FriendWindow;
+    }
+    if (!m_shared.settings.fraseAutomatica) {
+        return GameStart::ThemeWindow;
+    }
+    if (m_shared.tourPosition >= 1) {
+        DrawTourPhrase();
+    } else {
+        BotonTema();
+        eOther();
+        eOk();
+    }
+    return GameStart::Started;
+}
+
+void Round::BotonTema() {
+    const auto& selected = m_shared.selectedThemes[static_cast<std::size_t>(m_shared.currentSlot)];
+    int marked = 0;
+    for (bool on : selected) {
+        marked += on ? 1 : 0;
+    }
+    m_randomTheme = marked > 1;
+    m_catalogue.ThemeLoad();
+    m_word2ThemeLabel = m_randomTheme ? "????" : m_catalogue.themeName(m_shared.settings.tema);
+}
+
+int Round::drawPhraseNumber() {
+    int number = m_random.drawHalfRange(m_catalogue.phraseDrawRange());
+    while (number == m_previousPhraseNumber) {
+        number = m_random.drawHalfRange(m_catalogue.phraseDrawRange());
+    }
+    return number;
+}
+
+void Round::eOther() {
+    m_catalogue.WordBankInit();
+    if (m_randomTheme) {
+        const auto& selected =
+            m_shared.selectedThemes[static_cast<std::size_t>(m_shared.currentSlot)];
+        m_gameTheme = m_random.drawHalfRange(m_catalogue.themeDrawRange());
+        // The draw gives 0..49; a 0 drawn again stands for the fiftieth theme.
+        while (!selected[static_cast<std::size_t>(m_gameTheme)]) {
+            m_gameTheme = m_random.drawHalfRange(m_catalogue.themeDrawRange());
+            if (m_gameTheme == 0) {
+                m_gameTheme = m_catalogue.themeCount();
+            }
+        }
+    } else {
+        m_gameTheme = m_shared.settings.tema;
+    }
+    m_phraseNumber = drawPhraseNumber();
+    m_catalogue.PhraseLoad(m_gameTheme);
+    m_drawnPhrase = m_catalogue.phrase(m_phraseNumber + 1);
+    m_gameThemeName = m_word2ThemeLabel;
+}
+
+void Round::eOk() {
+    layCataloguePhrase(true);
+}
+
+void Round::DrawTourPhrase() {
+    m_catalogue.ThemeLoad();
+    m_gameThemeName = m_catalogue.themeName(m_shared.tourPosition);
+    m_catalogue.WordBankInit();
+    m_gameTheme = m_shared.tourPosition;
+    m_phraseNumber = drawPhraseNumber();
+    m_catalogue.PhraseLoad(m_gameTheme);
+    m_drawnPhrase = m_catalogue.phrase(m_phraseNumber + 1);
+    layCataloguePhrase(false);
+}
+
+void Round::layCataloguePhrase(bool mayStartAuto) {
+    const auto slot = static_cast<std::size_t>(m_shared.currentSlot);
+    m_shared.lastThemeName[slot] = m_gameThemeName;
+    if (mayStartAuto && m_shared.previousThemeName[slot] == m_shared.lastThemeName[slot]) {
+        switchAutoOn();
+    } else {
+        m_shared.previousThemeName[slot] = m_shared.lastThemeName[slot];
+    }
+    startPhrase(m_drawnPhrase, m_gameTheme, m_gameThemeName);
+}
+
+void Round::switchAutoOn() {
+    m_shared.settings.fraseAutomatica = true;
+}
+
+bool Round::autoMarkerVisible() const {
+    return m_shared.settings.fraseAutomatica;
+}
+
+void Round::eMenuAuto() {
+    if (!m_shared.settings.fraseAutomatica) {
+        switchAutoOn();
+    } else {
+        m_shared.settings.fraseAutomatica = false;
+        m_shared.tourPosition = 0;
+        const auto slot = static_cast<std::size_t>(m_shared.currentSlot);
+        m_shared.selectedThemes[slot] = m_shared.tourCopy[slot];
+    }
+    m_autoCaption = "A";
+    m_autoTooltip = " Desactivar la frase automática. ";
+    if (!m_state.over) {
+        m_events.titleChanged();
+    }
+    m_events.settingsChanged();
+}
+
+void Round::startPhrase(const std::string& phrase, int theme, const std::string& themeLabel) {
+    m_pendingPhrase = toU32(phrase);
+    m_pendingLetterTotal = PhraseBoard::countLetters(m_pendingPhrase);
+    m_gameTheme = theme;
+    m_gameThemeName = themeLabel;
+    m_playCaption = kNewGame;
+    m_status = kPlaying + "...";
+    m_themeLabel = themeLabel;
+    m_newGameEnabled = true;
+    LayPhrase();
+}
+
+void Round::LayPhrase() {
+    if (!m_board.lay(m_pendingPhrase, m_pendingLetterTotal)) {
+        return;
+    }
+    m_counterVisible = true;
+    m_previousPhraseNumber = m_phraseNumber;
+    m_state.waitingForPhrase = false;
+    requestSound(kSoundNewPhrase);
+    m_events.phraseLaid();
+}
+
+void Round::eMenuNew() {
+    if (m_state.manyErrors) {
+        m_dialogs.exclamation("Tienes bastantes errores, termina el juego.");
+        return;
+    }
+    m_events.countdownStopped();
+    m_newGameEnabled = false;
+    m_playCaption = kPlay;
+    m_board.clear();
+    m_state.strikeSlots.fill("");
+    m_status = kNewGame;
+    m_figure.Muneco();
+    BotonNuevo();
+}
+
+void Round::BotonNuevo() {
+    m_designEnabled = true;
+    // A friend's phrase leaves out its author; the next game counts everyone.
+    m_shared.playerCount = m_shared.roster.rosterSize;
+    m_lamp = Lamp::None;
+    m_lampTimerRunning = false;
+    m_deathColours = false;
+    m_digitPanelVisible = false;
+    m_counterVisible = false;
+    closeAnswerBox();
+    m_board.lay(U"", 0);
+    m_state.over = false;
+    m_queEsEsoVisible = false;
+    m_state.waitingForPhrase = true;
+    m_state.correctionUsed = false;
+    m_state.hit = false;
+    m_state.earlyAnswerBonus = false;
+    m_state.strikeCount = 0;
+    m_themeLabel.clear();
+    m_board.RestoreKeyboard();
+}
+
+// --- guessing ----------------------------------------------------------------------
+
+void Round::typeKey(char32_t typed) {
+    if (!inPlay()) {
+        return;
+    }
+    const ComputerKey key = mapComputerKey(typed);
+    switch (key.action) {
+    case KeyAction::Guess:
+        guess(key.letter);
+        break;
+    case KeyAction::ToggleAnswer:
+        BotonRespuesta();
+        break;
+    case KeyAction::ToggleDigits:
+        showDigitPanel(!m_digitPanelVisible);
+        break;
+    case KeyAction::None:
+        break;
+    }
+}
+
+void Round::clickKey(int key) {
+    if (!inPlay() || key < 0 || key >= kKeyCount) {
+        return;
+    }
+    if (key >= 1 && key <= 37) {
+        guess(keyLetter(key));
+    } else if (key == kWriteKey) {
+        BotonRespuesta();
+    } else {
+        showDigitPanel(key == kDigitPanelKey);
+    }
+}
+
+void Round::guess(char32_t letter) {
+    if (!inPlay()) {
+        return;
+    }
+    m_state.guessedLetter = letter;
+    BotonIntro();
+}
+
+void Round::BotonReLetra() {
+    m_state.alreadyTried = m_board.alreadyTried(m_state.guessedLetter);
+}
+
+void Round::BotonIntro() {
+    m_state.hit = false;
+    BotonReLetra();
+    if (m_state.alreadyTried) {
+        LuzAmarilla();
+        m_state.alreadyTried = false;
+        return;
+    }
+    m_state.hit = m_board.reveal(m_state.guessedLetter);
+    BotonStrike();
+    BotonWin();
+}
+
+void Round::BotonStrike() {
+    if (!m_state.hit) {
+        for (int n = 1; n <= RoundState::kSlots; ++n) {
+            if (m_state.slot(n).empty()) {
+                m_state.strikeCount = n;
+                m_state.slot(n) = toUtf8(m_state.guessedLetter);
+                break;
+            }
+        }
+        if (m_state.strikeCount >= kDeathStrikes) {
+            // The red lamp comes with the death itself.
+            requestSound(kSoundLost);
+        } else if (m_state.strikeCount == kPanicStrikes) {
+            requestSound(kSoundWarning);
+            LuzRoja();
+        } else {
+            requestSound(kSoundStrike);
+            LuzRoja();
+        }
+    } else if (!m_board.complete()) {
+        // The letter that completes the phrase leaves the sound to the win.
+        requestSound(kSoundRight);
+        LuzVerde();
+    }
+    BotonFigura();
+}
+
+void Round::BotonFigura() {
+    const int strikes = m_state.strikeCount;
+    m_figure.draw(strikes);
+    m_state.manyErrors = strikes >= kManyErrorsStrikes && m_shared.settings.sistemaPuntos;
+    if (strikes < kDeathStrikes) {
+        return;
+    }
+    m_events.countdownStopped();
+    endRound("¡MUERTO!");
+    LuzRoja();
+    m_deathColours = true;
+    m_board.showMissed();
+    m_designEnabled = false;
+    closeAnswerBox();
+    if (pointsCount()) {
+        m_events.roundLost();
+    }
+    m_events.settingsChanged();
+}
+
+void Round::endRound(const std::string& caption) {
+    m_status = caption;
+    m_counterVisible = false;
+    m_state.over = true;
+    m_catalogue.ThemeLoad();
+    // A friend's phrase has no catalogue theme: its own theme text stays.
+    if (m_gameTheme != 0) {
+        m_themeLabel = m_catalogue.themeName(m_gameTheme);
+    }
+    advanceTour();
+    m_queEsEsoVisible = true;
+    m_state.manyErrors = false;
+}
+
+void Round::advanceTour() {
+    if (m_shared.tourPosition >= 1) {
+        m_shared.tourPosition = m_shared.tourPosition % m_catalogue.themeCount() + 1;
+    }
+}
+
+void Round::BotonWin() {
+    m_events.nextTurn();
+    if (m_state.over || !m_board.complete()) {
+        return;
+    }
+    endRound("¡VICTORIA!");
+    requestSound(kSoundWon);
+    m_events.countdownStopped();
+    m_figure.calm();
+    LuzVerde();
+    if (pointsCount()) {
+        m_events.roundWon();
+    }
+    m_events.settingsChanged();
+}
+
+// --- the whole answer ---------------------------------------------------------------
+
+void Round::closeAnswerBox() {
+    m_answerBoxOpen = false;
+    m_answerText.clear();
+}
+
+void Round::BotonRespuesta() {
+    if (m_answerBoxOpen) {
+        closeAnswerBox();
+    } else {
+        m_answerBoxOpen = true;
+    }
+}
+
+bool Round::cmdOk() {
+    if (!m_answerBoxOpen || !inPlay()) {
+        return false;
+    }
+    std::u32string typed = toU32(m_answerText);
+    for (char32_t& c : typed) {
+        c = answerUpper(c);
+    }
+    m_answerText = toUtf8(typed);
+    for (char32_t c : typed) {
+        if (!answerCharAllowed(c)) {
+            m_dialogs.exclamation(
+                "Espere, hay mínimo un símbolo o letra con acento, revise si los hay y quítelos.");
+            return false;
+        }
+    }
+    if (!m_dialogs.yesNo("¿Está seguro?, morirá si se equivoca.")) {
+        return false;
+    }
+    Comparar();
+    return true;
+}
+
+void Round::Comparar() {
+    if (toU32(m_answerText) == m_board.answerText()) {
+        if (m_board.revealedCount() < m_board.letterTotal() / 2.0) {
+            m_state.earlyAnswerBonus = true;
+            m_state.strikeSlots.fill("");
+        }
+        m_board.revealAll();
+        BotonWin();
+    } else {
+        for (auto& slot : m_state.strikeSlots) {
+            if (slot.empty()) {
+                slot = " ";
+            }
+        }
+        requestSound(kSoundLost);
+        m_state.strikeCount = kDeathStrikes;
+        BotonFigura();
+    }
+    closeAnswerBox();
+}
+
+// --- the strike correction --------------------------------------------------------------
+
+bool Round::correctionOffered() const {
+    return m_shared.correctionsLeft >= 1 && !m_state.correctionUsed && !m_state.over &&
+           m_state.strikeCount > 0 && !m_state.hit;
+}
+
+std::string Round::correctionQuestion(int correctionsLeft) {
+    return "La corrección de strikes es muy limitado, sólo tienes " +
+           std::to_string(correctionsLeft) +
+           (correctionsLeft == 1 ? " oportunidad " : " oportunidades ") +
+           "para corregir en todo el juego. ¿Deseas usar una?";
+}
+
+void Round::eBackStrike() {
+    if (!correctionOffered()) {
+        return;
+    }
+    m_events.correctionAsked(true);
+    if (m_dialogs.yesNo(correctionQuestion(m_shared.correctionsLeft))) {
+        --m_state.strikeCount;
+        --m_shared.correctionsLeft;
+        m_state.correctionUsed = true;
+        m_board.dropLastTried();
+        m_board.RestoreKeyboard();
+        for (int k = RoundState::kSlots - 1; k >= 1; --k) {
+            if (!m_state.slot(k).empty() && m_state.slot(k + 1).empty()) {
+                m_state.slot(k).clear();
+                break;
+            }
+        }
+        m_figure.Muneco();
+        BotonFigura();
+        if (m_shared.correctionsLeft == 2) {
+            m_dialogs.information(
+                "Has usado una de tus correcciones, para usar otra tienes que jugar otra partida.");
+        }
+    }
+    m_events.correctionAsked(false);
+}
+
+// --- leaving ----------------------------------------------------------------------------
+
+bool Round::eMenuBack() {
+    if (m_state.manyErrors) {
+        m_dialogs.exclamation("Tiene bastantes errores, termine la partida.");
+        return false;
+    }
+    if (!m_state.waitingForPhrase && !m_state.over) {
+        return m_dialogs.yesNo(kLeaveQuestion);
+    }
+    return true;
+}
+
+} // namespace quillora

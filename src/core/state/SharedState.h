@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "state/PlayerRoster.h"
+#include "state/Settings.h"
+#include "state/UserSession.h"
+#include "look/Colour.h"
+
+#include <array>
+#include <filesystem>
+#include <string>
+
+namespace quillora {
+
+inline constexpr int kSessionSlots = 4;
+inline constexpr int kThemeFlags = 51; // themes 0..50
+inline constexpr int kMaxPlayers = 9;
+inline constexpr const char* kMainConfigName = "QuilloraVS5.txt";
+
+// What every window of the game reads and writes: the options of the current
+// session, the palette, the live values of the current user and the four
+// session slots. One object, made by main and handed to the windows.
+struct SharedState {
+    // --- options of the current session -------------------------------------------
+    Settings settings;
+    // The twenty line values as last read or written, before the options
+    // take their bounds: what the file holds, so a save keeps what a load
+    // did not interpret.
+    std::array<std::string, 20> configLines{};
+    Palette palette;
+    // Where the configuration files live.
+    std::filesystem::path dataFolder;
+
+    // --- live values of the current user ----------------------------------------
+    double normalPoints = 0;
+    double survivalPoints = 1000;
+    int correctionsLeft = 3;
+    std::string history;
+    std::string key;
+    bool locked = false;
+    int tourPosition = 0;
+    // A theme was picked from the themes list in this session.
+    bool themeChosen = false;
+
+    // --- sessions ----------------------------------------------------------------
+    std::array<UserSession, kSessionSlots> sessions{};
+    int currentSlot = 0;
+    // Per slot, kept in memory only: selected themes, the copy a tour keeps,
+    // the player names and the theme names of the last two catalogue games.
+    std::array<std::array<bool, kThemeFlags>, kSessionSlots> selectedThemes{};
+    std::array<std::array<bool, kThemeFlags>, kSessionSlots> tourCopy{};
+    std::array<std::array<std::string, kMaxPlayers>, kSessionSlots> playerNames{};
+    std::array<std::string, kSessionSlots> lastThemeName{};
+    std::array<std::string, kSessionSlots> previousThemeName{};
+    // Some session was switched to, added or deleted since the start.
+    bool sessionLoaded = false;
+    // A switch asked the start of the board not to apply the first-run
+    // defaults again.
+    bool skipStartDefaults = false;
+
+    // --- players -----------------------------------------------------------------
+    // The phrase is typed by a friend rather than drawn from the catalogue.
+    bool multiplayer = false;
+    int playerCount = 1;
+    PlayerRoster roster;
+    // The theme text of the last friend's phrase, offered again to the next
+    // friend who writes one; kept for the program's run.
+    std::string lastFriendTheme;
+
+    UserSession& currentSession() { return sessions[static_cast<std::size_t>(currentSlot)]; }
+    const UserSession& currentSession() const {
+        return sessions[static_cast<std::size_t>(currentSlot)];
+    }
+    std::filesystem::path mainConfigPath() const { return dataFolder / kMainConfigName; }
+};
+
+} // namespace quillora

@@ -1,0 +1,402 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "storage/ConfigFile.h"
+
+#include "ports/Random.h"
+#include "state/SharedState.h"
+#include "words/Text.h"
+#include "words/ThemeCatalogue.h"
+
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <cctype>
+#include <charconv>
+#include <chrono>
+#include <cstdio>
+#include <fstream>
+#include <limits>
+#include <system_error>
+
+namespace quillora {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// 0x80..0x9F of Windows-1252. The five bytes the code page leaves unused
+// stand for the control characters of the same number, as Windows reads
+// them, so no byte of a file is lost on its way through the game.
+constexpr std::array<char32_t, 32> kHighControls{
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+const std::string kDefaultName = "Quillora VS";
+// A new file's theme is Int(100 * r / 2): 0 to 49, where 0 loads as theme 1.
+constexpr int kThemeDrawRange = 100;
+
+// The lines that are not on/off options.
+enum Line : int {
+    kFondo = 1,
+    kCarpetaFondo = 2,
+    kEstilo = 3,
+    kFraseAutomatica = 9,
+    kTema = 11,
+    kContratiempo = 14,
+    kNombre = 15,
+    kColorJuego = 18,
+};
+
+// The on/off options and their lines; loading and saving both go through
+// this one table.
+using Flag = bool Settings::*;
+struct FlagLine {
+    int line;
+    Flag flag;
+};
+constexpr std::array<FlagLine, 13> kFlagLines{{{4, &Settings::letraOpaca},
+                                               {5, &Settings::letraBlanca},
+                                               {6, &Settings::lineaBlanca},
+                                               {7, &Settings::tamanoReal},
+                                               {8, &Settings::sonidos},
+                                               {kFraseAutomatica, &Settings::fraseAutomatica},
+                                               {10, &Settings::animacion},
+                                               {12, &Settings::sistemaPuntos},
+                                               {13, &Settings::supervivencia},
+                                               {16, &Settings::usarEnciclopedia},
+                                               {17, &Settings::masPuntosNegativos},
+                                               {19, &Settings::sinBotonJugar},
+                                               {20, &Settings::tecladoPermanente}}};
+
+std::string& line(SharedState& shared, int number) {
+    return shared.configLines[static_cast<std::size_t>(number - 1)];
+}
+double number(SharedState& shared, int lineNumber) {
+    return leadingNumber(line(shared, lineNumber));
+}
+
+std::string randomTheme(Random& random) {
+    return std::to_string(random.drawHalfRange(kThemeDrawRange));
+}
+
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+// The twenty lines that hold a set of options. Line 9 is passed apart: the
+// automatic phrase is only kept when the game says so.
+std::vector<std::string> linesOf(const Settings& s, bool keepAutomaticPhrase) {
+    std::vector<std::string> lines(kConfigLines);
+    const auto at = [&lines](int number) -> std::string& {
+        return lines[static_cast<std::size_t>(number - 1)];
+    };
+    at(kFondo) = s.fondo;
+    at(kCarpetaFondo) = s.carpetaFondo;
+    at(kEstilo) = std::to_string(s.estilo);
+    for (const FlagLine& f : kFlagLines) {
+        const bool on = f.line == kFraseAutomatica ? keepAutomaticPhrase : s.*f.flag;
+        at(f.line) = on ? "1" : "0";
+    }
+    at(kTema) = std::to_string(s.tema);
+    at(kContratiempo) =
+        std::to_string(s.contratiempo == 1 || s.contratiempo == 2 ? s.contratiempo : 0);
+    at(kNombre) = s.nombre;
+    at(kColorJuego) = std::to_string(s.colorJuego.packed());
+    return lines;
+}
+
+// A name for the file a save writes first, hidden, in the folder of the real
+// one so the final rename never crosses file systems.
+fs::path temporaryName(const fs::path& folder) {
+    static std::atomic<unsigned> counter{0};
+    const auto ticks = std::chrono::steady_clock::now().time_since_epoch().count();
+    return folder /
+           (".quillora-" + std::to_string(ticks) + "-" + std::to_string(++counter) + ".tmp");
+}
+
+// Writes the bytes to a new file that did not exist before; false, with
+// nothing left behind, if any step fails.
+bool writeNewFile(const fs::path& path, const std::string& bytes) {
+    std::FILE* out = std::fopen(path.c_str(), "wbx");
+    if (!out) {
+        return false;
+    }
+    bool ok = std::fwrite(bytes.data(), 1, bytes.size(), out) == bytes.size();
+    ok = std::fflush(out) == 0 && ok;
+    ok = std::fclose(out) == 0 && ok;
+    if (!ok) {
+        std::error_code ignored;
+        fs::remove(path, ignored);
+    }
+    return ok;
+}
+
+} // namespace
+
+std::string fromWindows1252(std::string_view bytes) {
+    std::u32string text;
+    text.reserve(bytes.size());
+    for (char c : bytes) {
+        const auto byte = static_cast<unsigned char>(c);
+        text.push_back(byte >= 0x80 && byte <= 0x9F ? kHighControls[byte - 0x80] : byte);
+    }
+    return toUtf8(text);
+}
+
+std::string toWindows1252(std::string_view utf8) {
+    std::string bytes;
+    bytes.reserve(utf8.size());
+    for (char32_t c : toU32(utf8)) {
+        if (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) {
+            bytes.push_back(static_cast<char>(c));
+            continue;
+        }
+        char out = '?';
+        for (std::size_t i = 0; i < kHighControls.size(); ++i) {
+            if (kHighControls[i] == c) {
+                out = static_cast<char>(0x80 + i);
+            }
+        }
+        bytes.push_back(out);
+    }
+    return bytes;
+}
+
+double leadingNumber(std::string_view text) {
+    std::size_t i = text.find_first_not_of(" \t");
+    if (i == std::string_view::npos) {
+        return 0;
+    }
+    const bool negative = text[i] == '-';
+    if (text[i] == '-' || text[i] == '+') {
+        ++i;
+    }
+    const std::size_t start = i;
+    while (i < text.size() && isDigit(text[i])) {
+        ++i;
+    }
+    bool digits = i > start;
+    const bool wholePart =
+        text.substr(start, i - start).find_first_not_of('0') != std::string_view::npos;
+    if (i < text.size() && text[i] == '.') {
+        const std::size_t fraction = ++i;
+        while (i < text.size() && isDigit(text[i])) {
+            ++i;
+        }
+        digits = digits || i > fraction;
+    }
+    if (!digits) {
+        return 0;
+    }
+    // from_chars rather than strtod: the game runs under the player's
+    // locale, where strtod may want a decimal comma.
+    double value = 0;
+    const auto parsed =
+        std::from_chars(text.data() + start, text.data() + i, value, std::chars_format::fixed);
+    if (parsed.ec == std::errc::result_out_of_range) {
+        value = wholePart ? std::numeric_limits<double>::max() : 0.0;
+    }
+    return negative ? -value : value;
+}
+
+Rgb colourFromLine(std::string_view text, Rgb defaultColour) {
+    if (text.empty()) {
+        return defaultColour;
+    }
+    // A negative or larger number from a hand-edited line is no colour; it
+    // would otherwise wrap round into some unrelated one.
+    const double value = leadingNumber(text);
+    if (!(value >= 0 && value <= 0xFFFFFF)) {
+        return defaultColour;
+    }
+    return Rgb::fromPacked(static_cast<std::uint32_t>(value));
+}
+
+int leadingCount(std::string_view text) {
+    const double value = leadingNumber(text);
+    return static_cast<int>(std::clamp(value, -32768.0, 32767.0));
+}
+
+std::optional<std::vector<std::string>> readConfigLines(const fs::path& path) {
+    std::error_code error;
+    if (!fs::is_regular_file(path, error)) {
+        return std::nullopt;
+    }
+    std::ifstream in(path, std::ios::binary);
+    if (!in) {
+        return std::nullopt;
+    }
+    // One byte more than the limit tells a file that is too large without
+    // trusting a size taken before the read.
+    std::string bytes(kMaxConfigBytes + 1, '\0');
+    in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    if (in.bad()) {
+        return std::nullopt;
+    }
+    bytes.resize(static_cast<std::size_t>(in.gcount()));
+    if (bytes.size() > kMaxConfigBytes) {
+        return std::nullopt;
+    }
+    std::vector<std::string> lines;
+    std::size_t start = 0;
+    while (start < bytes.size()) {
+        std::size_t end = bytes.find_first_of("\r\n", start);
+        if (end == std::string::npos) {
+            end = bytes.size();
+        }
+        lines.push_back(fromWindows1252(std::string_view(bytes).substr(start, end - start)));
+        start = end + 1;
+        if (end + 1 < bytes.size() && bytes[end] == '\r' && bytes[end + 1] == '\n') {
+            ++start;
+        }
+    }
+    return lines;
+}
+
+bool writeConfigLines(const fs::path& path, const std::vector<std::string>& lines) {
+    std::error_code error;
+    if (!path.has_filename() || fs::is_directory(path, error)) {
+        return false;
+    }
+    const fs::path folder = path.parent_path();
+    if (!folder.empty()) {
+        fs::create_directories(folder, error);
+        if (error) {
+            return false;
+        }
+    }
+    std::string bytes;
+    for (const std::string& text : lines) {
+        std::string encoded = toWindows1252(text);
+        // A line break inside a value would shift every later line.
+        for (char& c : encoded) {
+            if (c == '\r' || c == '\n') {
+                c = ' ';
+            }
+        }
+        bytes += encoded;
+        bytes += "\r\n";
+    }
+    for (int attempt = 0; attempt < 8; ++attempt) {
+        const fs::path temporary = temporaryName(folder.empty() ? fs::path(".") : folder);
+        if (fs::exists(temporary, error)) {
+            continue;
+        }
+        if (!writeNewFile(temporary, bytes)) {
+            return false;
+        }
+        fs::rename(temporary, path, error);
+        if (error) {
+            fs::remove(temporary, error);
+            return false;
+        }
+        return true;
+    }
+    return false;
+}
+
+fs::path sessionFilePath(const fs::path& folder, std::string_view userName) {
+    std::string name(userName);
+    for (char& c : name) {
+        if (c == '/' || c == '\0') {
+            c = '_';
+        }
+    }
+    if (name.empty()) {
+        name = "_";
+    } else if (name.front() == '.') {
+        name.front() = '_';
+    }
+    // A user called like the main session's file would overwrite it.
+    auto lowered = [](std::string text) {
+        for (char& c : text) {
+            c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+        }
+        return text;
+    };
+    if (lowered(name + ".txt") == lowered(kMainConfigName)) {
+        name.insert(name.begin(), '_');
+    }
+    return folder / (name + ".txt");
+}
+
+void clearForBoardLoad(SharedState& shared) {
+    line(shared, kFondo).clear();
+    line(shared, kCarpetaFondo).clear();
+    for (int n : {4, 5, 6, 7, 9, 10, 13, 14, 16, 17, 19, 20}) {
+        line(shared, n) = "0";
+    }
+}
+
+void DataLoad(SharedState& shared, Random& random) {
+    const auto lines = readConfigLines(shared.currentSession().Archivo);
+    if (!lines) {
+        line(shared, kEstilo) = "1";
+        line(shared, 8) = "1";
+        line(shared, 12) = "1";
+        line(shared, kTema) = randomTheme(random);
+        // The name and colour in use stay; at the first start they are the
+        // fallbacks the main menu put in place when it could not read the file.
+        line(shared, kNombre) = shared.settings.nombre;
+        line(shared, kColorJuego) = std::to_string(shared.palette.gameColour.packed());
+        return;
+    }
+    for (int n = 1; n <= kConfigLines; ++n) {
+        const auto index = static_cast<std::size_t>(n - 1);
+        line(shared, n) = index < lines->size() ? (*lines)[index] : std::string();
+    }
+}
+
+void ConfLoad(SharedState& shared) {
+    Settings& s = shared.settings;
+    s.fondo = line(shared, kFondo);
+    s.carpetaFondo = line(shared, kCarpetaFondo);
+    s.nombre = line(shared, kNombre);
+    shared.currentSession().displayName = s.nombre;
+
+    const double style = number(shared, kEstilo);
+    s.estilo = style >= 1 && style <= 4 ? static_cast<int>(style) : 0;
+    for (const FlagLine& f : kFlagLines) {
+        s.*f.flag = number(shared, f.line) >= 1;
+    }
+    const double countdown = number(shared, kContratiempo);
+    s.contratiempo = countdown == 1 ? 1 : countdown >= 2 ? 2 : 0;
+
+    const double theme = number(shared, kTema);
+    if (theme >= 1 && theme <= ThemeCatalogue::kThemes) {
+        s.tema = static_cast<int>(theme);
+    } else if (theme == 0) {
+        s.tema = 1;
+    }
+    s.colorJuego = colourFromLine(line(shared, kColorJuego), shared.palette.defaultBlue);
+    shared.palette.gameColour = s.colorJuego;
+    if (shared.themeChosen && s.tema >= 0 && s.tema < kThemeFlags) {
+        shared.selectedThemes[static_cast<std::size_t>(shared.currentSlot)]
+                             [static_cast<std::size_t>(s.tema)] = true;
+    }
+}
+
+bool ConfSave(SharedState& shared) {
+    Settings& s = shared.settings;
+    if (s.nombre.empty()) {
+        s.nombre = kDefaultName;
+    }
+    // The automatic phrase comes back next time only for a chosen theme,
+    // and never in the middle of a tour.
+    const bool keepAutomaticPhrase =
+        shared.tourPosition == 0 && s.fraseAutomatica && shared.themeChosen;
+    const std::vector<std::string> lines = linesOf(s, keepAutomaticPhrase);
+    std::copy(lines.begin(), lines.end(), shared.configLines.begin());
+    return writeConfigLines(shared.currentSession().Archivo, lines);
+}
+
+bool NewConfFile(const fs::path& path, const std::string& userName, Random& random) {
+    // A default Settings is a new user's: only the theme and the name differ.
+    Settings fresh;
+    fresh.tema = random.drawHalfRange(kThemeDrawRange);
+    fresh.nombre = userName;
+    return writeConfigLines(path, linesOf(fresh, fresh.fraseAutomatica));
+}
+
+} // namespace quillora

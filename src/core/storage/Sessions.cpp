@@ -1,0 +1,223 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "storage/Sessions.h"
+
+#include "ports/Dialogs.h"
+#include "storage/ConfigFile.h"
+#include "state/SharedState.h"
+#include "words/Text.h"
+
+#include <fstream>
+#include <system_error>
+
+namespace quillora {
+
+namespace {
+
+const std::string kBusy = "No se puede cambiar de sesión, termine la partida.";
+const std::string kFull = "No se pueden agregar más sesiones.";
+
+std::string defaultName(int slot) {
+    return "Usuario " + std::to_string(slot + 1);
+}
+
+// Only a small text file can be a configuration file. Pictures, programs,
+// folders and anything unreadable are passed over without being touched.
+bool looksLikeConfigFile(const std::string& path) {
+    std::error_code error;
+    const std::filesystem::path file(path);
+    if (!std::filesystem::is_regular_file(file, error) ||
+        std::filesystem::file_size(file, error) > kMaxConfigBytes || error) {
+        return false;
+    }
+    std::ifstream in(file, std::ios::binary);
+    if (!in) {
+        return false;
+    }
+    char c = 0;
+    while (in.get(c)) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (byte < 0x20 && byte != '\r' && byte != '\n' && byte != '\t') {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+Sessions::Sessions(SharedState& shared, Dialogs& dialogs, Random& random)
+    : m_shared(shared), m_dialogs(dialogs), m_random(random) {}
+
+void Sessions::initialise(SharedState& shared) {
+    shared.sessions[0].Archivo = shared.mainConfigPath().string();
+}
+
+void Sessions::saveCurrent() {
+    UserSession& s = m_shared.currentSession();
+    s.points = formatNumber(m_shared.normalPoints);
+    s.survivalPoints = formatNumber(m_shared.survivalPoints);
+    s.theme = std::to_string(m_shared.settings.tema);
+    s.history = m_shared.history;
+    s.corrections = std::to_string(m_shared.correctionsLeft);
+    s.key = m_shared.key;
+    s.locked = m_shared.locked ? "1" : "0";
+    s.tour = std::to_string(m_shared.tourPosition);
+}
+
+void Sessions::loadCurrent() {
+    const UserSession& s = m_shared.currentSession();
+    m_shared.normalPoints = leadingNumber(s.points);
+    m_shared.survivalPoints = leadingNumber(s.survivalPoints);
+    m_shared.settings.tema = leadingCount(s.theme);
+    m_shared.history = s.history;
+    m_shared.correctionsLeft = leadingCount(s.corrections);
+    m_shared.key = s.key;
+    if (s.locked == "1") {
+        m_shared.locked = true;
+    } else if (s.locked == "0") {
+        m_shared.locked = false;
+    }
+    m_shared.tourPosition = leadingCount(s.tour);
+    m_shared.sessionLoaded = true;
+}
+
+int Sessions::freeSlot() const {
+    for (int slot = 1; slot < kSessionSlots; ++slot) {
+        if (!m_shared.sessions[static_cast<std::size_t>(slot)].inUse()) {
+            return slot;
+        }
+    }
+    return -1;
+}
+
+void Sessions::fillNewSlot(const std::string& path, const std::string& name) {
+    UserSession& s = m_shared.currentSession();
+    s = UserSession{};
+    s.survivalPoints = "1000";
+    s.theme = "1";
+    s.corrections = "3";
+    s.Archivo = path;
+    s.tour = "0";
+    s.displayName = name;
+}
+
+bool Sessions::add(const std::string& typedName, bool manyErrors, std::string& shownName) {
+    if (manyErrors) {
+        m_dialogs.exclamation(kBusy);
+        return false;
+    }
+    saveCurrent();
+    const int slot = freeSlot();
+    if (slot < 0) {
+        m_dialogs.error(kFull);
+        return false;
+    }
+    m_shared.currentSlot = slot;
+    std::string name = typedName;
+    if (name.empty() || name == "Nombre") {
+        name = defaultName(slot);
+    }
+    shownName = name;
+    const std::filesystem::path path = sessionFilePath(m_shared.dataFolder, name);
+    NewConfFile(path, name, m_random);
+    fillNewSlot(path.string(), name);
+    loadCurrent();
+    return true;
+}
+
+bool Sessions::addFromFiles(const std::vector<std::string>& paths, bool manyErrors) {
+    if (manyErrors) {
+        m_dialogs.exclamation(kBusy);
+        return false;
+    }
+    bool added = false;
+    for (const std::string& path : paths) {
+        if (!looksLikeConfigFile(path)) {
+            continue;
+        }
+        saveCurrent();
+        const int slot = freeSlot();
+        if (slot < 0) {
+            m_dialogs.error(kFull);
+            continue;
+        }
+        m_shared.currentSlot = slot;
+        const std::vector<std::string> lines =
+            readConfigLines(path).value_or(std::vector<std::string>{});
+        std::string name = lines.size() >= 15 ? lines[14] : std::string();
+        if (name.empty()) {
+            name = defaultName(slot);
+            NewConfFile(path, name, m_random);
+        }
+        fillNewSlot(path, name);
+        loadCurrent();
+        added = true;
+    }
+    return added;
+}
+
+bool Sessions::switchTo(int slot, bool manyErrors) {
+    if (manyErrors) {
+        m_dialogs.exclamation(kBusy);
+        return false;
+    }
+    if (slot == m_shared.currentSlot) {
+        m_dialogs.information("Es el usuario actual, seleccione otro.");
+        return false;
+    }
+    if (slot < 0 || slot >= kSessionSlots ||
+        !m_shared.sessions[static_cast<std::size_t>(slot)].inUse()) {
+        return false;
+    }
+    saveCurrent();
+    m_shared.currentSlot = slot;
+    m_shared.skipStartDefaults = true;
+    loadCurrent();
+    return true;
+}
+
+bool Sessions::deleteCurrent() {
+    const int current = m_shared.currentSlot;
+    if (current < 1) {
+        return false;
+    }
+    int last = current;
+    for (int slot = current + 1; slot < kSessionSlots; ++slot) {
+        auto& from = m_shared.sessions[static_cast<std::size_t>(slot)];
+        if (!from.inUse()) {
+            break;
+        }
+        const auto to = static_cast<std::size_t>(slot - 1);
+        m_shared.sessions[to] = from;
+        m_shared.selectedThemes[to] = m_shared.selectedThemes[static_cast<std::size_t>(slot)];
+        m_shared.tourCopy[to] = m_shared.tourCopy[static_cast<std::size_t>(slot)];
+        m_shared.playerNames[to] = m_shared.playerNames[static_cast<std::size_t>(slot)];
+        m_shared.lastThemeName[to] = m_shared.lastThemeName[static_cast<std::size_t>(slot)];
+        m_shared.previousThemeName[to] = m_shared.previousThemeName[static_cast<std::size_t>(slot)];
+        last = slot;
+    }
+    const auto cleared = static_cast<std::size_t>(last);
+    m_shared.sessions[cleared] = UserSession{};
+    m_shared.selectedThemes[cleared] = {};
+    m_shared.tourCopy[cleared] = {};
+    m_shared.playerNames[cleared] = {};
+    m_shared.lastThemeName[cleared].clear();
+    m_shared.previousThemeName[cleared].clear();
+    m_shared.currentSlot = 0;
+    loadCurrent();
+    return true;
+}
+
+std::vector<Sessions::Entry> Sessions::entries() const {
+    std::vector<Entry> list;
+    for (int slot = 0; slot < kSessionSlots; ++slot) {
+        const UserSession& s = m_shared.sessions[static_cast<std::size_t>(slot)];
+        if (s.inUse()) {
+            list.push_back({slot, s.displayName});
+        }
+    }
+    return list;
+}
+
+} // namespace quillora

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "models/frmInicio/InicioModel.h"
+
+#include <QWidget>
+
+#include <functional>
+
+class QLabel;
+class QTimer;
+
+namespace quillora {
+
+// The start screen: the game's name, a progress line, and the notice for a
+// missing display font.
+class frmInicio final : public QWidget {
+public:
+    frmInicio(SharedState& shared, Dialogs& dialogs, Web& web, bool fontAvailable,
+              QWidget* parent = nullptr);
+
+    InicioModel& model() { return m_model; }
+    // Called once the line has run and the menu may show.
+    std::function<void()> onMenu;
+    // "REINICIAR": start the program again. " Cerrar ": end it.
+    std::function<void()> onRestart;
+    std::function<void()> onClose;
+
+    QWidget* notice() const { return m_notice; }
+    QLabel* downloadButton() const { return m_cmdDownload; }
+    QLabel* restartButton() const { return m_cmdRestart; }
+    QLabel* closeLabel() const { return m_lblClose; }
+    QTimer* timer() const { return m_timer; }
+    // The timer's tick, for the tests.
+    void tick();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void follow();
+
+    InicioModel m_model;
+    Dialogs& m_dialogs;
+    Web& m_web;
+    QTimer* m_timer = nullptr;
+    QWidget* m_notice = nullptr;
+    QLabel* m_cmdDownload = nullptr;
+    QLabel* m_cmdRestart = nullptr;
+    QLabel* m_pointer = nullptr;
+    QLabel* m_lblClose = nullptr;
+    bool m_handedOver = false;
+};
+
+} // namespace quillora

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "models/frmMenu/MenuModel.h"
+
+#include <QWidget>
+
+#include <array>
+#include <functional>
+
+class QLabel;
+class QTimer;
+
+namespace quillora {
+
+// The main menu window. It forwards the mouse and the keys to its model,
+// paints the tiles, the legend and the lock as the model says, and tells
+// whoever opened it what the player chose.
+class frmMenu final : public QWidget {
+public:
+    frmMenu(SharedState& shared, Dialogs& dialogs, QWidget* parent = nullptr);
+    ~frmMenu() override;
+
+    MenuModel& model() { return m_model; }
+
+    // The menu hides itself before each of these; the caller owns what
+    // happens next (the board, the end of the program, the options).
+    std::function<void()> onPlay;
+    std::function<void()> onQuit;
+    std::function<void()> onOptions;
+    // A click on the legend.
+    std::function<void()> onAbout;
+
+    // Brings the controls, the window's size and the timers in step with the model.
+    void sync();
+
+    // For the tests: where a spot lies, in the window's own coordinates.
+    QRect spotRect(MenuModel::Spot spot) const;
+    QLabel* legendLabel() const { return m_lblLeyend; }
+    QLabel* numberBox() const { return m_txtNumber; }
+    QWidget* lockPanel() const { return m_frmeLock; }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void buildControls();
+    MenuModel::Spot spotAt(QPoint pos) const;
+    void follow(MenuModel::Outcome outcome);
+
+    MenuModel m_model;
+
+    // Everything lives on one panel of the menu's own size, kept centred
+    // while the window swells towards the options.
+    QWidget* m_content = nullptr;
+    QLabel* m_lblLeyend = nullptr;
+    std::array<QWidget*, 4> m_tiles{};
+    QLabel* m_txtNumber = nullptr;
+    QLabel* m_lblPlus = nullptr;
+    QWidget* m_frmeLock = nullptr;
+    QTimer* m_tmrLeyend = nullptr;
+    QTimer* m_tmrIn = nullptr;
+};
+
+} // namespace quillora

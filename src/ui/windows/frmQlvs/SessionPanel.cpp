@@ -1,0 +1,233 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/frmQlvs/SessionPanel.h"
+
+#include "platform/Fonts.h"
+#include "windows/QtColour.h"
+#include "look/Twips.h"
+#include "models/frmQlvs/QlvsModel.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QPushButton>
+#include <QTimer>
+
+namespace quillora {
+
+namespace {
+
+constexpr int kKeyFrameLeft = 3000, kKeyFrameTop = 1920, kKeyFrameWidth = 5745,
+              kKeyFrameHeight = 1560;
+const QString kWrongText = QStringLiteral("Incorrecto");
+
+} // namespace
+
+SessionPanel::SessionPanel(QlvsModel& model, std::function<void()> changed, QWidget* board)
+    : QWidget(board), m_model(model), m_changed(std::move(changed)) {
+    setAttribute(Qt::WA_StyledBackground);
+    setObjectName(QStringLiteral("frmeSesion"));
+    setFocusPolicy(Qt::StrongFocus);
+
+    m_lblUser = new QLabel(QStringLiteral(" Usuario"), this);
+    m_lblUser->setGeometry(px(240), px(180), px(5400), px(420));
+    m_lblUser->setFont(Fonts::display(14));
+    m_lblUser->setCursor(Qt::PointingHandCursor);
+    m_lblUser->setContextMenuPolicy(Qt::CustomContextMenu);
+    m_lblUser->installEventFilter(this);
+    connect(m_lblUser, &QLabel::customContextMenuRequested, this, [this](const QPoint& at) {
+        QMenu menu(this);
+        QAction* add = menu.addAction(QStringLiteral("+ Agregar sesión"));
+        if (menu.exec(m_lblUser->mapToGlobal(at)) == add) {
+            std::string shown;
+            m_model.addSession(m_txtUser->text().toStdString(), shown);
+            m_txtUser->setText(qs(shown));
+            m_changed();
+        }
+    });
+
+    m_txtUser = new QLineEdit(this);
+    m_txtUser->setPlaceholderText(QStringLiteral("Nombre"));
+    m_txtUser->setGeometry(px(5880), px(180), px(3240), px(420));
+    m_txtUser->setFont(Fonts::display(11));
+    m_txtUser->setToolTip(
+        QStringLiteral(" Nombre de la sesión nueva (clic derecho en el usuario para agregarla). "));
+
+    m_lstSessions = new QListWidget(this);
+    m_lstSessions->setFont(Fonts::display(12));
+    m_lstSessions->setFrameShape(QFrame::NoFrame);
+    m_lstSessions->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    connect(m_lstSessions, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
+        m_model.switchSession(item->data(Qt::UserRole).toInt());
+        m_changed();
+    });
+
+    m_frmeKey = new QWidget(this);
+    m_frmeKey->setGeometry(px(kKeyFrameLeft), px(kKeyFrameTop), px(kKeyFrameWidth),
+                           px(kKeyFrameHeight));
+    m_lblKey = new QLabel(m_frmeKey);
+    m_lblKey->setGeometry(0, 0, px(kKeyFrameWidth), px(480));
+    m_lblKey->setAlignment(Qt::AlignCenter);
+    m_lblKey->setFont(Fonts::display(14));
+    for (QLineEdit** box : {&m_txtKey, &m_txtKey2}) {
+        *box = new QLineEdit(m_frmeKey);
+        (*box)->setGeometry(px(480), px(660), px(kKeyFrameWidth - 1680), px(540));
+        (*box)->setEchoMode(QLineEdit::Password);
+        (*box)->setFont(Fonts::display(14));
+        (*box)->setAlignment(Qt::AlignCenter);
+        (*box)->installEventFilter(this);
+    }
+    m_cmdEnter = new QPushButton(QStringLiteral(">"), m_frmeKey);
+    m_cmdEnter->setGeometry(px(kKeyFrameWidth - 1080), px(660), px(600), px(540));
+    m_cmdEnter->setFont(Fonts::display(14));
+    m_cmdEnter->setFocusPolicy(Qt::NoFocus);
+    connect(m_cmdEnter, &QPushButton::clicked, this, &SessionPanel::enter);
+
+    m_lblCancel = new QLabel(QStringLiteral(" Cerrar "), this);
+    m_lblCancel->setFont(Fonts::display(10));
+    m_lblCancel->setCursor(Qt::PointingHandCursor);
+    m_lblCancel->installEventFilter(this);
+
+    m_lblWarning = new QLabel(
+        QStringLiteral("El progreso de la partida no se guarda, termine si piensa continuar."),
+        this);
+    m_lblWarning->setAlignment(Qt::AlignCenter);
+    m_lblWarning->setFont(Fonts::display(10));
+    m_lblWarning->setWordWrap(true);
+
+    hide();
+}
+
+QLineEdit* SessionPanel::activeKeyBox() const {
+    return m_model.panel().secondBoxShown() ? m_txtKey2 : m_txtKey;
+}
+
+void SessionPanel::enter() {
+    const SessionPanelModel& panel = m_model.panel();
+    if (panel.wrongShown()) {
+        return;
+    }
+    QLineEdit* box = activeKeyBox();
+    m_model.keyEntered(box->text().toStdString());
+    box->clear();
+    if (m_model.panel().wrongShown()) {
+        box->setEchoMode(QLineEdit::Normal);
+        box->setStyleSheet(QStringLiteral("color: %1;").arg(css(kRedLamp)));
+        box->setText(kWrongText);
+        box->end(false);
+        QTimer::singleShot(SessionPanelModel::kWrongMs, this, [this, box] {
+            m_model.panel().tickWrong();
+            box->clear();
+            box->setStyleSheet(QString());
+            box->setEchoMode(QLineEdit::Password);
+        });
+    }
+    m_changed();
+}
+
+void SessionPanel::sync() {
+    const SessionPanelModel& panel = m_model.panel();
+    const int boardWidth = parentWidget()->width();
+    setGeometry(0, 0, boardWidth, px(panel.height()));
+    setVisible(panel.shown());
+    setStyleSheet(
+        QStringLiteral(
+            "#frmeSesion { background: %1; } QLabel { color: white; }"
+            "QListWidget { background: %2; color: white; }"
+            "QPushButton { background: %2; color: white; border: none; border-radius: 6px; }")
+            .arg(css(m_model.gameColour()), css(m_model.shade())));
+    if (!panel.shown()) {
+        return;
+    }
+    raise();
+    m_lblUser->setText(qs(m_model.displayName() + " "));
+    m_txtUser->setVisible(panel.userBoxShown());
+
+    m_lstSessions->clear();
+    for (const auto& entry : m_model.sessionEntries()) {
+        auto* item = new QListWidgetItem(qs(entry.name + " "), m_lstSessions);
+        item->setData(Qt::UserRole, entry.slot);
+        item->setSizeHint(QSize(px(5400), px(SessionPanelModel::kEntryHeight)));
+    }
+    m_lstSessions->setGeometry(px(240), px(panel.listTop()), px(5400), px(panel.listHeight()));
+    m_lstSessions->setVisible(panel.listShown());
+    m_lstSessions->raise();
+
+    m_frmeKey->setVisible(panel.keyFrameShown());
+    m_lblKey->setText(QString::fromUtf8(panel.keyCaption()));
+    m_lblKey->setStyleSheet(panel.locked() ? QStringLiteral("color: rgb(190,190,190);")
+                                           : QString());
+    m_txtKey->setVisible(!panel.secondBoxShown());
+    m_txtKey2->setVisible(panel.secondBoxShown());
+    m_lblCancel->setGeometry(boardWidth - px(1440), px(180), px(1200), px(420));
+    m_lblCancel->setVisible(panel.cancelShown());
+    m_lblWarning->setGeometry(px(1200), px(3720), boardWidth - px(2400), px(720));
+    m_lblWarning->setVisible(panel.warningShown() && panel.keyFrameShown());
+    if (panel.keyFrameShown() && !activeKeyBox()->hasFocus() && !m_txtUser->hasFocus()) {
+        activeKeyBox()->setFocus();
+    }
+}
+
+bool SessionPanel::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_lblUser && event->type() == QEvent::MouseButtonPress &&
+        static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+        m_model.toggleSessionList();
+        m_changed();
+        return true;
+    }
+    if (watched == m_lblCancel && event->type() == QEvent::MouseButtonRelease) {
+        m_model.panel().close();
+        m_changed();
+        return true;
+    }
+    if ((watched == m_txtKey || watched == m_txtKey2) &&
+        (event->type() == QEvent::KeyPress || event->type() == QEvent::MouseButtonPress)) {
+        if (event->type() == QEvent::KeyPress) {
+            auto* key = static_cast<QKeyEvent*>(event);
+            if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
+                enter();
+                return true;
+            }
+            if (key->key() == Qt::Key_F4) {
+                return false; // the panel and the board deal with it
+            }
+            if (m_model.panel().wrongShown()) {
+                return true;
+            }
+        }
+        if (m_model.panel().listShown() || m_model.panel().userBoxShown()) {
+            m_model.panel().hideListAndUserBox();
+            m_changed();
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void SessionPanel::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_F4 || event->key() == Qt::Key_Escape) {
+        event->ignore();
+        return;
+    }
+    const QString text = event->text();
+    if (!text.isEmpty() && text.front().isPrint() && m_model.panel().keyFrameShown()) {
+        QLineEdit* box = activeKeyBox();
+        box->setFocus();
+        box->insert(text);
+        m_model.panel().hideListAndUserBox();
+        m_changed();
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}
+
+void SessionPanel::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) {
+        return;
+    }
+    m_model.panel().hideListAndUserBox();
+    m_changed();
+}
+
+} // namespace quillora

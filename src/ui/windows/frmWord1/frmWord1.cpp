@@ -1,0 +1,151 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/frmWord1/frmWord1.h"
+
+#include "platform/Fonts.h"
+#include "state/SharedState.h"
+#include "windows/QtColour.h"
+#include "look/Twips.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace quillora {
+
+namespace {
+
+constexpr int kWidth = 6600, kHeight = 4080;
+
+} // namespace
+
+frmWord1::frmWord1(SharedState& shared, Dialogs& dialogs,
+                   std::function<void(const FriendPhrase&)> accepted, QWidget* board)
+    : QDialog(board), m_model(shared), m_shared(shared), m_dialogs(dialogs),
+      m_accepted(std::move(accepted)) {
+    setWindowTitle(QStringLiteral("LA FRASE ES:"));
+    setModal(true);
+    setFixedSize(px(kWidth), px(kHeight));
+    const Palette& palette = shared.palette;
+    setStyleSheet(
+        QStringLiteral("QDialog { background: %1; }"
+                       "QLabel { color: white; }"
+                       "QLineEdit { background: %4; border-radius: 4px; padding: 2px 6px; }"
+                       "QPushButton { background: %2; color: white; border: none;"
+                       " border-radius: 6px; padding: 4px 10px; }"
+                       "QPushButton:hover { background: %3; }"
+                       "QPushButton:disabled { background: rgb(150,150,150); }")
+            .arg(css(palette.gameColour), css(eColor(palette.gameColour)), css(palette.greenLamp),
+                 css(kNearWhite)));
+
+    auto* caption = new QLabel(QStringLiteral("LA FRASE ES:"), this);
+    caption->setGeometry(px(240), px(120), px(3000), px(360));
+    caption->setFont(Fonts::display(10));
+
+    m_txtTheme = new QLineEdit(this);
+    m_txtTheme->setGeometry(px(3360), px(120), px(3000), px(390));
+    m_txtTheme->setMaxLength(Word1Model::kMaxThemeChars);
+    m_txtTheme->setToolTip(QStringLiteral(" Tema "));
+    m_txtTheme->setFont(Fonts::display(9));
+    m_txtTheme->installEventFilter(this);
+    connect(m_txtTheme, &QLineEdit::textEdited, this,
+            [this](const QString& text) { m_model.setThemeText(text.toStdString()); });
+
+    m_txtWord = new QLineEdit(this);
+    m_txtWord->setGeometry(px(240), px(660), px(kWidth - 480), px(480));
+    m_txtWord->setMaxLength(Word1Model::kMaxPhraseChars);
+    m_txtWord->setToolTip(QStringLiteral(" Frase a jugar. "));
+    m_txtWord->setFont(Fonts::display(12));
+    m_txtWord->installEventFilter(this);
+    connect(m_txtWord, &QLineEdit::textChanged, this, [this](const QString& text) {
+        m_model.setPhraseText(text.toStdString());
+        refresh();
+    });
+
+    auto* preview = new QLabel(QStringLiteral("Vista previa >>>"), this);
+    preview->setGeometry(px(240), px(1320), px(3000), px(300));
+    preview->setFont(Fonts::display(8));
+    for (int row = 0; row < 3; ++row) {
+        auto* label = new QLabel(QStringLiteral("AAAAAAAAAAAAAA"), this);
+        label->setGeometry(px(1200), px(1680 + 420 * row), px(4200), px(390));
+        label->setAlignment(Qt::AlignCenter);
+        QFont mono = Fonts::display(12);
+        mono.setLetterSpacing(QFont::AbsoluteSpacing, 4);
+        label->setFont(mono);
+        label->setStyleSheet(QStringLiteral("background: %1; color: black; border-radius: 4px;")
+                                 .arg(css(kNearWhite)));
+        m_rows[static_cast<std::size_t>(row)] = label;
+    }
+    auto* legend = new QLabel(QStringLiteral("Espacios repetidos se omiten."), this);
+    legend->setGeometry(px(240), px(3420), px(3600), px(360));
+    legend->setFont(Fonts::display(8));
+
+    m_cmdOk = new QPushButton(QStringLiteral(" Aceptar "), this);
+    m_cmdOk->setGeometry(px(kWidth - 2280), px(3360), px(2040), px(480));
+    m_cmdOk->setFont(Fonts::display(10));
+    m_cmdOk->setAutoDefault(false);
+    connect(m_cmdOk, &QPushButton::clicked, this, &frmWord1::accept);
+
+    m_txtTheme->setText(qs(m_model.themeText()));
+    m_txtWord->clear();
+    refresh();
+    m_txtWord->setFocus();
+
+    if (board) {
+        const QRect b = board->frameGeometry();
+        move(b.left() + (b.width() - width()) / 2,
+             std::max(b.top() + (b.height() - height()) / 2, px(60)));
+    }
+}
+
+void frmWord1::refresh() {
+    for (int row = 1; row <= 3; ++row) {
+        previewRow(row)->setText(qs(m_model.previewRow(row)));
+    }
+    m_cmdOk->setEnabled(m_model.okEnabled());
+}
+
+void frmWord1::accept() {
+    m_model.setPhraseText(m_txtWord->text().toStdString());
+    const auto phrase = m_model.accept(m_shared, m_dialogs);
+    if (!phrase) {
+        // Refused: the friend sees the text in capitals and fixes it.
+        m_txtWord->setText(qs(m_model.phraseText()));
+        m_txtWord->setFocus();
+        return;
+    }
+    QDialog::accept();
+    if (m_accepted) {
+        m_accepted(*phrase);
+    }
+}
+
+bool frmWord1::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_txtTheme && event->type() == QEvent::FocusIn) {
+        m_model.themeFocusIn();
+        m_txtTheme->setText(qs(m_model.themeText()));
+    } else if (watched == m_txtTheme && event->type() == QEvent::FocusOut) {
+        m_model.themeFocusOut();
+        m_txtTheme->setText(qs(m_model.themeText()));
+    }
+    if ((watched == m_txtTheme || watched == m_txtWord) && event->type() == QEvent::KeyPress) {
+        auto* key = static_cast<QKeyEvent*>(event);
+        if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
+            if (m_cmdOk->isEnabled()) {
+                accept();
+            }
+            return true;
+        }
+        if (watched == m_txtWord) {
+            const std::u32string text = key->text().toStdU32String();
+            if (text.size() == 1 && text.front() >= U' ' &&
+                !m_model.keyAllowed(static_cast<int>(text.front()))) {
+                return true;
+            }
+        }
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+} // namespace quillora

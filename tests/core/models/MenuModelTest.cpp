@@ -1,0 +1,307 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "models/frmMenu/MenuModel.h"
+
+#include "storage/ConfigFile.h"
+#include "state/SharedState.h"
+#include "support/Fakes.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <vector>
+
+namespace quillora {
+namespace {
+
+using Spot = MenuModel::Spot;
+using Outcome = MenuModel::Outcome;
+using Key = MenuModel::Key;
+
+class MenuModelTest : public ::testing::Test {
+protected:
+    MenuModelTest() {
+        // A way of playing left over from an earlier game, so a menu choice
+        // that forgets a field shows.
+        shared.multiplayer = true;
+        shared.playerCount = 6;
+        shared.roster = PlayerRoster{6, 5, 4, {}};
+        shared.currentSession().Archivo = (temp.path() / kMainConfigName).string();
+    }
+    void load(bool locked) {
+        shared.locked = locked;
+        model.load();
+    }
+    void expectRoster(bool multiplayer, int players) const {
+        EXPECT_EQ(shared.multiplayer, multiplayer);
+        EXPECT_EQ(shared.playerCount, players);
+        EXPECT_EQ(shared.roster.rosterSize, players);
+        EXPECT_EQ(shared.roster.guesserCount, players - 1);
+        EXPECT_EQ(shared.roster.currentPlayer, 1);
+    }
+    void expectRosterUntouched() const {
+        EXPECT_TRUE(shared.multiplayer);
+        EXPECT_EQ(shared.playerCount, 6);
+        EXPECT_EQ(shared.roster.rosterSize, 6);
+        EXPECT_EQ(shared.roster.currentPlayer, 4);
+    }
+
+    TempFolder temp{"quillora-menu"};
+    SharedState shared;
+    ScriptedDialogs dialogs;
+    MenuModel model{shared, dialogs};
+};
+
+// --- keys, in both states of the session -------------------------------------------
+
+struct KeyCase {
+    const char* name;
+    bool locked;
+    Key key;
+    char32_t character;
+    // Players of the game that starts; nothing when the menu stays.
+    std::optional<int> players;
+    bool optionsOpening;
+};
+
+class MenuKeys : public MenuModelTest, public ::testing::WithParamInterface<KeyCase> {};
+
+TEST_P(MenuKeys, StartTheRightGameOrNothing) {
+    const KeyCase& c = GetParam();
+    load(c.locked);
+    const Outcome outcome = model.keyTyped(c.key, c.character);
+    if (c.players) {
+        EXPECT_EQ(outcome, Outcome::OpenBoard);
+        expectRoster(*c.players > 1, *c.players);
+    } else {
+        EXPECT_EQ(outcome, Outcome::Stay);
+        expectRosterUntouched();
+    }
+    EXPECT_EQ(model.inTimerRunning(), c.optionsOpening);
+    EXPECT_TRUE(dialogs.shown.empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Menu, MenuKeys,
+    ::testing::Values(KeyCase{"OneAlone", false, Key::Character, U'1', 1, false},
+                      KeyCase{"TwoWithAFriend", false, Key::Character, U'2', 2, false},
+                      KeyCase{"Seven", false, Key::Character, U'7', 7, false},
+                      KeyCase{"Nine", false, Key::Character, U'9', 9, false},
+                      KeyCase{"ZeroOpensOptions", false, Key::Character, U'0', {}, true},
+                      KeyCase{"Letter", false, Key::Character, U'a', {}, false},
+                      KeyCase{"ArabicDigit", false, Key::Character, U'\u0663', {}, false},
+                      KeyCase{"Enter", false, Key::Enter, 0, {}, false},
+                      KeyCase{"Other", false, Key::Other, 0, {}, false},
+                      KeyCase{"LockedOneContinues", true, Key::Character, U'1', 1, false},
+                      KeyCase{"LockedTwo", true, Key::Character, U'2', {}, false},
+                      KeyCase{"LockedSeven", true, Key::Character, U'7', {}, false},
+                      KeyCase{"LockedZero", true, Key::Character, U'0', {}, false},
+                      KeyCase{"LockedEnter", true, Key::Enter, 0, {}, false}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST_F(MenuModelTest, EscapeAsksInEitherStateAndOnlyYesQuits) {
+    for (const bool locked : {false, true}) {
+        load(locked);
+        dialogs.answer({false, true});
+        EXPECT_EQ(model.keyTyped(Key::Escape), Outcome::Stay);
+        EXPECT_EQ(model.keyTyped(Key::Escape), Outcome::Quit);
+        expectRosterUntouched();
+    }
+    ASSERT_EQ(dialogs.shown.size(), 4U);
+    for (const auto& shown : dialogs.shown) {
+        EXPECT_TRUE(shown.question);
+        EXPECT_EQ(shown.kind, Dialogs::Question::YesNo);
+        EXPECT_EQ(shown.text, "¿Seguro de cerrar?");
+    }
+}
+
+// --- the mouse -----------------------------------------------------------------------
+
+struct ClickCase {
+    Spot spot;
+    int players;
+    bool multiplayer;
+};
+
+class MenuClicks : public MenuModelTest, public ::testing::WithParamInterface<ClickCase> {};
+
+TEST_P(MenuClicks, EachTileSetsUpItsWayOfPlaying) {
+    const ClickCase& c = GetParam();
+    load(false);
+    model.hover(c.spot);
+    model.press(c.spot);
+    EXPECT_EQ(model.release(c.spot), Outcome::OpenBoard);
+    expectRoster(c.multiplayer, c.players);
+}
+
+INSTANTIATE_TEST_SUITE_P(Menu, MenuClicks,
+                         ::testing::Values(ClickCase{Spot::Solo, 1, false},
+                                           ClickCase{Spot::Friend, 2, true},
+                                           ClickCase{Spot::Several, 3, true}));
+
+TEST_F(MenuModelTest, AClickCountsOnlyWhereThePressBegan) {
+    load(false);
+    model.press(Spot::Solo);
+    EXPECT_EQ(model.tileColour(Spot::Solo), shared.palette.greenLamp);
+    EXPECT_EQ(model.release(Spot::Friend), Outcome::Stay);
+    EXPECT_EQ(model.tileColour(Spot::Solo), shared.palette.redLamp);
+    EXPECT_EQ(model.release(Spot::Friend), Outcome::Stay);
+    expectRosterUntouched();
+}
+
+TEST_F(MenuModelTest, LockedSessionOffersOnlyToContinue) {
+    load(true);
+    EXPECT_TRUE(model.locked());
+    for (const Spot covered : {Spot::Friend, Spot::Several, Spot::Options, Spot::Lock}) {
+        model.hover(covered);
+        EXPECT_EQ(model.legend(), "BLOQUEADO");
+        model.press(covered);
+        EXPECT_EQ(model.release(covered), Outcome::Stay);
+    }
+    EXPECT_FALSE(model.inTimerRunning());
+    EXPECT_EQ(model.numberText(), "3");
+    expectRosterUntouched();
+
+    model.hover(Spot::Solo);
+    EXPECT_EQ(model.legend(), "CONTINUAR");
+    model.press(Spot::Solo);
+    EXPECT_EQ(model.release(Spot::Solo), Outcome::OpenBoard);
+    expectRoster(false, 1);
+}
+
+TEST_F(MenuModelTest, HoverNamesTheTileAndLightsOnlyIt) {
+    load(false);
+    EXPECT_FALSE(model.locked());
+    EXPECT_EQ(model.legend(), "BIENVENIDOS");
+    const std::vector<std::pair<Spot, std::string>> legends{
+        {Spot::Solo, "JUGAR SOLO"},
+        {Spot::Friend, "JUGAR CON UN AMIGO"},
+        {Spot::Several, "JUGAR CON VARIOS AMIGOS"},
+        {Spot::Options, "CONFIGURACIÓN"},
+        {Spot::Lock, "BIENVENIDOS"}, // no lock on an open session
+    };
+    const Palette& p = shared.palette;
+    for (const auto& [spot, legend] : legends) {
+        model.hover(spot);
+        EXPECT_EQ(model.legend(), legend);
+        EXPECT_EQ(model.tileColour(Spot::Solo), spot == Spot::Solo ? p.greenLamp : p.redLamp);
+        EXPECT_EQ(model.tileColour(Spot::Friend),
+                  spot == Spot::Friend ? p.greenLamp : p.gameColour);
+        EXPECT_EQ(model.tileColour(Spot::Options),
+                  spot == Spot::Options ? p.greenLamp : p.yellowLamp);
+    }
+    // The legend is no option: passing over it keeps what it names.
+    model.hover(Spot::Friend);
+    model.hover(Spot::Legend);
+    EXPECT_EQ(model.legend(), "JUGAR CON UN AMIGO");
+    model.hover(Spot::Background);
+    EXPECT_EQ(model.legend(), "BIENVENIDOS");
+    EXPECT_EQ(model.tileColour(Spot::Friend), p.gameColour);
+    model.press(Spot::Legend);
+    EXPECT_EQ(model.release(Spot::Legend), Outcome::About);
+}
+
+TEST_F(MenuModelTest, LegendOpensFromItsCentreOnceForEachNewName) {
+    load(false);
+    EXPECT_FALSE(model.legendTimerRunning());
+    model.hover(Spot::Solo);
+    EXPECT_EQ(model.legendLeft(), MenuModel::kLegendStartLeft);
+    EXPECT_EQ(model.legendWidth(), MenuModel::kLegendStartWidth);
+    const int centre2 = 2 * model.legendLeft() + model.legendWidth();
+    int ticks = 0;
+    while (model.legendTimerRunning()) {
+        model.tickLegend();
+        ++ticks;
+        EXPECT_EQ(2 * model.legendLeft() + model.legendWidth(), centre2);
+    }
+    EXPECT_EQ(ticks, 10);
+    EXPECT_EQ(model.legendLeft(), 0);
+    EXPECT_EQ(model.legendWidth(), MenuModel::kWidthTwips);
+    // Moving on within the same tile leaves the open legend alone.
+    model.hover(Spot::Solo);
+    EXPECT_FALSE(model.legendTimerRunning());
+}
+
+// --- the number box ------------------------------------------------------------------
+
+TEST_F(MenuModelTest, NumberBoxTakesThreeOnHoverAndTheTypedDigit) {
+    load(false);
+    model.keyTyped(Key::Character, U'0');
+    EXPECT_EQ(model.numberText(), "3") << "0 opens the options, not the box";
+    model.hover(Spot::Several);
+    EXPECT_EQ(model.numberText(), "3");
+    EXPECT_TRUE(model.numberSelected());
+    model.hover(Spot::Background);
+    EXPECT_FALSE(model.numberSelected());
+
+    EXPECT_EQ(model.keyTyped(Key::Character, U'1'), Outcome::OpenBoard);
+    EXPECT_EQ(model.numberText(), "1");
+    expectRoster(false, 1);
+    // The box keeps the typed count for a click that follows without a hover.
+    EXPECT_EQ(model.keyTyped(Key::Character, U'5'), Outcome::OpenBoard);
+    EXPECT_EQ(model.choose(Spot::Several), Outcome::OpenBoard);
+    expectRoster(true, 5);
+}
+
+// --- the opening towards the options ---------------------------------------------------
+
+TEST_F(MenuModelTest, OptionsTileSwellsTheWindowAroundItsCentreThenHandsOver) {
+    load(false);
+    model.placeWindow(3000, 2000);
+    const int centreX2 = 2 * model.windowLeft() + model.windowWidth();
+    model.press(Spot::Options);
+    EXPECT_EQ(model.release(Spot::Options), Outcome::Stay);
+    ASSERT_TRUE(model.inTimerRunning());
+    Outcome outcome = Outcome::Stay;
+    int ticks = 0;
+    while (model.inTimerRunning() && ticks < 1000) {
+        outcome = model.tickIn();
+        ++ticks;
+    }
+    EXPECT_EQ(outcome, Outcome::OpenOptions);
+    EXPECT_GE(model.windowWidth(), MenuModel::kInFinalWidth);
+    EXPECT_LT(model.windowWidth(), MenuModel::kInFinalWidth + MenuModel::kInGrowWidth);
+    EXPECT_EQ(model.windowHeight(), MenuModel::kInFinalHeight);
+    EXPECT_EQ(2 * model.windowLeft() + model.windowWidth(), centreX2);
+    EXPECT_EQ(model.tickIn(), Outcome::Stay) << "the options open once";
+    expectRosterUntouched();
+}
+
+// --- the game colour read from the session's file ---------------------------------------
+
+struct ColourCase {
+    const char* name;
+    std::optional<std::string> line18; // nothing: no file at all
+    Rgb expected;
+};
+
+class MenuColour : public MenuModelTest, public ::testing::WithParamInterface<ColourCase> {};
+
+TEST_P(MenuColour, LineEighteenGivesTheTilesTheirColour) {
+    const ColourCase& c = GetParam();
+    shared.palette.gameColour = Rgb{1, 2, 3};
+    shared.settings.nombre = "Ana";
+    if (c.line18) {
+        std::vector<std::string> lines(20, "0");
+        lines[17] = *c.line18;
+        ASSERT_TRUE(writeConfigLines(shared.currentSession().Archivo, lines));
+    }
+    load(false);
+    EXPECT_EQ(model.gameColour(), c.expected);
+    EXPECT_EQ(model.tileColour(Spot::Friend), c.expected);
+    EXPECT_EQ(shared.settings.nombre, c.line18 ? "Ana" : "Quillora VS");
+}
+
+INSTANTIATE_TEST_SUITE_P(Menu, MenuColour,
+                         ::testing::Values(ColourCase{"Negative", "-5", kDefaultBlue},
+                                           ColourCase{"Empty", "", kDefaultBlue},
+                                           ColourCase{"Missing", std::nullopt, kDefaultBlue},
+                                           ColourCase{"Red", "255", Rgb{255, 0, 0}},
+                                           ColourCase{"PackedWithText", " 1327650 azul",
+                                                      Rgb{34, 66, 20}},
+                                           ColourCase{"ZeroIsBlack", "abc", kBlack}),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+} // namespace
+} // namespace quillora

@@ -1,0 +1,393 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "round/Round.h"
+#include "state/SharedState.h"
+#include "words/Text.h"
+
+#include "support/Fakes.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+
+namespace quillora {
+namespace {
+
+class RoundTest : public ::testing::Test {
+public:
+    void start(const std::string& phrase = "CASA") { round.startPhrase(phrase, 1, "ANIMAL"); }
+    void guessAll(std::u32string_view letters) {
+        for (char32_t c : letters) {
+            round.guess(c);
+        }
+    }
+    // Types a whole answer and presses OK, answering the question with `yes`.
+    bool answer(const std::string& typed, bool yes = true) {
+        round.BotonRespuesta();
+        round.setAnswerBoxText(typed);
+        dialogs.answer({yes});
+        return round.cmdOk();
+    }
+    const RoundState& st() const { return round.state(); }
+    const ScriptedDialogs::Shown& lastShown() const { return dialogs.shown.back(); }
+
+    SharedState shared;
+    ScriptedDialogs dialogs;
+    QueuedRandom random;
+    RecordingEvents events;
+    Round round{shared, dialogs, random, &events};
+};
+
+TEST_F(RoundTest, KeysGuessOrToggleOnlyWhileAGameIsInPlay) {
+    for (char32_t typed : {U'a', U'#', U'!'}) {
+        round.typeKey(typed);
+    }
+    round.clickKey(kDigitPanelKey);
+    EXPECT_TRUE(round.board().triedLetters().empty());
+    EXPECT_FALSE(round.digitPanelVisible() || round.answerBoxOpen());
+
+    start("NIÑO");
+    EXPECT_EQ(round.status(), "JUGANDO...");
+    EXPECT_EQ(round.pendingSound().number(), 2);
+    for (char32_t typed : {U'\u00F1', U'\u00E1', U'@', U'o'}) {
+        round.typeKey(typed);
+    }
+    EXPECT_EQ(round.board().triedLetters(), U"\u00D1O");
+    EXPECT_TRUE(round.board().cell(3).revealed && round.board().cell(4).revealed);
+    round.typeKey(U'!');
+    EXPECT_EQ(round.writeKeyCaption(), U"Cancelar");
+    round.setAnswerBoxText("NI");
+    round.clickKey(kWriteKey);
+    EXPECT_FALSE(round.answerBoxOpen());
+    EXPECT_TRUE(round.answerBoxText().empty());
+    round.typeKey(U'#');
+    EXPECT_TRUE(round.digitPanelVisible());
+    round.clickKey(kCloseDigitsKey);
+    EXPECT_FALSE(round.digitPanelVisible());
+
+    round.clickKey(keyIndexOf(U'N'));
+    round.clickKey(keyIndexOf(U'I'));
+    ASSERT_TRUE(st().over);
+    round.typeKey(U'b');
+    round.clickKey(kDigitPanelKey);
+    EXPECT_EQ(round.board().triedLetters(), U"\u00D1ONI");
+    EXPECT_FALSE(round.digitPanelVisible());
+}
+
+TEST_F(RoundTest, MissesFillSlotsInOrderUntilTheDeath) {
+    start();
+    round.guess(U'A');
+    const std::u32string misses = U"BDEFGHIJ";
+    const int sounds[] = {4, 4, 4, 4, 4, 4, 1, 3};
+    for (int n = 1; n <= 8; ++n) {
+        round.tickLamp();
+        EXPECT_EQ(round.lamp(), Lamp::None);
+        round.guess(misses[static_cast<std::size_t>(n - 1)]);
+        EXPECT_EQ(st().strikeCount, n);
+        EXPECT_EQ(st().slot(n), toUtf8(misses[static_cast<std::size_t>(n - 1)]));
+        EXPECT_EQ(round.pendingSound().number(), sounds[n - 1]) << "strike " << n;
+        EXPECT_EQ(round.lamp(), Lamp::Red);
+        // The eighth strike leaves its lamp to the death, which starts no timer.
+        EXPECT_EQ(round.lampTimerRunning(), n < 8);
+        EXPECT_EQ(st().manyErrors, n >= 5 && n < 8);
+        EXPECT_EQ(round.figure().visible(Figure::RightLeg), n >= 6);
+    }
+    EXPECT_EQ(round.status(), "¡MUERTO!");
+    EXPECT_TRUE(st().over && round.figure().hanging() && round.deathColours());
+    EXPECT_FALSE(round.counterVisible() || round.designEnabled());
+    EXPECT_EQ(events.lost, 1);
+    EXPECT_TRUE(round.board().cell(1).missed && round.board().cell(3).missed);
+    EXPECT_FALSE(round.board().cell(2).missed);
+    round.tickLamp();
+    EXPECT_EQ(round.lamp(), Lamp::Red);
+}
+
+TEST_F(RoundTest, RightLetterSoundsSixAndTheCompletingOneOnlyTheWin) {
+    start("OSO");
+    guessAll(U"ABCDEFG");
+    ASSERT_EQ(round.figure().faceText(), "o o");
+    round.tickLamp();
+    round.guess(U'O');
+    EXPECT_EQ(round.pendingSound().number(), 6);
+    EXPECT_EQ(round.lamp(), Lamp::Green);
+    EXPECT_TRUE(round.lampTimerRunning());
+    round.tickLamp();
+
+    round.guess(U'S');
+    EXPECT_EQ(round.pendingSound().number(), 5);
+    // A green lamp lit before the game ended would have started the timer.
+    EXPECT_FALSE(round.lampTimerRunning());
+    EXPECT_EQ(round.status(), "¡VICTORIA!");
+    EXPECT_TRUE(st().over);
+    EXPECT_FALSE(st().manyErrors || round.counterVisible());
+    EXPECT_EQ(round.figure().faceText(), "- -");
+    EXPECT_FALSE(round.figure().visible(Figure::PanicPicture));
+    EXPECT_EQ(events.won, 1);
+    EXPECT_EQ(events.turns, 9);
+    round.tickLamp();
+    EXPECT_EQ(round.lamp(), Lamp::Green);
+}
+
+TEST_F(RoundTest, RepeatedLetterOnlyLightsTheYellowLamp) {
+    start();
+    guessAll(U"BA");
+    EXPECT_FALSE(round.correctionOffered()) << "the last letter was a hit";
+    round.tickLamp();
+    round.pendingSound().tick();
+    guessAll(U"B");
+    EXPECT_EQ(round.lamp(), Lamp::Yellow);
+    EXPECT_EQ(st().strikeCount, 1);
+    EXPECT_TRUE(st().slot(2).empty());
+    EXPECT_EQ(round.board().triedLetters(), U"BA");
+    EXPECT_EQ(round.pendingSound().number(), 0);
+    EXPECT_EQ(events.turns, 2);
+    EXPECT_TRUE(round.correctionOffered()) << "a repeat clears the hit";
+}
+
+class RefusedAnswerTest
+    : public RoundTest,
+      public ::testing::WithParamInterface<std::pair<std::string, std::string>> {};
+
+TEST_P(RefusedAnswerTest, SymbolsAndAccentsKeepTheBoxOpenInCapitals) {
+    start();
+    round.BotonRespuesta();
+    round.setAnswerBoxText(GetParam().first);
+    EXPECT_FALSE(round.cmdOk());
+    ASSERT_EQ(dialogs.shown.size(), 1u) << "no question after a refusal";
+    EXPECT_EQ(lastShown().icon, Dialogs::Icon::Exclamation);
+    EXPECT_EQ(lastShown().text,
+              "Espere, hay mínimo un símbolo o letra con acento, revise si los hay y quítelos.");
+    EXPECT_EQ(lastShown().title, "Quillora Vesta");
+    EXPECT_TRUE(round.answerBoxOpen());
+    EXPECT_EQ(round.answerBoxText(), GetParam().second);
+}
+
+INSTANTIATE_TEST_SUITE_P(Answers, RefusedAnswerTest,
+                         ::testing::Values(std::pair{"CAS@", "CAS@"}, std::pair{"casá", "CASÁ"},
+                                           std::pair{"pingüino", "PINGÜINO"},
+                                           std::pair{"la\tcasa", "LA\tCASA"}));
+
+TEST_F(RoundTest, AnsweringNoKeepsTheBoxOpenAndYesComparesInCapitals) {
+    start("CODIGO        GENETICO");
+    EXPECT_FALSE(answer("codigo genetico", false));
+    EXPECT_TRUE(lastShown().question);
+    EXPECT_EQ(lastShown().text, "¿Está seguro?, morirá si se equivoca.");
+    EXPECT_TRUE(round.answerBoxOpen());
+    EXPECT_EQ(round.answerBoxText(), "CODIGO GENETICO");
+    EXPECT_FALSE(st().over);
+
+    dialogs.answer({true});
+    EXPECT_TRUE(round.cmdOk());
+    EXPECT_EQ(round.status(), "¡VICTORIA!");
+    EXPECT_FALSE(round.answerBoxOpen());
+    EXPECT_TRUE(round.answerBoxText().empty());
+    EXPECT_EQ(round.board().counterText(), "14/14");
+    EXPECT_TRUE(round.board().cell(22).revealed);
+}
+
+struct WholeAnswer {
+    std::string phrase;
+    std::u32string hits;
+    std::string typed;
+    bool bonus;
+};
+
+class WholeAnswerTest : public RoundTest, public ::testing::WithParamInterface<WholeAnswer> {};
+
+TEST_P(WholeAnswerTest, HalfBonusOnlyWhenFewerThanHalfRevealed) {
+    start(GetParam().phrase);
+    guessAll(GetParam().hits);
+    guessAll(U"XYZW");
+    EXPECT_TRUE(answer(GetParam().typed));
+    EXPECT_EQ(round.status(), "¡VICTORIA!");
+    EXPECT_EQ(st().earlyAnswerBonus, GetParam().bonus);
+    EXPECT_EQ(st().slot(1), GetParam().bonus ? "" : "X");
+    EXPECT_EQ(st().slot(4), GetParam().bonus ? "" : "W");
+    EXPECT_EQ(events.won, 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Answers, WholeAnswerTest,
+                         ::testing::Values(WholeAnswer{"MURCIELAGO", U"MUR", "MURCIELAGO", true},
+                                           WholeAnswer{"MURCIELAGO", U"MURCI", "murcielago", false},
+                                           WholeAnswer{"BLANQUITO", U"BLAN", "blanquito", true},
+                                           WholeAnswer{"BLANQUITO", U"BLANQ", "BLANQUITO", false},
+                                           WholeAnswer{"ABC", U"", "abc", true}));
+
+TEST_F(RoundTest, WrongWholeAnswerFillsTheEmptySlotsAndKills) {
+    shared.multiplayer = true;
+    start();
+    guessAll(U"BD");
+    EXPECT_TRUE(answer("caso"));
+    EXPECT_EQ(st().slot(2), "D");
+    for (int n = 3; n <= 8; ++n) {
+        EXPECT_EQ(st().slot(n), " ");
+    }
+    EXPECT_EQ(st().strikeCount, 8);
+    EXPECT_EQ(round.status(), "¡MUERTO!");
+    EXPECT_TRUE(round.figure().hanging());
+    EXPECT_EQ(round.pendingSound().number(), 3);
+    EXPECT_FALSE(round.answerBoxOpen());
+    EXPECT_EQ(events.lost, 0) << "a friend's game scores nothing";
+}
+
+struct Unoffered {
+    const char* name;
+    std::function<void(RoundTest&)> setUp;
+};
+
+class CorrectionRefusedTest : public RoundTest, public ::testing::WithParamInterface<Unoffered> {};
+
+TEST_P(CorrectionRefusedTest, NotOfferedAndNothingHappens) {
+    start();
+    GetParam().setUp(*this);
+    const int strikes = st().strikeCount;
+    const std::size_t shownBefore = dialogs.shown.size();
+    EXPECT_FALSE(round.correctionOffered());
+    round.eBackStrike();
+    EXPECT_EQ(st().strikeCount, strikes);
+    EXPECT_EQ(dialogs.shown.size(), shownBefore);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Conditions, CorrectionRefusedTest,
+    ::testing::Values(Unoffered{"NoneLeft",
+                                [](RoundTest& t) {
+                                    t.shared.correctionsLeft = 0;
+                                    t.guessAll(U"B");
+                                }},
+                      Unoffered{"AlreadyUsed",
+                                [](RoundTest& t) {
+                                    t.guessAll(U"BD");
+                                    t.dialogs.answer({true});
+                                    t.round.eBackStrike();
+                                    t.guessAll(U"E");
+                                }},
+                      Unoffered{"Over", [](RoundTest& t) { t.guessAll(U"BDEFGHIJ"); }},
+                      Unoffered{"NoStrikes", [](RoundTest& t) { t.guessAll(U"A"); }},
+                      Unoffered{"LastGuessHit", [](RoundTest& t) { t.guessAll(U"BC"); }}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST_F(RoundTest, CorrectionTakesBackTheLastStrike) {
+    start();
+    guessAll(U"BDEFG");
+    ASSERT_TRUE(st().manyErrors && round.figure().visible(Figure::LeftLeg));
+    dialogs.answer({true});
+    round.eBackStrike();
+    EXPECT_EQ(dialogs.shown.at(0).text,
+              "La corrección de strikes es muy limitado, sólo tienes 3 oportunidades para "
+              "corregir en todo el juego. ¿Deseas usar una?");
+    EXPECT_EQ(st().strikeCount, 4);
+    EXPECT_EQ(shared.correctionsLeft, 2);
+    EXPECT_EQ(round.board().triedLetters(), U"BDEF");
+    EXPECT_TRUE(round.board().keyVisible(keyIndexOf(U'G')));
+    EXPECT_FALSE(round.board().keyVisible(keyIndexOf(U'F')));
+    EXPECT_EQ(st().slot(4), "F");
+    EXPECT_TRUE(st().slot(5).empty());
+    EXPECT_FALSE(round.figure().visible(Figure::LeftLeg));
+    EXPECT_TRUE(round.figure().visible(Figure::RightArm));
+    EXPECT_FALSE(st().manyErrors);
+    EXPECT_EQ(events.panelShown, (std::vector<bool>{true, false}));
+    ASSERT_EQ(dialogs.shown.size(), 2u);
+    EXPECT_EQ(dialogs.shown[1].icon, Dialogs::Icon::Information);
+    EXPECT_EQ(dialogs.shown[1].text,
+              "Has usado una de tus correcciones, para usar otra tienes que jugar otra partida.");
+
+    round.guess(U'G');
+    EXPECT_EQ(st().slot(5), "G");
+    EXPECT_EQ(st().strikeCount, 5);
+}
+
+TEST_F(RoundTest, ALetterHandedBackByACorrectionIsNotCountedTwice) {
+    start();
+    guessAll(U"BAA"); // the repeat clears the hit, so the correction is offered
+    dialogs.answer({true});
+    round.eBackStrike();
+    ASSERT_EQ(round.board().triedLetters(), U"B") << "the correction drops the A, not the miss";
+    round.guess(U'A');
+    EXPECT_EQ(round.board().revealedCount(), 2);
+    EXPECT_FALSE(st().over);
+}
+
+TEST_F(RoundTest, CorrectionNoticeOnlyWhenTwoAreLeftAfterwards) {
+    EXPECT_NE(Round::correctionQuestion(1).find(" 1 oportunidad para"), std::string::npos);
+    for (const int before : {3, 2, 1}) {
+        round.eMenuNew();
+        shared.correctionsLeft = before;
+        start();
+        guessAll(U"BDEFGHI");
+        dialogs.shown.clear();
+        dialogs.answer({true});
+        round.eBackStrike();
+        EXPECT_EQ(dialogs.shown.size(), before == 3 ? 2u : 1u) << before;
+        EXPECT_EQ(shared.correctionsLeft, before - 1);
+        EXPECT_EQ(st().strikeCount, 6);
+        EXPECT_EQ(round.figure().faceText(), "- -");
+        guessAll(U"IJ");
+        ASSERT_TRUE(st().over);
+    }
+
+    round.eMenuNew();
+    shared.correctionsLeft = 3;
+    start();
+    guessAll(U"B");
+    dialogs.answer({false});
+    round.eBackStrike();
+    EXPECT_EQ(st().strikeCount, 1);
+    EXPECT_TRUE(round.correctionOffered());
+}
+
+TEST_F(RoundTest, LeavingIsRefusedWithManyErrorsAndAskedDuringPlay) {
+    EXPECT_TRUE(round.eMenuBack()) << "nothing under way";
+    start();
+    dialogs.answer({false, true});
+    EXPECT_FALSE(round.eMenuBack());
+    EXPECT_EQ(lastShown().text, "¿Seguro de salirse de la partida?");
+    EXPECT_TRUE(round.eMenuBack());
+
+    guessAll(U"BDEFG");
+    dialogs.shown.clear();
+    EXPECT_FALSE(round.eMenuBack());
+    EXPECT_EQ(lastShown().icon, Dialogs::Icon::Exclamation);
+    EXPECT_EQ(lastShown().text, "Tiene bastantes errores, termine la partida.");
+    round.eMenuNew();
+    EXPECT_EQ(lastShown().text, "Tienes bastantes errores, termina el juego.");
+    EXPECT_EQ(round.board().letterTotal(), 4);
+    EXPECT_EQ(st().strikeCount, 5);
+
+    guessAll(U"HIJ");
+    EXPECT_TRUE(round.eMenuBack()) << "a dead game is left without asking";
+    round.eMenuNew();
+    EXPECT_EQ(round.playCaption(), "JUGAR");
+    EXPECT_TRUE(st().slot(8).empty() && round.board().triedLetters().empty());
+}
+
+TEST_F(RoundTest, PointsOffNeverHoldTheGame) {
+    shared.settings.sistemaPuntos = false;
+    start();
+    guessAll(U"BDEFGH");
+    EXPECT_FALSE(st().manyErrors);
+    guessAll(U"IJ");
+    EXPECT_EQ(events.lost, 0);
+}
+
+TEST_F(RoundTest, StatusDotsCycleOnlyWhilePlaying) {
+    shared.settings.animacion = true;
+    round.tickStatus();
+    EXPECT_EQ(round.status(), "NUEVA PARTIDA");
+    shared.settings.animacion = false;
+    start();
+    round.tickStatus();
+    EXPECT_EQ(round.status(), "JUGANDO");
+    shared.settings.animacion = true;
+    for (const char* expected : {"JUGANDO.", "JUGANDO..", "JUGANDO...", "JUGANDO", "JUGANDO."}) {
+        round.tickStatus();
+        EXPECT_EQ(round.status(), expected);
+    }
+    guessAll(U"BDEFGHIJ");
+    round.tickStatus();
+    EXPECT_EQ(round.status(), "¡MUERTO!");
+}
+
+} // namespace
+} // namespace quillora

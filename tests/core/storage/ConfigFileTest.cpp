@@ -1,0 +1,356 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "storage/ConfigFile.h"
+#include "state/SharedState.h"
+
+#include "support/Fakes.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <limits>
+#include <ostream>
+
+namespace quillora {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr double kMax = std::numeric_limits<double>::max();
+const std::string kNines(400, '9');
+
+// Twenty lines as another copy of the game would write them, each line a
+// value no other line holds, so a line read into the wrong option shows.
+std::vector<std::string> fileLines() {
+    return {"fondo.jpg", "C:\\Fotos", "2", "1", "0",   "1", "0", "1",   "1", "1",
+            "12",        "1",         "0", "1", "Ana", "1", "0", "255", "0", "1"};
+}
+
+class ConfigFileTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        shared.dataFolder = folder;
+        shared.currentSession().Archivo = file().string();
+    }
+
+    fs::path file() const { return folder / "QuilloraVS5.txt"; }
+    void writeRaw(const std::string& bytes) { std::ofstream(file(), std::ios::binary) << bytes; }
+    void write(const std::vector<std::string>& lines, const std::string& ending = "\r\n") {
+        std::string bytes;
+        for (const auto& l : lines) {
+            bytes += l + ending;
+        }
+        writeRaw(bytes);
+    }
+    void load() {
+        clearForBoardLoad(shared);
+        DataLoad(shared, random);
+        ConfLoad(shared);
+    }
+    std::vector<std::string> savedLines() const {
+        return readConfigLines(file()).value_or(std::vector<std::string>{});
+    }
+
+    TempFolder temp{"quillora-config"};
+    const fs::path& folder = temp.path();
+    SharedState shared;
+    QueuedRandom random;
+};
+
+struct NumberCase {
+    std::string text;
+    double value;
+};
+void PrintTo(const NumberCase& c, std::ostream* os) {
+    *os << '"' << c.text.substr(0, 12) << (c.text.size() > 12 ? "..." : "") << '"';
+}
+class LeadingNumberTest : public ::testing::TestWithParam<NumberCase> {};
+
+TEST_P(LeadingNumberTest, ReadsOnlyTheLeadingDecimalNumber) {
+    EXPECT_DOUBLE_EQ(leadingNumber(GetParam().text), GetParam().value);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, LeadingNumberTest,
+    ::testing::Values(NumberCase{"1.5", 1.5}, NumberCase{"-5", -5}, NumberCase{"12abc", 12},
+                      NumberCase{"abc", 0}, NumberCase{"", 0}, NumberCase{" \t7", 7},
+                      NumberCase{"+3", 3}, NumberCase{".5", 0.5}, NumberCase{"5.", 5},
+                      NumberCase{"-", 0}, NumberCase{".", 0}, NumberCase{"- 4", 0},
+                      NumberCase{"1e3", 1}, NumberCase{"1,5", 1}, NumberCase{"0x1F", 0},
+                      NumberCase{"inf", 0}, NumberCase{kNines, kMax},
+                      NumberCase{"-" + kNines, -kMax},
+                      NumberCase{"0." + std::string(400, '0') + "1", 0}));
+
+TEST(Windows1252, EveryByteComesBackAndTheCodePageMapsItsCharacters) {
+    for (int b = 0; b < 256; ++b) {
+        const std::string byte(1, static_cast<char>(b));
+        EXPECT_EQ(toWindows1252(fromWindows1252(byte)), byte) << b;
+    }
+    const std::vector<std::pair<std::string, std::string>> pairs{
+        {"\xD1", "Ñ"}, {"\xF1", "ñ"}, {"\xE1", "á"}, {"\x80", "€"},
+        {"\x8A", "Š"}, {"\x96", "–"}, {"\x9F", "Ÿ"}, {"\x81", "\u0081"}};
+    for (const auto& [bytes, utf8] : pairs) {
+        EXPECT_EQ(fromWindows1252(bytes), utf8);
+        EXPECT_EQ(toWindows1252(utf8), bytes) << utf8;
+    }
+    EXPECT_EQ(toWindows1252("日本 \u0080"), "?? ?");
+}
+
+TEST_F(ConfigFileTest, AFileFromAnotherCopyLoadsLineByLine) {
+    for (const std::string ending : {"\r\n", "\n", "\r"}) {
+        SCOPED_TRACE(ending == "\n" ? "LF" : ending == "\r" ? "CR" : "CR LF");
+        write(fileLines(), ending);
+        load();
+        const Settings& s = shared.settings;
+        EXPECT_EQ(s.fondo, "fondo.jpg");
+        EXPECT_EQ(s.carpetaFondo, "C:\\Fotos");
+        EXPECT_EQ(s.estilo, 2);
+        EXPECT_TRUE(s.letraOpaca && !s.letraBlanca && s.lineaBlanca && !s.tamanoReal);
+        EXPECT_TRUE(s.sonidos && s.fraseAutomatica && s.animacion && s.sistemaPuntos);
+        EXPECT_FALSE(s.supervivencia);
+        EXPECT_EQ(s.contratiempo, 1);
+        EXPECT_EQ(s.tema, 12);
+        EXPECT_EQ(s.nombre, "Ana");
+        EXPECT_EQ(shared.currentSession().displayName, "Ana");
+        EXPECT_TRUE(s.usarEnciclopedia) << "line 16 is the encyclopedia";
+        EXPECT_FALSE(s.masPuntosNegativos) << "line 17 is the points option";
+        EXPECT_EQ(s.colorJuego, (Rgb{255, 0, 0}));
+        EXPECT_EQ(shared.palette.gameColour, (Rgb{255, 0, 0}));
+        EXPECT_FALSE(s.sinBotonJugar);
+        EXPECT_TRUE(s.tecladoPermanente);
+    }
+}
+
+TEST_F(ConfigFileTest, TheBoardClearsAllButStyleSoundsThemePointsNameAndColour) {
+    shared.configLines.fill("7");
+    clearForBoardLoad(shared);
+    const std::array<std::string, kConfigLines> expected{"",  "",  "7", "0", "0", "0", "0",
+                                                         "7", "0", "0", "7", "7", "0", "0",
+                                                         "7", "0", "0", "7", "0", "0"};
+    EXPECT_EQ(shared.configLines, expected);
+}
+
+struct LineCase {
+    int line;
+    std::string text;
+    int expected;
+};
+void PrintTo(const LineCase& c, std::ostream* os) {
+    *os << "line " << c.line << " \"" << c.text.substr(0, 12) << '"';
+}
+class ConfigLineTest : public ConfigFileTest, public ::testing::WithParamInterface<LineCase> {};
+
+TEST_P(ConfigLineTest, EachLineTakesItsBounds) {
+    auto lines = fileLines();
+    lines[static_cast<std::size_t>(GetParam().line - 1)] = GetParam().text;
+    shared.settings.tema = 33; // what a theme out of range leaves in place
+    write(lines);
+    load();
+    const Settings& s = shared.settings;
+    int got = -1;
+    switch (GetParam().line) {
+    case 3:
+        got = s.estilo;
+        break;
+    case 4:
+        got = s.letraOpaca;
+        break;
+    case 11:
+        got = s.tema;
+        break;
+    case 14:
+        got = s.contratiempo;
+        break;
+    case 18:
+        got = static_cast<int>(s.colorJuego.packed());
+        break;
+    }
+    EXPECT_EQ(got, GetParam().expected);
+}
+
+constexpr int kBlue = static_cast<int>(kDefaultBlue.packed());
+INSTANTIATE_TEST_SUITE_P(
+    Lines, ConfigLineTest,
+    ::testing::Values(LineCase{3, "5", 0}, LineCase{3, "4", 4}, LineCase{3, "0", 0},
+                      LineCase{3, " 2x", 2}, LineCase{3, "-1", 0}, LineCase{4, "2", 1},
+                      LineCase{4, "0.5", 0}, LineCase{4, "-1", 0}, LineCase{4, "1abc", 1},
+                      LineCase{4, "", 0}, LineCase{11, "0", 1}, LineCase{11, "51", 33},
+                      LineCase{11, "50", 50}, LineCase{11, "-3", 33}, LineCase{11, "", 1},
+                      LineCase{11, kNines, 33}, LineCase{14, "1.5", 0}, LineCase{14, "1", 1},
+                      LineCase{14, "2", 2}, LineCase{14, "3", 2}, LineCase{14, "-1", 0},
+                      LineCase{14, "x", 0}, LineCase{18, "", kBlue}, LineCase{18, "255", 255},
+                      LineCase{18, "abc", 0}, LineCase{18, "-1", kBlue},
+                      LineCase{18, "16777216", kBlue}, LineCase{18, kNines, kBlue}));
+
+TEST_F(ConfigFileTest, AShortOldFileLoadsWithDefaultsAndSavesTwentyLines) {
+    auto lines = fileLines();
+    lines.resize(17);
+    write(lines);
+    load();
+    EXPECT_EQ(shared.settings.colorJuego, kDefaultBlue);
+    EXPECT_FALSE(shared.settings.sinBotonJugar || shared.settings.tecladoPermanente);
+    ASSERT_TRUE(ConfSave(shared));
+    const std::string bytes = slurp(file());
+    std::size_t crlf = 0;
+    std::size_t lf = 0;
+    for (std::size_t at = 0; at < bytes.size(); ++at) {
+        lf += bytes[at] == '\n';
+        crlf += bytes.compare(at, 2, "\r\n") == 0;
+    }
+    EXPECT_EQ(crlf, 20U);
+    EXPECT_EQ(lf, 20U) << "no line ends in a bare LF";
+    EXPECT_EQ(bytes.substr(bytes.size() - 2), "\r\n");
+    EXPECT_EQ(savedLines()[17], "15759390");
+}
+
+TEST_F(ConfigFileTest, SavingWritesEveryLineFromTheLiveOptions) {
+    auto lines = fileLines();
+    lines[3] = "2"; // a flag of 2
+    lines[14] = ""; // no name
+    write(lines);
+    load();
+    shared.themeChosen = false;
+    ASSERT_TRUE(ConfSave(shared));
+    auto expected = fileLines();
+    expected[3] = "1";
+    expected[8] = "0"; // the automatic phrase needs a chosen theme
+    expected[14] = "Quillora VS";
+    EXPECT_EQ(savedLines(), expected);
+    EXPECT_EQ(shared.settings.nombre, "Quillora VS");
+
+    shared.themeChosen = true;
+    ASSERT_TRUE(ConfSave(shared));
+    EXPECT_EQ(savedLines()[8], "1");
+    shared.tourPosition = 4;
+    ASSERT_TRUE(ConfSave(shared));
+    EXPECT_EQ(savedLines()[8], "0") << "never during a tour";
+
+    shared.settings.fondo = "a\r\nb";
+    ASSERT_TRUE(ConfSave(shared));
+    const auto saved = savedLines();
+    ASSERT_EQ(saved.size(), 20U) << "a line break in a value shifts no line";
+    EXPECT_EQ(saved[14], "Quillora VS");
+}
+
+TEST_F(ConfigFileTest, AnEnyeInTheNameIsOneByteOnDiskAndComesBack) {
+    shared.settings.nombre = "NUÑEZ";
+    ASSERT_TRUE(ConfSave(shared));
+    EXPECT_NE(slurp(file()).find("\r\nNU\xD1"
+                                 "EZ\r\n"),
+              std::string::npos);
+    shared.settings.nombre.clear();
+    load();
+    EXPECT_EQ(shared.settings.nombre, "NUÑEZ");
+}
+
+TEST_F(ConfigFileTest, AMissingFileGivesTheDefaultsAndKeepsNameAndColour) {
+    // What the main menu leaves when it cannot read the file either, over
+    // raw lines of an earlier user.
+    shared.settings.nombre = "Quillora VS";
+    shared.palette.gameColour = Rgb{255, 0, 0};
+    write(fileLines());
+    load();
+    fs::remove(file());
+    random.queue({0.5});
+    load();
+    const Settings& s = shared.settings;
+    EXPECT_EQ(s.estilo, 1);
+    EXPECT_TRUE(s.sonidos && s.sistemaPuntos);
+    EXPECT_FALSE(s.letraOpaca || s.fraseAutomatica || s.animacion || s.tecladoPermanente);
+    EXPECT_EQ(s.contratiempo, 0);
+    EXPECT_EQ(s.fondo, "");
+    EXPECT_EQ(s.tema, 25);
+    EXPECT_EQ(s.nombre, "Ana");
+    EXPECT_EQ(s.colorJuego, (Rgb{255, 0, 0}));
+    EXPECT_FALSE(fs::exists(file())) << "reading never creates the file";
+
+    shared.settings.nombre = "Quillora VS";
+    shared.palette.gameColour = kDefaultBlue;
+    random.queue({0.0});
+    load();
+    EXPECT_EQ(shared.currentSession().displayName, "Quillora VS");
+    EXPECT_EQ(s.colorJuego, kDefaultBlue);
+    EXPECT_EQ(s.tema, 1);
+}
+
+TEST_F(ConfigFileTest, FilesThatAreNotConfigurationsNeitherCrashNorChange) {
+    const std::string binary("\x89PNG\r\n\x1A\n\0\0\0\rIHDR\xFF\xD8", 18);
+    writeRaw(binary);
+    load();
+    EXPECT_GE(shared.settings.estilo, 0);
+    EXPECT_LE(shared.settings.estilo, 4);
+    EXPECT_EQ(slurp(file()), binary);
+
+    writeRaw(std::string(kMaxConfigBytes, '\n'));
+    EXPECT_TRUE(readConfigLines(file()));
+    const std::string huge(kMaxConfigBytes + 1, '7');
+    writeRaw(huge);
+    random.queue({0.2});
+    load();
+    EXPECT_EQ(shared.settings.tema, 10) << "too large to be ours: loads as missing";
+    EXPECT_EQ(slurp(file()), huge);
+
+    fs::remove(file());
+    fs::create_directory(file());
+    random.queue({0.2});
+    load();
+    EXPECT_EQ(shared.settings.estilo, 1);
+    EXPECT_FALSE(ConfSave(shared)) << "a folder is never written over";
+    EXPECT_TRUE(fs::is_directory(file()));
+}
+
+TEST_F(ConfigFileTest, AFreshFileHoldsTheNewUsersDefaults) {
+    const fs::path fresh = folder / "nuevo.txt";
+    random.queue({0.7, 0.01});
+    ASSERT_TRUE(NewConfFile(fresh, "Beto", random));
+    const std::vector<std::string> expected{"",     "",  "1", "0",        "0", "0", "0",
+                                            "1",    "0", "0", "35",       "1", "0", "0",
+                                            "Beto", "0", "0", "15759390", "0", "0"};
+    EXPECT_EQ(readConfigLines(fresh), expected);
+
+    ASSERT_TRUE(NewConfFile(fresh, "Beto", random));
+    EXPECT_EQ(readConfigLines(fresh).value_or(expected)[10], "0");
+    shared.currentSession().Archivo = fresh.string();
+    load();
+    EXPECT_EQ(shared.settings.tema, 1) << "a theme drawn as 0 loads as the first";
+}
+
+TEST_F(ConfigFileTest, UserNamesNeverLeaveTheDataFolder) {
+    for (const std::string& name : std::vector<std::string>{
+             "../x", "/etc/passwd", ".", "..", "a/../../b", "", std::string("a\0b", 3)}) {
+        const fs::path path = sessionFilePath(folder, name);
+        EXPECT_EQ(path.parent_path(), folder) << name;
+        EXPECT_NE(path.filename().string().front(), '.') << name;
+    }
+    EXPECT_EQ(sessionFilePath(folder, "Usuario 2").filename(), "Usuario 2.txt");
+    EXPECT_EQ(sessionFilePath(folder, std::string("a\0b", 3)).filename(), "a_b.txt");
+    EXPECT_EQ(sessionFilePath(folder, "quilloraVS5").filename(), "_quilloraVS5.txt")
+        << "no user may take the main session's file";
+
+    random.queue({0.5});
+    ASSERT_TRUE(NewConfFile(sessionFilePath(folder, "../x"), "../x", random));
+    EXPECT_TRUE(fs::exists(folder / "_._x.txt"));
+    EXPECT_FALSE(fs::exists(folder.parent_path() / "x.txt"));
+}
+
+TEST_F(ConfigFileTest, SavingCreatesTheFolderAndLeavesNoTemporaryFile) {
+    const fs::path nested = folder / "quillora-vesta" / "QuilloraVS5.txt";
+    shared.currentSession().Archivo = nested.string();
+    ASSERT_TRUE(ConfSave(shared));
+    ASSERT_TRUE(ConfSave(shared));
+    std::vector<fs::path> entries;
+    for (const auto& entry : fs::directory_iterator(nested.parent_path())) {
+        entries.push_back(entry.path());
+    }
+    EXPECT_EQ(entries, std::vector<fs::path>{nested});
+
+    writeRaw("not a folder");
+    shared.currentSession().Archivo = (file() / "QuilloraVS5.txt").string();
+    EXPECT_FALSE(ConfSave(shared));
+    EXPECT_EQ(slurp(file()), "not a folder");
+}
+
+} // namespace
+} // namespace quillora

@@ -1,0 +1,200 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "storage/Sessions.h"
+#include "storage/ConfigFile.h"
+#include "state/SharedState.h"
+#include "models/frmInicio/InicioModel.h"
+
+#include "support/Fakes.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <random>
+
+namespace quillora {
+namespace {
+
+namespace fs = std::filesystem;
+
+class SessionsTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        shared.dataFolder = folder;
+        InicioLoad(shared);
+        shared.currentSession().displayName = "Quillora VS";
+    }
+
+    std::string add(const std::string& typed = "Nombre") {
+        random.queue({0.5});
+        std::string shown;
+        EXPECT_TRUE(sessions.add(typed, false, shown));
+        return shown;
+    }
+
+    TempFolder temp{"quillora-sessions"};
+    const fs::path& folder = temp.path();
+    SharedState shared;
+    ScriptedDialogs dialogs;
+    QueuedRandom random;
+    Sessions sessions{shared, dialogs, random};
+};
+
+TEST_F(SessionsTest, AddingWithoutANameUsesTheSlotNumberAndWritesAFreshFile) {
+    EXPECT_EQ(add(), "Usuario 2");
+    EXPECT_EQ(shared.currentSlot, 1);
+    const fs::path file = folder / "Usuario 2.txt";
+    ASSERT_TRUE(fs::exists(file));
+    EXPECT_EQ(shared.currentSession().Archivo, file.string());
+    EXPECT_EQ(shared.currentSession().displayName, "Usuario 2");
+    EXPECT_EQ(shared.survivalPoints, 1000);
+    EXPECT_EQ(shared.correctionsLeft, 3);
+    EXPECT_TRUE(shared.sessionLoaded);
+    EXPECT_NE(slurp(file).find("\r\nUsuario 2\r\n"), std::string::npos);
+}
+
+TEST_F(SessionsTest, AFourthSessionIsRefusedAndTheThirdStaysCurrent) {
+    add("Ana");
+    add("Beto");
+    add("Ciro");
+    std::string shown;
+    EXPECT_FALSE(sessions.add("Dora", false, shown));
+    EXPECT_EQ(shared.currentSlot, 3);
+    EXPECT_EQ(dialogs.shown.back().text, "No se pueden agregar más sesiones.");
+    EXPECT_EQ(dialogs.shown.back().icon, Dialogs::Icon::Error);
+    EXPECT_FALSE(fs::exists(folder / "Dora.txt"));
+}
+
+TEST_F(SessionsTest, SwitchingBackRestoresWhatTheUserLeft) {
+    shared.normalPoints = 450;
+    shared.survivalPoints = 300;
+    shared.settings.tema = 7;
+    shared.history = "CASA\r\nPERRO";
+    shared.correctionsLeft = 1;
+    add("Ana");
+    shared.normalPoints = -600;
+    shared.correctionsLeft = 2;
+
+    ASSERT_TRUE(sessions.switchTo(0, false));
+    EXPECT_TRUE(shared.skipStartDefaults);
+    EXPECT_EQ(shared.normalPoints, 450);
+    EXPECT_EQ(shared.survivalPoints, 300);
+    EXPECT_EQ(shared.settings.tema, 7);
+    EXPECT_EQ(shared.history, "CASA\r\nPERRO");
+    EXPECT_EQ(shared.correctionsLeft, 1);
+
+    ASSERT_TRUE(sessions.switchTo(1, false));
+    EXPECT_EQ(shared.normalPoints, -600);
+    EXPECT_EQ(shared.correctionsLeft, 2);
+}
+
+TEST_F(SessionsTest, ChangesOfUserAreRefusedWithManyErrorsOrTheSameUser) {
+    std::string shown;
+    EXPECT_FALSE(sessions.add("Ana", true, shown));
+    EXPECT_FALSE(sessions.addFromFiles({(folder / "x.txt").string()}, true));
+    EXPECT_FALSE(sessions.switchTo(0, true));
+    for (const auto& box : dialogs.shown) {
+        EXPECT_EQ(box.text, "No se puede cambiar de sesión, termine la partida.");
+        EXPECT_EQ(box.icon, Dialogs::Icon::Exclamation);
+    }
+    EXPECT_EQ(dialogs.shown.size(), 3U);
+    EXPECT_FALSE(sessions.switchTo(0, false));
+    EXPECT_EQ(dialogs.shown.back().text, "Es el usuario actual, seleccione otro.");
+    EXPECT_EQ(shared.currentSlot, 0);
+    EXPECT_FALSE(shared.sessions[1].inUse());
+}
+
+TEST_F(SessionsTest, ALockSurvivesSwitchesAndTheKeyStaysWithItsUser) {
+    add("Ana");
+    shared.key = "clave";
+    shared.locked = true;
+    ASSERT_TRUE(sessions.switchTo(0, false));
+    EXPECT_FALSE(shared.locked);
+    ASSERT_TRUE(sessions.switchTo(1, false));
+    EXPECT_TRUE(shared.locked);
+    EXPECT_EQ(shared.key, "clave");
+}
+
+TEST_F(SessionsTest, DeletingMovesLaterSlotsDownAndReturnsToTheMainSession) {
+    add("Ana");
+    add("Beto");
+    add("Ciro");
+    ASSERT_TRUE(sessions.switchTo(1, false));
+    ASSERT_TRUE(sessions.deleteCurrent());
+    EXPECT_EQ(shared.currentSlot, 0);
+    EXPECT_EQ(shared.sessions[1].displayName, "Beto");
+    EXPECT_EQ(shared.sessions[2].displayName, "Ciro");
+    EXPECT_FALSE(shared.sessions[3].inUse());
+    EXPECT_TRUE(fs::exists(folder / "Ana.txt")) << "the user's file stays on disk";
+
+    // The last slot can go as well.
+    ASSERT_TRUE(sessions.switchTo(2, false));
+    ASSERT_TRUE(sessions.deleteCurrent());
+    EXPECT_FALSE(shared.sessions[2].inUse());
+    EXPECT_EQ(shared.sessions[1].displayName, "Beto");
+    EXPECT_FALSE(sessions.deleteCurrent()) << "the main session is never deleted";
+}
+
+TEST_F(SessionsTest, NamesThatLookLikePathsStayInsideTheDataFolder) {
+    for (const char* name : {"../fuera", "/etc/passwd", ".oculto", "a/b"}) {
+        add(name);
+        const fs::path file = shared.currentSession().Archivo;
+        EXPECT_EQ(file.parent_path(), folder) << name;
+        EXPECT_TRUE(fs::exists(file)) << name;
+        ASSERT_TRUE(sessions.deleteCurrent());
+    }
+    EXPECT_FALSE(fs::exists(folder.parent_path() / "fuera.txt"));
+}
+
+TEST_F(SessionsTest, DroppedFilesBecomeSessionsAndOtherFilesAreLeftAlone) {
+    const fs::path named = folder / "ana.txt";
+    std::ofstream(named, std::ios::binary)
+        << "\r\n\r\n1\r\n0\r\n0\r\n0\r\n0\r\n1\r\n0\r\n0\r\n5\r\n1\r\n0\r\n0\r\n"
+           "Ana\r\n0\r\n0\r\n15759390\r\n0\r\n0\r\n";
+    const fs::path unnamed = folder / "vacio.txt";
+    std::ofstream(unnamed, std::ios::binary) << "1\r\n2\r\n";
+    const fs::path picture = folder / "foto.jpg";
+    const std::string pictureBytes("\xFF\xD8\xFF\xE0\0\x10JFIF\0", 11);
+    std::ofstream(picture, std::ios::binary) << pictureBytes;
+
+    random.queue({0.5});
+    ASSERT_TRUE(sessions.addFromFiles({picture.string(), named.string(),
+                                       (folder / "no-existe.txt").string(), folder.string(),
+                                       unnamed.string()},
+                                      false));
+    EXPECT_EQ(shared.sessions[1].displayName, "Ana");
+    EXPECT_EQ(shared.sessions[1].Archivo, named.string());
+    EXPECT_EQ(shared.sessions[2].displayName, "Usuario 3");
+    EXPECT_NE(slurp(unnamed).find("Usuario 3"), std::string::npos)
+        << "a file without a name gets a fresh one";
+    EXPECT_FALSE(shared.sessions[3].inUse());
+    EXPECT_EQ(shared.currentSlot, 2);
+    EXPECT_EQ(slurp(picture), pictureBytes);
+}
+
+TEST_F(SessionsTest, TheStartPutsTheFirstRunDefaultsBackUnlessASwitchAskedNot) {
+    shared.normalPoints = 90;
+    shared.survivalPoints = 20;
+    shared.currentSession().corrections = "1";
+    InicioLoad(shared);
+    EXPECT_EQ(shared.normalPoints, 0);
+    EXPECT_EQ(shared.survivalPoints, 1000);
+    EXPECT_EQ(shared.correctionsLeft, 3);
+    EXPECT_EQ(shared.playerNames[0][8], "Jugador 9");
+
+    add("Ana");
+    shared.normalPoints = 90;
+    shared.correctionsLeft = 1;
+    sessions.saveCurrent();
+    ASSERT_TRUE(sessions.switchTo(0, false));
+    ASSERT_TRUE(sessions.switchTo(1, false));
+    InicioLoad(shared);
+    EXPECT_FALSE(shared.skipStartDefaults);
+    EXPECT_EQ(shared.normalPoints, 90);
+    EXPECT_EQ(shared.correctionsLeft, 1);
+}
+
+} // namespace
+} // namespace quillora

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/frmInicio/frmInicio.h"
+#include "state/SharedState.h"
+#include "support/Fakes.h"
+
+#include <QLabel>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+namespace quillora {
+namespace {
+
+TEST(StartScreenWindow, WithTheFontTheMenuComesAfterTheLine) {
+    SharedState shared;
+    ScriptedDialogs dialogs;
+    FakeWeb web;
+    frmInicio screen(shared, dialogs, web, true);
+    int menus = 0;
+    screen.onMenu = [&menus] { ++menus; };
+    screen.show();
+    for (int i = 0; i < 100 && screen.timer()->isActive(); ++i) {
+        screen.tick();
+    }
+    EXPECT_EQ(menus, 1);
+    EXPECT_FALSE(screen.notice()->isVisible());
+}
+
+TEST(StartScreenWindow, WithoutTheFontTheNoticeStaysAndItsButtonsWork) {
+    SharedState shared;
+    ScriptedDialogs dialogs;
+    FakeWeb web;
+    frmInicio screen(shared, dialogs, web, false);
+    int menus = 0, restarts = 0;
+    screen.onMenu = [&menus] { ++menus; };
+    screen.onRestart = [&restarts] { ++restarts; };
+    screen.show();
+    for (int i = 0; i < 100 && screen.timer()->isActive(); ++i) {
+        screen.tick();
+    }
+    EXPECT_EQ(menus, 0);
+    EXPECT_TRUE(screen.notice()->isVisible());
+    EXPECT_FALSE(screen.timer()->isActive());
+
+    QTest::mouseClick(screen.downloadButton(), Qt::LeftButton);
+    EXPECT_EQ(web.opened.size(), 1U);
+    QTest::mouseClick(screen.restartButton(), Qt::LeftButton);
+    EXPECT_EQ(restarts, 1);
+}
+
+} // namespace
+} // namespace quillora
