@@ -8,14 +8,6 @@
 
 namespace quillora {
 
-namespace {
-
-std::size_t slotOf(const SharedState& shared) {
-    return static_cast<std::size_t>(shared.currentSlot);
-}
-
-} // namespace
-
 void setUpRoster(SharedState& shared, bool multiplayer, int rosterSize) {
     PlayerRoster& roster = shared.roster;
     shared.multiplayer = multiplayer;
@@ -67,16 +59,16 @@ bool turnMovesEnabled(const SharedState& shared) {
 }
 
 bool freeTurnOn(const SharedState& shared) {
-    return shared.roster.freeTurn[slotOf(shared)];
+    return shared.current().freeTurn;
 }
 
 void toggleFreeTurn(SharedState& shared) {
-    bool& on = shared.roster.freeTurn[slotOf(shared)];
+    bool& on = shared.current().freeTurn;
     on = !on;
 }
 
 void MoveAuthorLast(SharedState& shared) {
-    auto& names = shared.playerNames[slotOf(shared)];
+    auto& names = shared.current().playerNames;
     const int author = shared.roster.currentPlayer;
     const int last = std::min(shared.playerCount, kMaxPlayers);
     // An author outside the players of this game would be copied over a
@@ -95,7 +87,7 @@ std::string playerName(const SharedState& shared, int position) {
     if (position < 1 || position > kMaxPlayers) {
         return {};
     }
-    return shared.playerNames[slotOf(shared)][static_cast<std::size_t>(position - 1)];
+    return shared.current().playerNames[static_cast<std::size_t>(position - 1)];
 }
 
 PlayerLabel ePlayerName(SharedState& shared, const std::string& currentCaption) {

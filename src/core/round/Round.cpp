@@ -127,7 +127,7 @@ GameStart Round::eGame() {
 }
 
 void Round::BotonTema() {
-    const auto& selected = m_shared.selectedThemes[static_cast<std::size_t>(m_shared.currentSlot)];
+    const auto& selected = m_shared.current().selectedThemes;
     int marked = 0;
     for (bool on : selected) {
         marked += on ? 1 : 0;
@@ -148,8 +148,7 @@ int Round::drawPhraseNumber() {
 void Round::eOther() {
     m_catalogue.WordBankInit();
     if (m_randomTheme) {
-        const auto& selected =
-            m_shared.selectedThemes[static_cast<std::size_t>(m_shared.currentSlot)];
+        const auto& selected = m_shared.current().selectedThemes;
         m_gameTheme = m_random.drawHalfRange(m_catalogue.themeDrawRange());
         // The draw gives 0..49; a 0 drawn again stands for the fiftieth theme.
         while (!selected[static_cast<std::size_t>(m_gameTheme)]) {
@@ -184,11 +183,12 @@ void Round::DrawTourPhrase() {
 
 void Round::layCataloguePhrase(bool mayStartAuto) {
     const auto slot = static_cast<std::size_t>(m_shared.currentSlot);
-    m_shared.lastThemeName[slot] = m_gameThemeName;
-    if (mayStartAuto && m_shared.previousThemeName[slot] == m_shared.lastThemeName[slot]) {
+    m_shared.sessions[slot].lastThemeName = m_gameThemeName;
+    if (mayStartAuto &&
+        m_shared.sessions[slot].previousThemeName == m_shared.sessions[slot].lastThemeName) {
         switchAutoOn();
     } else {
-        m_shared.previousThemeName[slot] = m_shared.lastThemeName[slot];
+        m_shared.sessions[slot].previousThemeName = m_shared.sessions[slot].lastThemeName;
     }
     startPhrase(m_drawnPhrase, m_gameTheme, m_gameThemeName);
 }
@@ -208,7 +208,7 @@ void Round::eMenuAuto() {
         m_shared.settings.fraseAutomatica = false;
         m_shared.tourPosition = 0;
         const auto slot = static_cast<std::size_t>(m_shared.currentSlot);
-        m_shared.selectedThemes[slot] = m_shared.tourCopy[slot];
+        m_shared.sessions[slot].selectedThemes = m_shared.sessions[slot].tourCopy;
     }
     m_autoCaption = "A";
     m_autoTooltip = " Desactivar la frase automática. ";

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "look/BoardLook.h"
 #include "round/Figure.h"
 #include "round/PendingSound.h"
 #include "round/PhraseBoard.h"
 #include "round/RoundState.h"
-#include "look/BoardLook.h"
 #include "words/ThemeCatalogue.h"
 
 #include <string>

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "look/Colour.h"
 #include "state/PlayerRoster.h"
 #include "state/Settings.h"
 #include "state/UserSession.h"
-#include "look/Colour.h"
 
 #include <array>
 #include <filesystem>
@@ -17,6 +17,21 @@ inline constexpr int kSessionSlots = 4;
 inline constexpr int kThemeFlags = 51; // themes 0..50
 inline constexpr int kMaxPlayers = 9;
 inline constexpr const char* kMainConfigName = "QuilloraVS5.txt";
+
+// Everything one user slot keeps while the program runs: the ten fields a
+// switch copies in and out, and what belongs to the user beside them.
+struct SessionSlot {
+    UserSession record;
+    std::array<bool, kThemeFlags> selectedThemes{};
+    // The selection as it was before a thematic tour took it over.
+    std::array<bool, kThemeFlags> tourCopy{};
+    std::array<std::string, kMaxPlayers> playerNames{};
+    // The theme names of the last two games drawn from the catalogue.
+    std::string lastThemeName;
+    std::string previousThemeName;
+    // "Turno libre".
+    bool freeTurn = false;
+};
 
 // What every window of the game reads and writes: the options of the current
 // session, the palette, the live values of the current user and the four
@@ -44,15 +59,8 @@ struct SharedState {
     bool themeChosen = false;
 
     // --- sessions ----------------------------------------------------------------
-    std::array<UserSession, kSessionSlots> sessions{};
+    std::array<SessionSlot, kSessionSlots> sessions{};
     int currentSlot = 0;
-    // Per slot, kept in memory only: selected themes, the copy a tour keeps,
-    // the player names and the theme names of the last two catalogue games.
-    std::array<std::array<bool, kThemeFlags>, kSessionSlots> selectedThemes{};
-    std::array<std::array<bool, kThemeFlags>, kSessionSlots> tourCopy{};
-    std::array<std::array<std::string, kMaxPlayers>, kSessionSlots> playerNames{};
-    std::array<std::string, kSessionSlots> lastThemeName{};
-    std::array<std::string, kSessionSlots> previousThemeName{};
     // Some session was switched to, added or deleted since the start.
     bool sessionLoaded = false;
     // A switch asked the start of the board not to apply the first-run
@@ -68,10 +76,10 @@ struct SharedState {
     // friend who writes one; kept for the program's run.
     std::string lastFriendTheme;
 
-    UserSession& currentSession() { return sessions[static_cast<std::size_t>(currentSlot)]; }
-    const UserSession& currentSession() const {
-        return sessions[static_cast<std::size_t>(currentSlot)];
-    }
+    SessionSlot& current() { return sessions[static_cast<std::size_t>(currentSlot)]; }
+    const SessionSlot& current() const { return sessions[static_cast<std::size_t>(currentSlot)]; }
+    UserSession& currentSession() { return current().record; }
+    const UserSession& currentSession() const { return current().record; }
     std::filesystem::path mainConfigPath() const { return dataFolder / kMainConfigName; }
 };
 

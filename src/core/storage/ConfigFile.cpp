@@ -372,8 +372,7 @@ void ConfLoad(SharedState& shared) {
     s.colorJuego = colourFromLine(line(shared, kColorJuego), shared.palette.defaultBlue);
     shared.palette.gameColour = s.colorJuego;
     if (shared.themeChosen && s.tema >= 0 && s.tema < kThemeFlags) {
-        shared.selectedThemes[static_cast<std::size_t>(shared.currentSlot)]
-                             [static_cast<std::size_t>(s.tema)] = true;
+        shared.current().selectedThemes[static_cast<std::size_t>(s.tema)] = true;
     }
 }
 

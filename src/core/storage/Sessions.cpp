@@ -3,8 +3,8 @@
 #include "storage/Sessions.h"
 
 #include "ports/Dialogs.h"
-#include "storage/ConfigFile.h"
 #include "state/SharedState.h"
+#include "storage/ConfigFile.h"
 #include "words/Text.h"
 
 #include <fstream>
@@ -50,7 +50,7 @@ Sessions::Sessions(SharedState& shared, Dialogs& dialogs, Random& random)
     : m_shared(shared), m_dialogs(dialogs), m_random(random) {}
 
 void Sessions::initialise(SharedState& shared) {
-    shared.sessions[0].Archivo = shared.mainConfigPath().string();
+    shared.sessions[0].record.Archivo = shared.mainConfigPath().string();
 }
 
 void Sessions::saveCurrent() {
@@ -84,7 +84,7 @@ void Sessions::loadCurrent() {
 
 int Sessions::freeSlot() const {
     for (int slot = 1; slot < kSessionSlots; ++slot) {
-        if (!m_shared.sessions[static_cast<std::size_t>(slot)].inUse()) {
+        if (!m_shared.sessions[static_cast<std::size_t>(slot)].record.inUse()) {
             return slot;
         }
     }
@@ -167,7 +167,7 @@ bool Sessions::switchTo(int slot, bool manyErrors) {
         return false;
     }
     if (slot < 0 || slot >= kSessionSlots ||
-        !m_shared.sessions[static_cast<std::size_t>(slot)].inUse()) {
+        !m_shared.sessions[static_cast<std::size_t>(slot)].record.inUse()) {
         return false;
     }
     saveCurrent();
@@ -184,26 +184,15 @@ bool Sessions::deleteCurrent() {
     }
     int last = current;
     for (int slot = current + 1; slot < kSessionSlots; ++slot) {
-        auto& from = m_shared.sessions[static_cast<std::size_t>(slot)];
-        if (!from.inUse()) {
+        if (!m_shared.sessions[static_cast<std::size_t>(slot)].record.inUse()) {
             break;
         }
-        const auto to = static_cast<std::size_t>(slot - 1);
-        m_shared.sessions[to] = from;
-        m_shared.selectedThemes[to] = m_shared.selectedThemes[static_cast<std::size_t>(slot)];
-        m_shared.tourCopy[to] = m_shared.tourCopy[static_cast<std::size_t>(slot)];
-        m_shared.playerNames[to] = m_shared.playerNames[static_cast<std::size_t>(slot)];
-        m_shared.lastThemeName[to] = m_shared.lastThemeName[static_cast<std::size_t>(slot)];
-        m_shared.previousThemeName[to] = m_shared.previousThemeName[static_cast<std::size_t>(slot)];
+        m_shared.sessions[static_cast<std::size_t>(slot - 1)] =
+            m_shared.sessions[static_cast<std::size_t>(slot)];
         last = slot;
     }
-    const auto cleared = static_cast<std::size_t>(last);
-    m_shared.sessions[cleared] = UserSession{};
-    m_shared.selectedThemes[cleared] = {};
-    m_shared.tourCopy[cleared] = {};
-    m_shared.playerNames[cleared] = {};
-    m_shared.lastThemeName[cleared].clear();
-    m_shared.previousThemeName[cleared].clear();
+    // Everything the user kept goes with the slot, so a later slot moves down whole.
+    m_shared.sessions[static_cast<std::size_t>(last)] = SessionSlot{};
     m_shared.currentSlot = 0;
     loadCurrent();
     return true;
@@ -212,7 +201,7 @@ bool Sessions::deleteCurrent() {
 std::vector<Sessions::Entry> Sessions::entries() const {
     std::vector<Entry> list;
     for (int slot = 0; slot < kSessionSlots; ++slot) {
-        const UserSession& s = m_shared.sessions[static_cast<std::size_t>(slot)];
+        const UserSession& s = m_shared.sessions[static_cast<std::size_t>(slot)].record;
         if (s.inUse()) {
             list.push_back({slot, s.displayName});
         }

@@ -63,22 +63,22 @@ TEST(StartScreen, APlainRestartResetsTheUserButASwitchKeepsThem) {
     SharedState shared;
     shared.normalPoints = 300;
     shared.survivalPoints = 50;
-    shared.playerNames[0][0] = "Ana";
+    shared.sessions[0].playerNames[0] = "Ana";
     shared.currentSession().corrections = "1";
     InicioModel plain(shared, true);
     EXPECT_EQ(shared.normalPoints, 0);
     EXPECT_EQ(shared.survivalPoints, 1000);
     EXPECT_EQ(shared.correctionsLeft, 3);
-    EXPECT_EQ(shared.playerNames[0][0], "Jugador 1");
-    EXPECT_EQ(shared.sessions[0].Archivo, shared.mainConfigPath().string());
+    EXPECT_EQ(shared.sessions[0].playerNames[0], "Jugador 1");
+    EXPECT_EQ(shared.sessions[0].record.Archivo, shared.mainConfigPath().string());
 
     shared.normalPoints = 300;
-    shared.playerNames[0][0] = "Ana";
+    shared.sessions[0].playerNames[0] = "Ana";
     shared.currentSession().corrections = "1";
     shared.skipStartDefaults = true;
     InicioModel afterSwitch(shared, true);
     EXPECT_EQ(shared.normalPoints, 300);
-    EXPECT_EQ(shared.playerNames[0][0], "Ana");
+    EXPECT_EQ(shared.sessions[0].playerNames[0], "Ana");
     EXPECT_EQ(shared.correctionsLeft, 1);
     EXPECT_FALSE(shared.skipStartDefaults) << "the flag is used once";
 }

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "models/frmMenu/MenuModel.h"
 
-#include "storage/ConfigFile.h"
 #include "state/SharedState.h"
+#include "storage/ConfigFile.h"
 #include "support/Fakes.h"
 #include "support/TempFolder.h"
 
@@ -26,7 +26,7 @@ protected:
         // that forgets a field shows.
         shared.multiplayer = true;
         shared.playerCount = 6;
-        shared.roster = PlayerRoster{6, 5, 4, {}};
+        shared.roster = PlayerRoster{6, 5, 4};
         shared.currentSession().Archivo = (temp.path() / kMainConfigName).string();
     }
     void load(bool locked) {

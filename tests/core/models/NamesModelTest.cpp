@@ -11,7 +11,7 @@ namespace {
 
 SharedState players(int count) {
     SharedState shared;
-    shared.playerNames[0] = {"Ana", "Beto", "Ciro", "Dora"};
+    shared.sessions[0].playerNames = {"Ana", "Beto", "Ciro", "Dora"};
     setUpRoster(shared, count > 1, count);
     shared.settings.nombre = "Lucía";
     return shared;
@@ -51,7 +51,7 @@ TEST(NamesModelTest, PlaceholderMakesWayAndFillsTheEmptyPlayersOnClose) {
     model.setText(3, "");
     model.setText(5, "Eva");
     model.eOk(shared);
-    EXPECT_EQ(shared.playerNames[0],
+    EXPECT_EQ(shared.sessions[0].playerNames,
               (std::array<std::string, 9>{"Ana", "JUGADOR 2", "JUGADOR 3", "Dora", "Eva"}));
     EXPECT_EQ(shared.settings.nombre, "Lucía");
 
@@ -61,7 +61,7 @@ TEST(NamesModelTest, PlaceholderMakesWayAndFillsTheEmptyPlayersOnClose) {
     single.eOk(alone);
     EXPECT_EQ(alone.settings.nombre, "Marta");
     EXPECT_EQ(alone.currentSession().displayName, "Marta");
-    EXPECT_EQ(alone.playerNames[0][0], "Ana");
+    EXPECT_EQ(alone.sessions[0].playerNames[0], "Ana");
 }
 
 } // namespace

@@ -45,7 +45,7 @@ TEST(Word1ModelTest, AcceptIsRefusedForEmptyLeadingBlankOrAccents) {
 
 TEST(Word1ModelTest, AcceptMovesTheAuthorLastAndNamesTheTheme) {
     SharedState shared;
-    shared.playerNames[0] = {"Ana", "Beto", "Ciro", "Dora"};
+    shared.sessions[0].playerNames = {"Ana", "Beto", "Ciro", "Dora"};
     setUpRoster(shared, true, 3);
     adelantar(shared);
     ScriptedDialogs dialogs;
@@ -57,7 +57,8 @@ TEST(Word1ModelTest, AcceptMovesTheAuthorLastAndNamesTheTheme) {
     EXPECT_EQ(phrase->phrase, "EL  NIÑO 7");
     EXPECT_EQ(phrase->letterTotal, 7);
     EXPECT_EQ(phrase->themeText, "Animales");
-    EXPECT_EQ(shared.playerNames[0], (std::array<std::string, 9>{"Ana", "Ciro", "Beto", "Dora"}));
+    EXPECT_EQ(shared.sessions[0].playerNames,
+              (std::array<std::string, 9>{"Ana", "Ciro", "Beto", "Dora"}));
     EXPECT_EQ(ePlayerName(shared, "").caption, "Ciro");
     EXPECT_EQ(ePlayerName(shared, "").tooltip, " 2 Jugadores están jugando ");
 

@@ -14,7 +14,7 @@ namespace {
 SharedState withPlayers(int count) {
     SharedState shared;
     shared.currentSlot = 1;
-    shared.playerNames[1] = {"Ana", "Beto", "Ciro", "Dora"};
+    shared.sessions[1].playerNames = {"Ana", "Beto", "Ciro", "Dora"};
     setUpRoster(shared, count > 1, count);
     return shared;
 }
@@ -39,7 +39,7 @@ TEST(PlayersTest, FreeTurnFreezesTheTurnAndKeepsItsCaption) {
     }
     EXPECT_EQ(shared.roster.currentPlayer, 1);
     EXPECT_EQ(ePlayerName(shared, "Ana").caption, "Turno libre");
-    EXPECT_FALSE(shared.roster.freeTurn[0]) << "the flag belongs to the current slot";
+    EXPECT_FALSE(shared.sessions[0].freeTurn) << "the flag belongs to the current slot";
     toggleFreeTurn(shared);
     eNext(shared);
     EXPECT_EQ(ePlayerName(shared, "Turno libre").caption, "Beto");
@@ -71,7 +71,7 @@ TEST(PlayersTest, TwoPlayersTakeTurnsWriting) {
         guessers.push_back(ePlayerName(shared, "").caption);
     }
     EXPECT_EQ(guessers, (std::vector<std::string>{"Beto", "Ana", "Beto"}));
-    EXPECT_EQ(shared.playerNames[1][2], "Ciro") << "names past the players stay put";
+    EXPECT_EQ(shared.sessions[1].playerNames[2], "Ciro") << "names past the players stay put";
 }
 
 } // namespace

@@ -45,7 +45,7 @@ protected:
 
 TEST_F(RoundStartTest, OneOrNoSelectedThemeUsesTheThemeSetting) {
     shared.settings.tema = 20;
-    shared.selectedThemes[0][7] = true; // a single selection is not a random theme
+    shared.sessions[0].selectedThemes[7] = true; // a single selection is not a random theme
     random.queue({phrase(3)});
     playThroughWindow();
     EXPECT_FALSE(round.randomTheme());
@@ -57,8 +57,8 @@ TEST_F(RoundStartTest, OneOrNoSelectedThemeUsesTheThemeSetting) {
 }
 
 TEST_F(RoundStartTest, SeveralThemesDrawOnlySelectedOnesAndHideTheName) {
-    shared.selectedThemes[0][5] = true;
-    shared.selectedThemes[0][50] = true;
+    shared.sessions[0].selectedThemes[5] = true;
+    shared.sessions[0].selectedThemes[50] = true;
     // 12 is not selected, a 0 drawn again stands for theme 50.
     random.queue({theme(12), theme(0), phrase(4)});
     playThroughWindow();
@@ -66,7 +66,7 @@ TEST_F(RoundStartTest, SeveralThemesDrawOnlySelectedOnesAndHideTheName) {
     EXPECT_EQ(round.word2ThemeLabel(), "????");
     EXPECT_EQ(round.gameTheme(), 50);
     EXPECT_EQ(round.themeLabel(), "????") << "the theme shows only at the end";
-    EXPECT_EQ(shared.lastThemeName[0], "????");
+    EXPECT_EQ(shared.sessions[0].lastThemeName, "????");
     finishGame();
     EXPECT_TRUE(dialogs.shown.empty());
 }
@@ -119,11 +119,11 @@ TEST_F(RoundStartTest, ATourPlaysItsThemeAndMovesOnAfterEachGame) {
 TEST_F(RoundStartTest, SwitchingTheAutomaticPhraseOffEndsTheTourAndRestoresTheSelection) {
     shared.settings.fraseAutomatica = true;
     shared.tourPosition = 12;
-    shared.tourCopy[0][5] = shared.tourCopy[0][9] = true;
+    shared.sessions[0].tourCopy[5] = shared.sessions[0].tourCopy[9] = true;
     round.eMenuAuto();
     EXPECT_FALSE(shared.settings.fraseAutomatica);
     EXPECT_EQ(shared.tourPosition, 0);
-    EXPECT_TRUE(shared.selectedThemes[0][5] && shared.selectedThemes[0][9]);
+    EXPECT_TRUE(shared.sessions[0].selectedThemes[5] && shared.sessions[0].selectedThemes[9]);
     EXPECT_FALSE(round.autoMarkerVisible());
     EXPECT_EQ(events.saved, 1);
     round.eMenuAuto();

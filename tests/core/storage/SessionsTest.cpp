@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/Sessions.h"
-#include "storage/ConfigFile.h"
-#include "state/SharedState.h"
 #include "models/frmInicio/InicioModel.h"
+#include "state/SharedState.h"
+#include "storage/ConfigFile.h"
 
 #include "support/Fakes.h"
 #include "support/TempFolder.h"
@@ -103,7 +103,7 @@ TEST_F(SessionsTest, ChangesOfUserAreRefusedWithManyErrorsOrTheSameUser) {
     EXPECT_FALSE(sessions.switchTo(0, false));
     EXPECT_EQ(dialogs.shown.back().text, "Es el usuario actual, seleccione otro.");
     EXPECT_EQ(shared.currentSlot, 0);
-    EXPECT_FALSE(shared.sessions[1].inUse());
+    EXPECT_FALSE(shared.sessions[1].record.inUse());
 }
 
 TEST_F(SessionsTest, ALockSurvivesSwitchesAndTheKeyStaysWithItsUser) {
@@ -124,16 +124,16 @@ TEST_F(SessionsTest, DeletingMovesLaterSlotsDownAndReturnsToTheMainSession) {
     ASSERT_TRUE(sessions.switchTo(1, false));
     ASSERT_TRUE(sessions.deleteCurrent());
     EXPECT_EQ(shared.currentSlot, 0);
-    EXPECT_EQ(shared.sessions[1].displayName, "Beto");
-    EXPECT_EQ(shared.sessions[2].displayName, "Ciro");
-    EXPECT_FALSE(shared.sessions[3].inUse());
+    EXPECT_EQ(shared.sessions[1].record.displayName, "Beto");
+    EXPECT_EQ(shared.sessions[2].record.displayName, "Ciro");
+    EXPECT_FALSE(shared.sessions[3].record.inUse());
     EXPECT_TRUE(fs::exists(folder / "Ana.txt")) << "the user's file stays on disk";
 
     // The last slot can go as well.
     ASSERT_TRUE(sessions.switchTo(2, false));
     ASSERT_TRUE(sessions.deleteCurrent());
-    EXPECT_FALSE(shared.sessions[2].inUse());
-    EXPECT_EQ(shared.sessions[1].displayName, "Beto");
+    EXPECT_FALSE(shared.sessions[2].record.inUse());
+    EXPECT_EQ(shared.sessions[1].record.displayName, "Beto");
     EXPECT_FALSE(sessions.deleteCurrent()) << "the main session is never deleted";
 }
 
@@ -164,12 +164,12 @@ TEST_F(SessionsTest, DroppedFilesBecomeSessionsAndOtherFilesAreLeftAlone) {
                                        (folder / "no-existe.txt").string(), folder.string(),
                                        unnamed.string()},
                                       false));
-    EXPECT_EQ(shared.sessions[1].displayName, "Ana");
-    EXPECT_EQ(shared.sessions[1].Archivo, named.string());
-    EXPECT_EQ(shared.sessions[2].displayName, "Usuario 3");
+    EXPECT_EQ(shared.sessions[1].record.displayName, "Ana");
+    EXPECT_EQ(shared.sessions[1].record.Archivo, named.string());
+    EXPECT_EQ(shared.sessions[2].record.displayName, "Usuario 3");
     EXPECT_NE(slurp(unnamed).find("Usuario 3"), std::string::npos)
         << "a file without a name gets a fresh one";
-    EXPECT_FALSE(shared.sessions[3].inUse());
+    EXPECT_FALSE(shared.sessions[3].record.inUse());
     EXPECT_EQ(shared.currentSlot, 2);
     EXPECT_EQ(slurp(picture), pictureBytes);
 }
@@ -182,7 +182,7 @@ TEST_F(SessionsTest, TheStartPutsTheFirstRunDefaultsBackUnlessASwitchAskedNot) {
     EXPECT_EQ(shared.normalPoints, 0);
     EXPECT_EQ(shared.survivalPoints, 1000);
     EXPECT_EQ(shared.correctionsLeft, 3);
-    EXPECT_EQ(shared.playerNames[0][8], "Jugador 9");
+    EXPECT_EQ(shared.sessions[0].playerNames[8], "Jugador 9");
 
     add("Ana");
     shared.normalPoints = 90;

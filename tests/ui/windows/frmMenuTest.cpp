@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/frmMenu/frmMenu.h"
 
+#include "look/Twips.h"
 #include "state/SharedState.h"
 #include "support/Fakes.h"
-#include "look/Twips.h"
 
 #include <QLabel>
 #include <QTest>

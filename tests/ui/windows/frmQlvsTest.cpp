@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/frmQlvs/frmQlvs.h"
+#include "models/frmInicio/InicioModel.h"
 #include "players/Players.h"
 #include "storage/ConfigFile.h"
 #include "support/Fakes.h"
 #include "support/TempFolder.h"
-#include "models/frmInicio/InicioModel.h"
 #include "windows/frmNames/frmNames.h"
 #include "windows/frmQlvs/KeyboardView.h"
 #include "windows/frmWord1/frmWord1.h"
@@ -280,9 +280,9 @@ TEST_F(BoardWindow, OnlyTheCloseBoxEndsTheGame) {
 
 TEST_F(BoardWindow, FriendsStartWithTheirNamesThenOneOfThemWritesThePhrase) {
     setUpRoster(shared, true, 3);
-    shared.playerNames[0][0] = "Ana";
-    shared.playerNames[0][1] = "Beto";
-    shared.playerNames[0][2] = "Ciro";
+    shared.sessions[0].playerNames[0] = "Ana";
+    shared.sessions[0].playerNames[1] = "Beto";
+    shared.sessions[0].playerNames[2] = "Ciro";
     SetUpBoard();
     EXPECT_EQ(window->windowTitle(), "Quillora Vesta");
     EXPECT_FALSE(window->scoreFrame()->isVisible());

@@ -4,9 +4,9 @@
 
 #include "ports/Dialogs.h"
 #include "ports/Web.h"
+#include "state/SharedState.h"
 #include "storage/ConfigFile.h"
 #include "storage/Sessions.h"
-#include "state/SharedState.h"
 
 namespace quillora {
 
@@ -21,7 +21,7 @@ void InicioLoad(SharedState& shared) {
         session.corrections = "3";
         shared.survivalPoints = 1000;
         shared.normalPoints = 0;
-        auto& names = shared.playerNames[static_cast<std::size_t>(shared.currentSlot)];
+        auto& names = shared.current().playerNames;
         for (std::size_t i = 0; i < names.size(); ++i) {
             names[i] = "Jugador " + std::to_string(i + 1);
         }

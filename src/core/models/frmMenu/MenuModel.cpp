@@ -5,8 +5,8 @@
 #include "players/Players.h"
 
 #include "ports/Dialogs.h"
-#include "storage/ConfigFile.h"
 #include "state/SharedState.h"
+#include "storage/ConfigFile.h"
 
 namespace quillora {
 

@@ -8,7 +8,7 @@ namespace quillora {
 
 NamesModel::NamesModel(const SharedState& shared)
     : m_multiplayer(shared.multiplayer), m_playerCount(std::clamp(shared.playerCount, 1, kRows)),
-      m_texts(shared.playerNames[static_cast<std::size_t>(shared.currentSlot)]) {
+      m_texts(shared.current().playerNames) {
     if (!m_multiplayer) {
         m_texts[0] = shared.settings.nombre;
     }
@@ -67,7 +67,7 @@ void NamesModel::eOk(SharedState& shared) {
     for (int box = 1; box <= m_playerCount; ++box) {
         focusOut(box);
     }
-    auto& names = shared.playerNames[static_cast<std::size_t>(shared.currentSlot)];
+    auto& names = shared.current().playerNames;
     if (m_multiplayer) {
         names[0] = m_texts[0];
     } else {

@@ -238,7 +238,7 @@ void QlvsModel::eReBoot() {
 void QlvsModel::eDReBoot() {
     m_restart = true;
     if (m_shared.sessionLoaded) {
-        m_shared.selectedThemes[static_cast<std::size_t>(m_shared.currentSlot)] = {};
+        m_shared.current().selectedThemes = {};
     }
 }
 

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "look/BoardLook.h"
+#include "models/frmQlvs/SessionPanelModel.h"
 #include "players/Players.h"
 #include "round/Round.h"
 #include "scoring/Points.h"
-#include "storage/Sessions.h"
 #include "state/SharedState.h"
-#include "look/BoardLook.h"
-#include "models/frmQlvs/SessionPanelModel.h"
+#include "storage/Sessions.h"
 
 #include <string>
 #include <vector>

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/frmInicio/frmInicio.h"
 
+#include "look/Twips.h"
 #include "platform/Fonts.h"
 #include "windows/QtColour.h"
-#include "look/Twips.h"
 
 #include <QKeyEvent>
 #include <QLabel>

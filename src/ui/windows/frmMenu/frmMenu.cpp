@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/frmMenu/frmMenu.h"
 
+#include "look/Twips.h"
 #include "platform/Fonts.h"
 #include "ports/Dialogs.h"
 #include "windows/QtColour.h"
-#include "look/Twips.h"
 
 #include <QKeyEvent>
 #include <QLabel>

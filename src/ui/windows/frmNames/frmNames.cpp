@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/frmNames/frmNames.h"
 
+#include "look/Twips.h"
 #include "platform/Fonts.h"
 #include "windows/QtColour.h"
-#include "look/Twips.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>

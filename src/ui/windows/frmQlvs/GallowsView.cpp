@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/frmQlvs/GallowsView.h"
 
+#include "look/Twips.h"
 #include "platform/Fonts.h"
 #include "round/Figure.h"
 #include "windows/QtColour.h"
-#include "look/Twips.h"
 
 #include <QPainter>
 #include <QPainterPath>

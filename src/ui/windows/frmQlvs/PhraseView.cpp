@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/frmQlvs/PhraseView.h"
 
-#include "platform/Fonts.h"
-#include "windows/QtColour.h"
 #include "look/Twips.h"
 #include "models/frmQlvs/QlvsModel.h"
+#include "platform/Fonts.h"
+#include "windows/QtColour.h"
 
 #include <QPainter>
 

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/frmQlvs/frmQlvs.h"
 
+#include "look/Twips.h"
 #include "platform/Fonts.h"
 #include "ports/Dialogs.h"
 #include "windows/QtColour.h"
-#include "look/Twips.h"
 #include "windows/frmNames/frmNames.h"
 #include "windows/frmQlvs/GallowsView.h"
 #include "windows/frmQlvs/KeyboardView.h"

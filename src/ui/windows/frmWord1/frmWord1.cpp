@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/frmWord1/frmWord1.h"
 
+#include "look/Twips.h"
 #include "platform/Fonts.h"
 #include "state/SharedState.h"
 #include "windows/QtColour.h"
-#include "look/Twips.h"
 
 #include <QKeyEvent>
 #include <QLabel>
