@@ -61,7 +61,8 @@ private:
         menu->onPlay = [this] { later([this] { openBoard(); }); };
         menu->onQuit = [] { QCoreApplication::quit(); };
         if (boardCentre) {
-            menu->move(*boardCentre - QPoint(menu->width() / 2, menu->height() / 2));
+            menu->move(*boardCentre - QPoint(menu->frameGeometry().width() / 2,
+                                             menu->frameGeometry().height() / 2));
         } else {
             centre(*menu);
         }
@@ -70,16 +71,16 @@ private:
     }
 
     void openBoard() {
-        const QPoint menuCentre = m_window ? m_window->geometry().center() : QPoint();
+        const QPoint menuCentre = m_window ? m_window->frameGeometry().center() : QPoint();
         auto board = std::make_unique<quillora::frmQlvs>(m_shared, m_dialogs, m_random);
         board->onRestart = [this] { later([this] { start(); }); };
         board->onClose = [] { QCoreApplication::quit(); };
-        board->onMenu = [this] {
-            const QPoint at = m_window->geometry().center();
+        board->onMenu = [this, window = board.get()] {
+            const QPoint at = window->menuCentre();
             later([this, at] { openMenu(at); });
         };
         if (m_window) {
-            board->move(menuCentre - QPoint(board->width() / 2, board->height() / 2));
+            board->placeOver(menuCentre);
         } else {
             centre(*board);
         }

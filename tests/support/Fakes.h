@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -32,9 +33,15 @@ public:
     }
 
     void message(Icon icon, const std::string& text, const std::string& title) override {
+        if (onAsk) {
+            onAsk();
+        }
         shown.push_back({false, icon, text, title});
     }
     bool ask(Question kind, const std::string& text, const std::string& title) override {
+        if (onAsk) {
+            onAsk();
+        }
         shown.push_back({true, Icon::Information, text, title, kind});
         if (m_answers.empty()) {
             ADD_FAILURE() << "unexpected question: " << text;
@@ -46,6 +53,8 @@ public:
     }
 
     bool scriptUsedUp() const { return m_answers.empty(); }
+    // Runs as each box comes up: what is on screen behind it.
+    std::function<void()> onAsk;
 
     std::vector<Shown> shown;
 
@@ -84,8 +93,10 @@ struct RecordingEvents : RoundEvents {
     void roundLost() override { ++lost; }
     void correctionAsked(bool asking) override { panelShown.push_back(asking); }
     void settingsChanged() override { ++saved; }
+    void titleChanged() override { ++titles; }
 
     int turns = 0;
+    int titles = 0;
     int won = 0;
     int lost = 0;
     int saved = 0;

@@ -107,4 +107,47 @@ ComputerKey mapComputerKey(char32_t typed) {
     return {};
 }
 
+std::string_view keyTooltip(int key) {
+    switch (key) {
+    case kWriteKey:
+        return " Escribir respuesta. ";
+    case kDigitPanelKey:
+        return " Mostrar números ";
+    case kCloseDigitsKey:
+        return " Ocultar números. ";
+    default:
+        return {};
+    }
+}
+
+char32_t composeDeadKey(char32_t accent, char32_t base) {
+    struct Accent {
+        char32_t mark;
+        std::u32string_view bases;
+        std::u32string_view composed;
+    };
+    static constexpr Accent kAccents[] = {
+        {U'\u00B4', U"aeiouyAEIOUY",
+         U"\u00E1\u00E9\u00ED\u00F3\u00FA\u00FD\u00C1\u00C9\u00CD\u00D3\u00DA\u00DD"},
+        {U'`', U"aeiouAEIOU", U"\u00E0\u00E8\u00EC\u00F2\u00F9\u00C0\u00C8\u00CC\u00D2\u00D9"},
+        {U'^', U"aeiouAEIOU", U"\u00E2\u00EA\u00EE\u00F4\u00FB\u00C2\u00CA\u00CE\u00D4\u00DB"},
+        {U'\u00A8', U"aeiouyAEIOU",
+         U"\u00E4\u00EB\u00EF\u00F6\u00FC\u00FF\u00C4\u00CB\u00CF\u00D6\u00DC"},
+        {U'~', U"anoANO", U"\u00E3\u00F1\u00F5\u00C3\u00D1\u00D5"},
+        {U'\u00B0', U"aA", U"\u00E5\u00C5"},
+        {U'\u00B8', U"cC", U"\u00E7\u00C7"},
+    };
+    for (const Accent& a : kAccents) {
+        if (a.mark != accent) {
+            continue;
+        }
+        if (base == U' ') {
+            return accent;
+        }
+        const auto at = a.bases.find(base);
+        return at == std::u32string_view::npos ? 0 : a.composed[at];
+    }
+    return 0;
+}
+
 } // namespace quillora

@@ -55,6 +55,17 @@ struct ComputerKey {
 };
 ComputerKey mapComputerKey(char32_t typed);
 
+// What a dead key makes of the next character, as the keyboard would
+// compose it: an acute and "a" make "á", a tilde and "n" make "ñ", an accent
+// followed by a blank is the accent itself. 0 where the pair composes to
+// nothing. `accent` is the spacing form of the dead key ("´", "`", "^",
+// "¨", "~", "°", "¸").
+char32_t composeDeadKey(char32_t accent, char32_t base);
+
+// The tooltip of an on-screen key: the keys that are no letter say what they
+// do; letters and digits have none.
+std::string_view keyTooltip(int key);
+
 // Upper case within the game's alphabet only ("ñ" becomes "Ñ"); anything
 // else comes back as it is.
 char32_t gameUpper(char32_t ch);

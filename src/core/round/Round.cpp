@@ -50,7 +50,9 @@ Round::Round(SharedState& shared, Dialogs& dialogs, Random& random, RoundEvents*
     : m_shared(shared), m_dialogs(dialogs), m_random(random),
       m_events(events ? *events : m_noEvents) {
     m_catalogue.WordBankInit();
-    BotonNuevo();
+    // The listener may not be built yet: the board's first reset tells it
+    // nothing.
+    resetBoard();
 }
 
 bool Round::pointsCount() const {
@@ -139,7 +141,7 @@ void Round::BotonTema() {
 
 int Round::drawPhraseNumber() {
     int number = m_random.drawHalfRange(m_catalogue.phraseDrawRange());
-    while (number == m_previousPhraseNumber) {
+    while (number == m_shared.previousPhraseNumber) {
         number = m_random.drawHalfRange(m_catalogue.phraseDrawRange());
     }
     return number;
@@ -235,7 +237,8 @@ void Round::LayPhrase() {
         return;
     }
     m_counterVisible = true;
-    m_previousPhraseNumber = m_phraseNumber;
+    m_shared.previousPhraseNumber = m_phraseNumber;
+    m_shared.lastGameTheme = m_themeLabel;
     m_state.waitingForPhrase = false;
     requestSound(kSoundNewPhrase);
     m_events.phraseLaid();
@@ -257,6 +260,12 @@ void Round::eMenuNew() {
 }
 
 void Round::BotonNuevo() {
+    resetBoard();
+    // The title of the game just ended said what it was worth.
+    m_events.titleChanged();
+}
+
+void Round::resetBoard() {
     m_designEnabled = true;
     // A friend's phrase leaves out its author; the next game counts everyone.
     m_shared.playerCount = m_shared.roster.rosterSize;
@@ -389,11 +398,10 @@ void Round::endRound(const std::string& caption) {
     m_status = caption;
     m_counterVisible = false;
     m_state.over = true;
+    // Every game ends under its theme's own name; a friend's phrase has
+    // none, and shows the catalogue's "no theme".
     m_catalogue.ThemeLoad();
-    // A friend's phrase has no catalogue theme: its own theme text stays.
-    if (m_gameTheme != 0) {
-        m_themeLabel = m_catalogue.themeName(m_gameTheme);
-    }
+    m_themeLabel = m_catalogue.themeName(m_gameTheme);
     advanceTour();
     m_queEsEsoVisible = true;
     m_state.manyErrors = false;

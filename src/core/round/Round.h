@@ -140,6 +140,7 @@ public:
     const std::string& gameThemeName() const { return m_gameThemeName; }
 
 private:
+    void resetBoard();
     void BotonReLetra();
     void BotonStrike();
     void BotonFigura();
@@ -176,7 +177,6 @@ private:
     int m_gameTheme = 0;
     std::string m_gameThemeName;
     int m_phraseNumber = 0;
-    int m_previousPhraseNumber = 0;
 
     bool m_randomTheme = false;
     std::string m_word2ThemeLabel;

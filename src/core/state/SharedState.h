@@ -72,9 +72,12 @@ struct SharedState {
     bool multiplayer = false;
     int playerCount = 1;
     PlayerRoster roster;
-    // The theme text of the last friend's phrase, offered again to the next
-    // friend who writes one; kept for the program's run.
-    std::string lastFriendTheme;
+    // --- the game laid last, whoever laid it -------------------------------------
+    // Its theme text, offered to the next friend who writes a phrase.
+    std::string lastGameTheme;
+    // Its phrase number: the next draw never repeats it, even after a trip
+    // to the menu has built a new board.
+    int previousPhraseNumber = 0;
 
     SessionSlot& current() { return sessions[static_cast<std::size_t>(currentSlot)]; }
     const SessionSlot& current() const { return sessions[static_cast<std::size_t>(currentSlot)]; }

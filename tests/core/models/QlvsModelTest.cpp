@@ -43,6 +43,63 @@ TEST_F(QlvsModelTest, QuitLabelOffersTheCorrectionAndDeleteUsesIt) {
     EXPECT_EQ(model.quitCaption(), "") << "one correction a game";
 }
 
+TEST_F(QlvsModelTest, WhatADeadKeyComposesIsJudgedLikeWhatIsTyped) {
+    model.round().startPhrase("PANA ANIS", 1, "ANIMAL");
+    model.keyTyped(Key::DeadKey, U'\u00B4');
+    model.keyTyped(Key::Character, U'a');
+    EXPECT_TRUE(model.round().board().triedLetters().empty()) << "an acute and a make an accent";
+    EXPECT_EQ(model.round().state().strikeCount, 0);
+
+    model.keyTyped(Key::DeadKey, U'~');
+    model.keyTyped(Key::Character, U'n');
+    EXPECT_EQ(model.round().board().triedLetters(), U"\u00D1") << "a tilde and n make \u00D1";
+
+    model.keyTyped(Key::DeadKey, U'^');
+    model.keyTyped(Key::Character, U'b');
+    model.keyTyped(Key::Character, U'a');
+    EXPECT_EQ(model.round().board().triedLetters(), U"\u00D1A")
+        << "a pair that composes to nothing is dropped, and the next key is a key again";
+}
+
+TEST_F(QlvsModelTest, ALockedBoardOrAnOpenSessionPanelLetsNoShortcutThrough) {
+    start();
+    model.eBlueScreen();
+    ASSERT_TRUE(model.panel().shown());
+    for (Key key : {Key::Character, Key::Delete, Key::Enter, Key::F2, Key::F3, Key::ToggleAuto,
+                    Key::ToggleSounds, Key::BackToMenu, Key::Names, Key::MenuKey}) {
+        EXPECT_FALSE(model.keyReachesBoard(key)) << static_cast<int>(key);
+    }
+    EXPECT_TRUE(model.keyReachesBoard(Key::F4)) << "F4 closes the panel it opened";
+    const bool sounds = shared.settings.sonidos;
+    model.keyTyped(Key::ToggleSounds);
+    model.keyTyped(Key::Character, U'c');
+    EXPECT_EQ(shared.settings.sonidos, sounds);
+    EXPECT_TRUE(model.round().board().triedLetters().empty());
+
+    model.keyEntered("clave");
+    ASSERT_TRUE(shared.locked);
+    EXPECT_FALSE(model.keyReachesBoard(Key::F4)) << "behind the lock only the key box works";
+    EXPECT_FALSE(model.smallPlayEnabled());
+}
+
+TEST_F(QlvsModelTest, TheCorrectionIsAskedOverAnEmptySidePanel) {
+    start();
+    model.keyTyped(Key::Character, U'b');
+    bool panelDuringQuestion = false;
+    dialogs.onAsk = [&] { panelDuringQuestion = model.side().shown(); };
+    dialogs.answer({false});
+    model.keyTyped(Key::Delete);
+    EXPECT_TRUE(panelDuringQuestion);
+    EXPECT_EQ(model.side().content(), SidePanelModel::Content::None) << "put away after";
+}
+
+TEST_F(QlvsModelTest, TheWindowNeverRisesAboveSixtyTwips) {
+    EXPECT_EQ(QlvsModel::tickRebote(-300), 60);
+    EXPECT_EQ(QlvsModel::tickRebote(59), 60);
+    EXPECT_EQ(QlvsModel::tickRebote(60), 60);
+    EXPECT_EQ(QlvsModel::tickRebote(900), 900);
+}
+
 TEST_F(QlvsModelTest, KeyFacesFollowHoverPressAndRelease) {
     start();
     const Palette& p = shared.palette;
@@ -95,7 +152,7 @@ TEST_F(QlvsModelTest, KeyboardGrowsSixtyTwipsATickAndLampsFollowTheRound) {
 namespace quillora {
 namespace {
 
-TEST(QlvsModelKeyboard, AKeptKeyboardOpensAtOnceAndTheBoardClimbsSixHundredTwips) {
+TEST(QlvsModelKeyboard, AKeptKeyboardIsThereAtOnceAndOnlyASlidingOneClimbs) {
     SharedState shared;
     ScriptedDialogs dialogs;
     QueuedRandom random;
@@ -108,9 +165,21 @@ TEST(QlvsModelKeyboard, AKeptKeyboardOpensAtOnceAndTheBoardClimbsSixHundredTwips
     EXPECT_TRUE(model.keyboardShown());
     EXPECT_EQ(model.heightTwips(), QlvsModel::kBaseHeightTwips + QlvsModel::kKeyboardExtraTwips);
     EXPECT_EQ(model.openingDropTwips(), 120);
+    EXPECT_FALSE(model.topTimerRunning()) << "no climb on every opening of the board";
+
+    // A keyboard that slides out while the option is on climbs 600 twips.
+    shared.settings.tecladoPermanente = false;
+    ASSERT_TRUE(ConfSave(shared));
+    QlvsModel sliding{shared, dialogs, random};
+    sliding.load();
+    shared.settings.tecladoPermanente = true;
+    sliding.openKeyboard();
+    while (sliding.openTimerRunning()) {
+        sliding.tickOpen();
+    }
     int climbed = 0;
-    while (model.topTimerRunning()) {
-        climbed += model.tickTop();
+    while (sliding.topTimerRunning()) {
+        climbed += sliding.tickTop();
     }
     EXPECT_EQ(climbed, 600);
 }

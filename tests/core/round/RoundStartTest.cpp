@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "models/frmWord1/Word1Model.h"
 #include "round/Round.h"
 #include "state/SharedState.h"
 #include "words/Text.h"
@@ -80,6 +81,44 @@ TEST_F(RoundStartTest, TheSamePhraseNumberNeverComesTwiceInARow) {
     playThroughWindow();
     EXPECT_EQ(round.phraseNumber(), 2);
     EXPECT_EQ(laid(), ThemeCatalogue::storedPhrase(9, 3));
+}
+
+TEST_F(RoundStartTest, TheRepeatRuleHoldsForANewBoardOfTheSameRun) {
+    random.queue({phrase(6)});
+    playThroughWindow();
+    finishGame();
+    // "Volver al menú" and JUGAR build the board, and its round, anew.
+    Round next{shared, dialogs, random, &events};
+    random.queue({phrase(6), phrase(4)});
+    ASSERT_EQ(next.eGame(), GameStart::ThemeWindow);
+    next.BotonTema();
+    next.eOther();
+    EXPECT_EQ(next.phraseNumber(), 4);
+}
+
+TEST_F(RoundStartTest, EveryGameEndsUnderItsThemeAndLeavesItsThemeForTheNextFriend) {
+    shared.settings.tema = 12;
+    random.queue({phrase(3)});
+    playThroughWindow();
+    EXPECT_EQ(Word1Model(shared).themeText(), std::string(ThemeCatalogue::storedThemeName(12)))
+        << "a friend is offered the theme of the game played last, whatever its kind";
+    round.guess(U'A');
+    finishGame();
+
+    round.startPhrase("LA CASA", 0, "Frase de Ana");
+    EXPECT_EQ(round.themeLabel(), "Frase de Ana");
+    for (char32_t c : std::u32string_view(U"LACS")) {
+        round.guess(c);
+    }
+    ASSERT_TRUE(round.state().over);
+    EXPECT_EQ(round.themeLabel(), "????") << "the catalogue's name of theme 0 at the end";
+    EXPECT_EQ(Word1Model(shared).themeText(), "Frase de Ana");
+}
+
+TEST_F(RoundStartTest, ANewBoardRebuildsTheTitle) {
+    const int before = events.titles;
+    round.BotonNuevo();
+    EXPECT_EQ(events.titles, before + 1);
 }
 
 TEST_F(RoundStartTest, TwoGamesOfOneThemeSwitchTheAutomaticPhraseOn) {

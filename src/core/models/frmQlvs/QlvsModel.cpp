@@ -3,7 +3,10 @@
 #include "models/frmQlvs/QlvsModel.h"
 
 #include "ports/Dialogs.h"
+#include "round/Keyboard.h"
 #include "storage/ConfigFile.h"
+
+#include <exception>
 
 namespace quillora {
 
@@ -18,24 +21,52 @@ QlvsModel::QlvsModel(SharedState& shared, Dialogs& dialogs, Random& random, Roun
       m_sessions(shared, dialogs, random), m_panel(shared), m_random(random) {}
 
 void QlvsModel::load() {
-    clearForBoardLoad(m_shared);
-    DataLoad(m_shared, m_random);
-    ConfLoad(m_shared);
-    m_scoring.refreshTitle();
-    m_scoring.showAccount();
+    // Each step stands alone: one that fails leaves a board that still plays.
+    auto step = [this](auto&& run) {
+        try {
+            run();
+        } catch (const std::exception&) {
+            m_loadFailed = true;
+        }
+    };
+    step([this] {
+        if (m_shared.locked) {
+            m_panel.openLocked();
+        }
+    });
+    step([this] {
+        clearForBoardLoad(m_shared);
+        DataLoad(m_shared, m_random);
+        ConfLoad(m_shared);
+    });
+    step([this] {
+        m_scoring.refreshTitle();
+        m_scoring.showAccount();
+    });
     // A tour that is still running keeps the automatic phrase on.
     if (m_shared.tourPosition >= 1) {
         m_shared.settings.fraseAutomatica = true;
     }
-    if (m_shared.locked) {
-        m_panel.openLocked();
-    }
-    ePlayerName();
+    step([this] { ePlayerName(); });
+    // A keyboard kept open is there at once; the climb that follows an
+    // opening belongs to the keyboard sliding out, which it does not.
     if (m_shared.settings.tecladoPermanente) {
         m_heightTwips = kBaseHeightTwips + kKeyboardExtraTwips;
         m_keyboardShown = true;
-        m_topSteps = kTopSteps;
     }
+}
+
+std::string QlvsModel::windowTitle() const {
+    return m_loadFailed ? m_scoring.title() + " | Error al cargar datos" : m_scoring.title();
+}
+
+void QlvsModel::correctionAsked(bool asking) {
+    if (asking) {
+        m_side.showEmpty();
+    } else {
+        m_side.eWinClose();
+    }
+    m_outer.correctionAsked(asking);
 }
 
 // --- round hand-overs ---------------------------------------------------------------
@@ -109,7 +140,22 @@ void QlvsModel::settingsChanged() {
 
 // --- keys ------------------------------------------------------------------------------
 
+bool QlvsModel::keyReachesBoard(WindowKey key) const {
+    if (m_shared.locked) {
+        return false;
+    }
+    return !m_panel.shown() || key == WindowKey::F4;
+}
+
 GameStart QlvsModel::keyTyped(WindowKey key, char32_t character) {
+    if (!keyReachesBoard(key)) {
+        return GameStart::Nothing;
+    }
+    if (key == WindowKey::Character && m_deadKey != 0) {
+        // What the keyboard composes is judged like what it types.
+        character = composeDeadKey(m_deadKey, character);
+    }
+    m_deadKey = key == WindowKey::DeadKey ? character : 0;
     switch (key) {
     case WindowKey::Delete:
         m_round.eBackStrike();
@@ -117,7 +163,9 @@ GameStart QlvsModel::keyTyped(WindowKey key, char32_t character) {
     case WindowKey::Enter:
         return playPressed();
     case WindowKey::Character:
-        m_round.typeKey(character);
+        if (character != 0) {
+            m_round.typeKey(character);
+        }
         break;
     case WindowKey::F2:
         m_round.eMenuNew();
@@ -138,6 +186,16 @@ GameStart QlvsModel::keyTyped(WindowKey key, char32_t character) {
         eMenuBack();
         break;
     case WindowKey::Escape:
+        eWinClose();
+        break;
+    // The windows and panels these open come with their own features.
+    case WindowKey::DeadKey:
+    case WindowKey::F1:
+    case WindowKey::F5:
+    case WindowKey::MenuKey:
+    case WindowKey::Names:
+    case WindowKey::History:
+    case WindowKey::Design:
     case WindowKey::Other:
         break;
     }
@@ -223,6 +281,7 @@ void QlvsModel::hidePlayButton(bool hidden) {
 }
 
 GameStart QlvsModel::backgroundClicked() {
+    eWinClose();
     if (m_shared.settings.sinBotonJugar) {
         return playPressed();
     }

@@ -4,6 +4,7 @@
 
 #include "look/BoardLook.h"
 #include "models/frmQlvs/SessionPanelModel.h"
+#include "models/frmQlvs/SidePanelModel.h"
 #include "players/Players.h"
 #include "round/Round.h"
 #include "scoring/Points.h"
@@ -32,12 +33,19 @@ public:
     static constexpr int kPermanentDropTwips = 120;
     static constexpr int kTopStepTwips = 60;
     static constexpr int kTopSteps = 10;
+    static constexpr int kReboteTickMs = 100;
+    static constexpr int kMinTopTwips = 60;
+    static constexpr int kNamesDelayMs = 500;
 
     QlvsModel(SharedState& shared, Dialogs& dialogs, Random& random, RoundEvents* events = nullptr);
 
     // The board's opening: the options of the current session are read and
-    // applied, and a locked session shows its key panel at once.
+    // applied, and a locked session shows its key panel at once. A step that
+    // fails is passed over and the title says the data did not load.
     void load();
+    bool loadFailed() const { return m_loadFailed; }
+    // The window's title: the score's, with the load notice behind it.
+    std::string windowTitle() const;
 
     Round& round() { return m_round; }
     const Round& round() const { return m_round; }
@@ -52,17 +60,29 @@ public:
     // A key the window handles before its controls.
     enum class WindowKey {
         Character,
+        // A dead key, given as its spacing accent; it composes with the next
+        // character.
+        DeadKey,
         Delete,
         Enter,
         Escape,
+        F1,
         F2,
         F3,
         F4,
+        F5,
+        MenuKey,
         ToggleAuto,
         ToggleSounds,
         BackToMenu,
+        Names,
+        History,
+        Design,
         Other
     };
+    // Whether a key reaches the board at all: behind a lock nothing does, and
+    // an open session panel lets through only F4, which closes it.
+    bool keyReachesBoard(WindowKey key) const;
     GameStart keyTyped(WindowKey key, char32_t character = 0);
     // The JUGAR button.
     GameStart playPressed();
@@ -80,6 +100,17 @@ public:
     void ColorFall();
     const std::string& quitCaption() const { return m_quitCaption; }
     const std::string& quitTooltip() const { return m_quitTooltip; }
+
+    // The small JUGAR button works like the big one, but not behind a lock.
+    bool smallPlayEnabled() const { return m_scoring.playEnabled() && !m_shared.locked; }
+    // In a game with friends, or without points, the JUGAR panel and the
+    // theme move to their compact places beside the board.
+    bool compactLayout() const { return !m_scoring.pointsCount(); }
+
+    // --- side panels --------------------------------------------------------------
+    SidePanelModel& side() { return m_side; }
+    const SidePanelModel& side() const { return m_side; }
+    void eWinClose() { m_side.eWinClose(); }
 
     // --- menu entries --------------------------------------------------------------
     void eMenuNew() { m_round.eMenuNew(); }
@@ -134,6 +165,10 @@ public:
     // --- timers ----------------------------------------------------------------------
     void tickSound();
     void tickScore();
+    // tmrRebote: the window's top, in twips, where it must be.
+    static int tickRebote(int topTwips) {
+        return topTwips < kMinTopTwips ? kMinTopTwips : topTwips;
+    }
     bool scoreTimerRunning() const { return m_scoring.counting(); }
 
     // --- the keyboard's opening (tmrOpen) ----------------------------------------------
@@ -168,7 +203,7 @@ private:
     void roundWon() override;
     void roundLost() override;
     void countdownStopped() override { m_outer.countdownStopped(); }
-    void correctionAsked(bool asking) override { m_outer.correctionAsked(asking); }
+    void correctionAsked(bool asking) override;
     void settingsChanged() override;
     void titleChanged() override { m_scoring.refreshTitle(); }
     bool scoreCounting() const override { return m_scoring.counting(); }
@@ -183,6 +218,9 @@ private:
     Scoring m_scoring;
     Sessions m_sessions;
     SessionPanelModel m_panel;
+    SidePanelModel m_side;
+    char32_t m_deadKey = 0;
+    bool m_loadFailed = false;
     Random& m_random;
     int m_hoveredKey = -1;
     int m_pressedKey = -1;

@@ -46,7 +46,7 @@ std::string firstChars(const std::string& text, std::size_t count) {
 } // namespace
 
 Word1Model::Word1Model(const SharedState& shared)
-    : m_theme(shared.lastFriendTheme.empty() ? kNoTheme : shared.lastFriendTheme) {}
+    : m_theme(shared.lastGameTheme.empty() ? kNoTheme : shared.lastGameTheme) {}
 
 void Word1Model::setThemeText(const std::string& text) {
     m_theme = firstChars(text, kMaxThemeChars);
@@ -127,7 +127,6 @@ std::optional<FriendPhrase> Word1Model::accept(SharedState& shared, Dialogs& dia
     shared.playerCount = shared.roster.guesserCount;
 
     result.themeText = m_theme.empty() || m_theme == kNoTheme ? "Frase de " + author : m_theme;
-    shared.lastFriendTheme = result.themeText;
     return result;
 }
 

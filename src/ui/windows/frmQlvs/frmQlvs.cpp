@@ -4,16 +4,19 @@
 
 #include "look/Twips.h"
 #include "platform/Fonts.h"
-#include "ports/Dialogs.h"
 #include "windows/QtColour.h"
 #include "windows/frmNames/frmNames.h"
+#include "windows/frmQlvs/AnswerPanel.h"
 #include "windows/frmQlvs/GallowsView.h"
 #include "windows/frmQlvs/KeyboardView.h"
 #include "windows/frmQlvs/PhraseView.h"
+#include "windows/frmQlvs/PlayPanel.h"
+#include "windows/frmQlvs/ScorePanel.h"
 #include "windows/frmQlvs/SessionPanel.h"
+#include "windows/frmQlvs/SidePanel.h"
+#include "windows/frmQlvs/StrikeStrip.h"
 #include "windows/frmWord1/frmWord1.h"
 #include "windows/frmWord2/frmWord2.h"
-#include "words/Text.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -22,7 +25,6 @@
 #include <QDropEvent>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
 #include <QPushButton>
@@ -39,256 +41,224 @@ QRect twipRect(int left, int top, int width, int height) {
 // Where the board's own controls sit, in twips.
 constexpr int kStatusLeft = 3000, kStatusTop = 300, kStatusWidth = 5040, kStatusHeight = 720;
 constexpr int kThemeLeft = 8160, kThemeTop = 300, kThemeWidth = 3135, kThemeHeight = 720;
+constexpr int kCompactThemeLeft = 8160, kCompactThemeTop = 300;
 constexpr int kCounterLeft = 10200, kCounterTop = 1050, kCounterWidth = 1095, kCounterHeight = 360;
-constexpr int kStrikesLeft = 3000, kStrikesTop = 3600;
-constexpr int kStrikeWidth = 735, kStrikeHeight = 495, kStrikePitch = 720;
-constexpr int kPlayLeft = 9000, kPlayTop = 3570, kPlayWidth = 2295, kPlayHeight = 615;
 constexpr int kQueEsLeft = 240, kQueEsTop = 4380, kQueEsWidth = 2520, kQueEsHeight = 360;
-constexpr int kWordLeft = 3000, kWordTop = 4290, kWordWidth = 8295, kWordHeight = 540;
-constexpr int kScoreLeft = 120, kScoreTop = 60, kScoreWidth = 2415, kScoreHeight = 720;
 constexpr int kAutoLeft = 2610, kAutoTop = 345, kAutoSize = 330;
 constexpr int kCopyLeft = 2130, kCopyTop = 3630, kCopyWidth = 780, kCopyHeight = 435;
 
-const std::array<const char*, RoundState::kSlots> kStrikeTips{
-    " Primer Strike. ", " Segundo Strike.", " Tercer Strike. ", " Cuarto Strike. ",
-    " Quinto Strike. ", " Sexto Strike. ",  " Séptimo Strike.", " Octavo Strike. "};
+// The keys of the board's shortcut table, as the model knows them.
+QlvsModel::WindowKey shortcutOf(const QKeyEvent& event) {
+    using WindowKey = QlvsModel::WindowKey;
+    const auto mods = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+    if (mods == Qt::ControlModifier) {
+        switch (event.key()) {
+        case Qt::Key_A:
+            return WindowKey::ToggleAuto;
+        case Qt::Key_S:
+            return WindowKey::ToggleSounds;
+        case Qt::Key_J:
+            return WindowKey::Names;
+        case Qt::Key_H:
+            return WindowKey::History;
+        case Qt::Key_D:
+            return WindowKey::Design;
+        default:
+            return WindowKey::Other;
+        }
+    }
+    if (mods == Qt::AltModifier) {
+        return event.key() == Qt::Key_Backspace ? WindowKey::BackToMenu : WindowKey::Other;
+    }
+    switch (event.key()) {
+    case Qt::Key_F1:
+        return WindowKey::F1;
+    case Qt::Key_F2:
+        return WindowKey::F2;
+    case Qt::Key_F3:
+        return WindowKey::F3;
+    case Qt::Key_F4:
+        return WindowKey::F4;
+    case Qt::Key_F5:
+        return WindowKey::F5;
+    case Qt::Key_Delete:
+        return WindowKey::Delete;
+    case Qt::Key_Escape:
+        return WindowKey::Escape;
+    case Qt::Key_Menu:
+        return WindowKey::MenuKey;
+    default:
+        return WindowKey::Other;
+    }
+}
+
+// The spacing form of a dead key, which the model composes with the next
+// character; 0 for any other key.
+char32_t deadAccent(int key) {
+    switch (key) {
+    case Qt::Key_Dead_Acute:
+        return U'\u00B4';
+    case Qt::Key_Dead_Grave:
+        return U'`';
+    case Qt::Key_Dead_Circumflex:
+        return U'^';
+    case Qt::Key_Dead_Diaeresis:
+        return U'\u00A8';
+    case Qt::Key_Dead_Tilde:
+        return U'~';
+    case Qt::Key_Dead_Abovering:
+        return U'\u00B0';
+    case Qt::Key_Dead_Cedilla:
+        return U'\u00B8';
+    default:
+        return key >= Qt::Key_Dead_Grave && key <= Qt::Key_Dead_Longsolidusoverlay ? U'\u02D9' : 0;
+    }
+}
 
 } // namespace
 
 frmQlvs::frmQlvs(SharedState& shared, Dialogs& dialogs, Random& random, QWidget* parent)
-    : QWidget(parent), m_model(shared, dialogs, random) {
+    : QWidget(parent), m_boardDialogs(dialogs, [this] { drawNow(); }),
+      m_model(shared, m_boardDialogs, random) {
     setWindowTitle(QString::fromUtf8(kAppTitle.data(), static_cast<int>(kAppTitle.size())));
     setFocusPolicy(Qt::StrongFocus);
     setAutoFillBackground(true);
     setAcceptDrops(true);
     m_model.load();
     buildControls();
-
-    m_tmrSusp = new QTimer(this);
-    m_tmrSusp->setInterval(QlvsModel::kStatusTickMs);
-    connect(m_tmrSusp, &QTimer::timeout, this, [this] {
-        m_model.round().tickStatus();
-        m_lblGame->setText(qs(m_model.round().status()));
-    });
-    m_tmrSusp->start();
-
-    m_tmrStrike = new QTimer(this);
-    m_tmrStrike->setInterval(QlvsModel::kLampTickMs);
-    connect(m_tmrStrike, &QTimer::timeout, this, [this] {
-        m_model.round().tickLamp();
-        sync();
-    });
-
-    m_tmrSound = new QTimer(this);
-    m_tmrSound->setInterval(PendingSound::kTickMs);
-    connect(m_tmrSound, &QTimer::timeout, this, [this] {
-        m_model.tickSound();
-        syncTimers();
-    });
-
-    m_tmrScore = new QTimer(this);
-    m_tmrScore->setInterval(QlvsModel::kScoreTickMs);
-    connect(m_tmrScore, &QTimer::timeout, this, [this] {
-        m_model.tickScore();
-        m_lblScore->setText(qs(m_model.scoring().scoreText()));
-        m_cmdGame->setEnabled(m_model.scoring().playEnabled());
-        syncTimers();
-    });
-
-    // The session panel's slide and its list's drop share the 10 ms beat.
-    m_tmrKey = new QTimer(this);
-    m_tmrKey->setInterval(SessionPanelModel::kTickMs);
-    connect(m_tmrKey, &QTimer::timeout, this, [this] {
-        m_model.panel().tick();
-        sync();
-    });
-    m_tmrMenu = new QTimer(this);
-    m_tmrMenu->setInterval(SessionPanelModel::kTickMs);
-    connect(m_tmrMenu, &QTimer::timeout, this, [this] {
-        m_model.panel().tickList();
-        sync();
-    });
-
-    m_tmrOpen = new QTimer(this);
-    m_tmrOpen->setInterval(QlvsModel::kOpenTickMs);
-    connect(m_tmrOpen, &QTimer::timeout, this, [this] {
-        m_model.tickOpen();
-        sync();
-    });
-
-    m_tmrTop = new QTimer(this);
-    m_tmrTop->setInterval(QlvsModel::kOpenTickMs);
-    connect(m_tmrTop, &QTimer::timeout, this, [this] {
-        move(x(), y() - px(m_model.tickTop()));
-        syncTimers();
-    });
-
-    // A game with friends starts with their names.
-    m_tmrNames = new QTimer(this);
-    m_tmrNames->setSingleShot(true);
-    m_tmrNames->setInterval(500);
-    connect(m_tmrNames, &QTimer::timeout, this, [this] {
-        if (m_model.namesAtStart()) {
-            eNames();
-        }
-    });
-    m_tmrNames->start();
-
+    buildTimers();
+    // Every release of the mouse on the board puts the hover faces back.
+    qApp->installEventFilter(this);
     sync();
 }
 
 frmQlvs::~frmQlvs() = default;
 
+void frmQlvs::buildTimers() {
+    auto timer = [this](int interval, auto tick) {
+        auto* t = new QTimer(this);
+        t->setInterval(interval);
+        connect(t, &QTimer::timeout, this, tick);
+        return t;
+    };
+    m_tmrSusp = timer(QlvsModel::kStatusTickMs, [this] {
+        m_model.round().tickStatus();
+        m_lblGame->setText(qs(m_model.round().status()));
+    });
+    m_tmrSusp->start();
+    m_tmrStrike = timer(QlvsModel::kLampTickMs, [this] {
+        m_model.round().tickLamp();
+        sync();
+    });
+    m_tmrSound = timer(PendingSound::kTickMs, [this] {
+        m_model.tickSound();
+        syncTimers();
+    });
+    m_tmrScore = timer(QlvsModel::kScoreTickMs, [this] {
+        m_model.tickScore();
+        m_scorePanel->syncScore();
+        if (!m_model.scoreTimerRunning()) {
+            sync();
+        }
+        syncTimers();
+    });
+    // The session panel's slide and its list's drop share the 10 ms beat.
+    m_tmrKey = timer(SessionPanelModel::kTickMs, [this] {
+        m_model.panel().tick();
+        sync();
+    });
+    m_tmrMenu = timer(SessionPanelModel::kTickMs, [this] {
+        m_model.panel().tickList();
+        sync();
+    });
+    m_tmrOpen = timer(QlvsModel::kOpenTickMs, [this] {
+        m_model.tickOpen();
+        sync();
+    });
+    m_tmrTop = timer(QlvsModel::kOpenTickMs, [this] {
+        move(x(), y() - px(m_model.tickTop()));
+        syncTimers();
+    });
+    m_tmrRebote = timer(QlvsModel::kReboteTickMs, [this] {
+        const int top = px(QlvsModel::tickRebote(y() * kTwipsPerPixel));
+        if (top != y()) {
+            move(x(), top);
+        }
+        fitFrame();
+    });
+    m_tmrRebote->start();
+    // A game with friends starts with their names.
+    m_tmrNames = timer(QlvsModel::kNamesDelayMs, [this] {
+        if (m_model.namesAtStart()) {
+            eNames();
+        }
+    });
+    m_tmrNames->setSingleShot(true);
+    m_tmrNames->start();
+}
+
 void frmQlvs::buildControls() {
+    auto changed = [this] { sync(); };
     m_gallows = new GallowsView(m_model.round().figure(), this);
     m_phrase = new PhraseView(m_model, this);
+    m_sidePanel = new SidePanel(m_model.side(), this);
 
     m_lblGame = new QLabel(this);
     m_lblGame->setGeometry(twipRect(kStatusLeft, kStatusTop, kStatusWidth, kStatusHeight));
     m_lblGame->setAlignment(Qt::AlignCenter);
     m_lblGame->setFont(Fonts::display(18));
 
-    auto* themeCaption = new QLabel(QStringLiteral("Tema"), this);
-    themeCaption->setObjectName(QStringLiteral("shpTheme"));
-    themeCaption->setGeometry(twipRect(kThemeLeft, kThemeTop, kThemeWidth, kThemeHeight));
-    themeCaption->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    themeCaption->setFont(Fonts::display(7));
-    m_lblTheme = new QLabel(this);
-    m_lblTheme->setGeometry(
-        twipRect(kThemeLeft + 60, kThemeTop + 210, kThemeWidth - 120, kThemeHeight - 240));
+    m_shpTheme = new QWidget(this);
+    m_shpTheme->setObjectName(QStringLiteral("shpTheme"));
+    m_shpTheme->setAttribute(Qt::WA_StyledBackground);
+    m_shpTheme->resize(px(kThemeWidth), px(kThemeHeight));
+    m_lblThemeCaption = new QLabel(QStringLiteral("Tema"), m_shpTheme);
+    m_lblThemeCaption->setGeometry(0, 0, px(kThemeWidth), px(kThemeHeight));
+    m_lblThemeCaption->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    m_lblThemeCaption->setFont(Fonts::display(7));
+    m_lblTheme = new QLabel(m_shpTheme);
+    m_lblTheme->setGeometry(px(60), px(210), px(kThemeWidth - 120), px(kThemeHeight - 240));
     m_lblTheme->setAlignment(Qt::AlignCenter);
     m_lblTheme->setFont(Fonts::display(11));
-    m_lblTheme->setToolTip(QStringLiteral(" Tema de la frase. "));
+    // Its entries come with the themes list and the tips; until then greyed.
+    m_lblTheme->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_lblTheme, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
+        auto* menu = new QMenu(this);
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        menu->addAction(QStringLiteral("Temas seleccionados"))->setEnabled(false);
+        menu->addAction(QStringLiteral("Dame un consejo"))->setEnabled(false);
+        menu->popup(m_lblTheme->mapToGlobal(at));
+    });
 
     m_lblCont = new QLabel(QStringLiteral("XX/YY"), this);
     m_lblCont->setGeometry(twipRect(kCounterLeft, kCounterTop, kCounterWidth, kCounterHeight));
     m_lblCont->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_lblCont->setFont(Fonts::display(12));
     m_lblCont->setToolTip(QStringLiteral(" Letras reveladas. "));
+    m_lblCont->installEventFilter(this);
 
-    // The strike marks sit on a strip whose lines take the shade.
-    m_frmeStrikes = new QWidget(this);
-    m_frmeStrikes->setGeometry(twipRect(kStrikesLeft - 60, kStrikesTop - 60,
-                                        kStrikePitch * 7 + kStrikeWidth + 120,
-                                        kStrikeHeight + 120));
-    for (int slot = 1; slot <= RoundState::kSlots; ++slot) {
-        auto* label = new QLabel(this);
-        label->setGeometry(twipRect(kStrikesLeft + kStrikePitch * (slot - 1), kStrikesTop,
-                                    kStrikeWidth, kStrikeHeight));
-        label->setAlignment(Qt::AlignCenter);
-        label->setFont(Fonts::display(14));
-        label->setToolTip(QString::fromUtf8(kStrikeTips[static_cast<std::size_t>(slot - 1)]));
-        m_lblStrike[static_cast<std::size_t>(slot - 1)] = label;
-    }
-    m_lblQuit = new QLabel(this);
-    m_lblQuit->setGeometry(m_lblStrike.back()->geometry());
-    m_lblQuit->setAlignment(Qt::AlignCenter);
-    m_lblQuit->setFont(Fonts::display(16));
-    m_lblQuit->setStyleSheet(QStringLiteral("color: white; background: transparent;"));
-    m_lblQuit->setCursor(Qt::PointingHandCursor);
-    m_lblQuit->setMouseTracking(true);
-    m_lblQuit->installEventFilter(this);
-
-    m_cmdGame = new QPushButton(this);
-    m_cmdGame->setGeometry(twipRect(kPlayLeft, kPlayTop, kPlayWidth, kPlayHeight));
-    m_cmdGame->setFocusPolicy(Qt::NoFocus);
-    m_cmdGame->setFont(Fonts::display(13));
-    m_cmdGame->setCursor(Qt::PointingHandCursor);
-    connect(m_cmdGame, &QPushButton::clicked, this, &frmQlvs::playPressed);
-    m_cmdGame->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(m_cmdGame, &QWidget::customContextMenuRequested, this,
-            [this](const QPoint& at) { buildPlayMenu()->popup(m_cmdGame->mapToGlobal(at)); });
+    m_strikes = new StrikeStrip(m_model, changed, this);
+    m_playPanel = new PlayPanel(
+        m_model, changed, [this] { playPressed(); }, this);
 
     // The small twin of JUGAR: it plays too, and keys typed on it are guesses.
     m_cmdCopy = new QPushButton(QStringLiteral("JUGAR"), this);
     m_cmdCopy->setGeometry(twipRect(kCopyLeft, kCopyTop, kCopyWidth, kCopyHeight));
-    m_cmdCopy->setFont(Fonts::display(7));
+    m_cmdCopy->setFont(Fonts::display(5));
     m_cmdCopy->setCursor(Qt::PointingHandCursor);
     m_cmdCopy->setFocusPolicy(Qt::NoFocus);
     connect(m_cmdCopy, &QPushButton::clicked, this, &frmQlvs::playPressed);
-
-    m_lblRestore = new QLabel(this);
-    m_lblRestore->setGeometry(twipRect(kPlayLeft, kPlayTop, kPlayWidth, kPlayHeight));
-    m_lblRestore->setCursor(Qt::PointingHandCursor);
-    m_lblRestore->installEventFilter(this);
 
     m_lblQueEs = new QLabel(QStringLiteral("¿Qué es eso?"), this);
     m_lblQueEs->setGeometry(twipRect(kQueEsLeft, kQueEsTop, kQueEsWidth, kQueEsHeight));
     m_lblQueEs->setAlignment(Qt::AlignCenter);
     m_lblQueEs->setFont(Fonts::display(10));
 
-    m_frmeWord = new QWidget(this);
-    m_frmeWord->setObjectName(QStringLiteral("frmeWord"));
-    m_frmeWord->setGeometry(twipRect(kWordLeft, kWordTop, kWordWidth, kWordHeight));
-    m_frmeWord->setAttribute(Qt::WA_StyledBackground);
-    m_lblWordPrompt = new QLabel(QStringLiteral(" Introduzca Frase a Adivinar "), m_frmeWord);
-    m_lblWordPrompt->setGeometry(px(60), px(75), px(3000), px(390));
-    m_lblWordPrompt->setFont(Fonts::display(9));
-    m_txtWord = new QLineEdit(m_frmeWord);
-    m_txtWord->setGeometry(px(3060), px(75), px(4320), px(390));
-    m_txtWord->setFont(Fonts::display(11));
-    m_txtWord->installEventFilter(this);
-    connect(m_txtWord, &QLineEdit::textEdited, this, [this](const QString& text) {
-        m_model.round().setAnswerBoxText(text.toStdString());
-        m_cmdOk->setEnabled(m_model.round().answerOkEnabled());
-    });
-    m_cmdOk = new QPushButton(QStringLiteral("OK"), m_frmeWord);
-    m_cmdOk->setGeometry(px(7470), px(60), px(765), px(420));
-    m_cmdOk->setFocusPolicy(Qt::NoFocus);
-    m_cmdOk->setFont(Fonts::display(10));
-    connect(m_cmdOk, &QPushButton::clicked, this, &frmQlvs::okPressed);
-
-    m_keyboard = new KeyboardView(
-        m_model, [this] { keyboardChanged(); }, this);
-
-    m_frmeScore = new QWidget(this);
-    m_frmeScore->setObjectName(QStringLiteral("frmeScore"));
-    m_frmeScore->setAttribute(Qt::WA_StyledBackground);
-    m_frmeScore->setGeometry(twipRect(kScoreLeft, kScoreTop, kScoreWidth, kScoreHeight));
-    auto* scoreCaption = new QLabel(QStringLiteral(" Puntos "), m_frmeScore);
-    scoreCaption->setGeometry(0, px(15), px(kScoreWidth), px(210));
-    scoreCaption->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    scoreCaption->setFont(Fonts::display(7));
-    m_lblScore = new QLabel(m_frmeScore);
-    m_lblScore->setGeometry(0, px(210), px(kScoreWidth), px(kScoreHeight - 240));
-    m_lblScore->setAlignment(Qt::AlignCenter);
-    m_lblScore->setFont(Fonts::display(14));
-
-    m_frmePlayer = new QWidget(this);
-    m_frmePlayer->setObjectName(QStringLiteral("frmePlayer"));
-    m_frmePlayer->setAttribute(Qt::WA_StyledBackground);
-    m_frmePlayer->setGeometry(twipRect(kScoreLeft, kScoreTop, kScoreWidth, kScoreHeight));
-    auto* playerCaption = new QLabel(QStringLiteral(" Turno "), m_frmePlayer);
-    playerCaption->setGeometry(0, px(15), px(kScoreWidth), px(210));
-    playerCaption->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    playerCaption->setFont(Fonts::display(7));
-    m_lblPlayer1 = new QLabel(m_frmePlayer);
-    m_lblPlayer1->setGeometry(0, px(210), px(kScoreWidth), px(kScoreHeight - 240));
-    m_lblPlayer1->setAlignment(Qt::AlignCenter);
-    m_lblPlayer1->setFont(Fonts::display(11));
-    m_lblPlayer1->setMouseTracking(true);
-    m_lblPlayer1->setContextMenuPolicy(Qt::CustomContextMenu);
-    m_lblPlayer1->installEventFilter(this);
-    connect(m_lblPlayer1, &QWidget::customContextMenuRequested, this,
-            [this](const QPoint& at) { buildTurnMenu()->popup(m_lblPlayer1->mapToGlobal(at)); });
-
-    // Menus whose entries belong to features still to come: they are there,
-    // greyed, so the board offers what it will.
-    auto laterMenu = [this](QWidget* owner, QStringList entries) {
-        owner->setContextMenuPolicy(Qt::CustomContextMenu);
-        connect(owner, &QWidget::customContextMenuRequested, this,
-                [this, owner, entries](const QPoint& at) {
-                    auto* menu = new QMenu(this);
-                    menu->setAttribute(Qt::WA_DeleteOnClose);
-                    for (const QString& entry : entries) {
-                        menu->addAction(entry)->setEnabled(false);
-                    }
-                    menu->popup(owner->mapToGlobal(at));
-                });
-    };
-    laterMenu(m_lblTheme,
-              {QStringLiteral("Temas seleccionados"), QStringLiteral("Dame un consejo")});
-    laterMenu(m_frmeScore, {QStringLiteral("Pasar puntos a supervivencia")});
+    m_answerPanel = new AnswerPanel(
+        m_model, changed, [this](QKeyEvent* key) { return windowShortcut(key); }, this);
+    m_keyboard = new KeyboardView(m_model, changed, this);
+    m_scorePanel = new ScorePanel(
+        m_model, changed, [this] { eNames(); }, this);
 
     m_lblAuto = new QLabel(this);
     m_lblAuto->setGeometry(twipRect(kAutoLeft, kAutoTop, kAutoSize, kAutoSize));
@@ -297,13 +267,21 @@ void frmQlvs::buildControls() {
     m_lblAuto->setCursor(Qt::PointingHandCursor);
     m_lblAuto->installEventFilter(this);
 
-    m_sessionPanel = new SessionPanel(
-        m_model, [this] { sync(); }, this);
+    m_sessionPanel = new SessionPanel(m_model, changed, this);
 }
 
 void frmQlvs::paintPanels() {
     const LampColours lamp = m_model.lampColours();
     const Rgb game = m_model.gameColour();
+    const Rgb shade = m_model.shade();
+    const Rgb score = m_model.round().deathColours() ? kRedLamp : lamp.light;
+    // Style sheets are costly to apply: only a change of colour repaints.
+    const QString key =
+        css(lamp.light) + css(lamp.dark) + css(game) + css(score) + css(m_model.background());
+    if (key == property("paintedColours").toString()) {
+        return;
+    }
+    setProperty("paintedColours", key);
 
     QPalette windowPalette = palette();
     windowPalette.setColor(QPalette::Window, qc(m_model.background()));
@@ -313,99 +291,64 @@ void frmQlvs::paintPanels() {
                                   .arg(css(lamp.light))
                                   .arg(px(90));
     m_lblGame->setStyleSheet(lampPanel);
-    for (QLabel* label : m_lblStrike) {
-        label->setStyleSheet(lampPanel);
-    }
-    findChild<QLabel*>(QStringLiteral("shpTheme"))->setStyleSheet(lampPanel);
-    m_lblTheme->setStyleSheet(QStringLiteral("color: white; background: transparent;"));
+    m_shpTheme->setStyleSheet(QStringLiteral("#shpTheme { %1 }"
+                                             "QLabel { color: white; background: transparent; }")
+                                  .arg(lampPanel));
     m_lblCont->setStyleSheet(
         QStringLiteral("color: %1; background: transparent;").arg(css(lamp.dark)));
-    m_frmeStrikes->setStyleSheet(
-        QStringLiteral(
-            "background: transparent; border-top: 2px solid %1; border-bottom: 2px solid %1;")
-            .arg(css(lamp.dark)));
-    m_frmeStrikes->setAttribute(Qt::WA_StyledBackground);
-    m_frmeScore->setStyleSheet(QStringLiteral("#frmeScore { background: %1; border-radius: %2px; }"
-                                              "QLabel { color: white; background: transparent; }")
-                                   .arg(css(m_model.round().deathColours() ? kRedLamp : lamp.light))
-                                   .arg(px(90)));
-    m_frmePlayer->setStyleSheet(
-        QStringLiteral("#frmePlayer { background: %1; border-radius: %2px; }"
-                       "QLabel { color: white; background: transparent; }")
-            .arg(css(lamp.light))
-            .arg(px(90)));
+    m_strikes->paint(lampPanel, css(lamp.dark));
+    m_scorePanel->paint(css(score), css(lamp.light));
     m_cmdCopy->setStyleSheet(
         QStringLiteral("QPushButton { background: %1; color: white; border: none;"
                        " border-radius: 4px; } QPushButton:disabled { background: %2; }")
             .arg(css(game), css(kPictureButtonBack)));
-    m_lblRestore->setStyleSheet(
-        QStringLiteral("QLabel { border: 1px dashed %1; border-radius: 8px; }")
-            .arg(css(kPictureButtonBack)));
+    m_playPanel->paint(QStringLiteral("QPushButton { background: %1; color: white; border: none;"
+                                      " border-radius: %3px; }"
+                                      "QPushButton:hover { background: %2; }"
+                                      "QPushButton:pressed { background: %4; }")
+                           .arg(css(game), css(shade))
+                           .arg(px(120))
+                           .arg(css(kGreenLamp)),
+                       QStringLiteral("QLabel { border: 1px dashed %1; border-radius: 8px; }")
+                           .arg(css(kPictureButtonBack)));
     m_lblAuto->setStyleSheet(QStringLiteral("background: %1; color: %2; border-radius: 3px;")
                                  .arg(css(kPictureButtonBack), css(kAutoMarkerText)));
     m_lblQueEs->setStyleSheet(
         QStringLiteral("color: %1; background: transparent; text-decoration: underline;")
-            .arg(css(m_model.shade())));
-    m_frmeWord->setStyleSheet(QStringLiteral("#frmeWord { background: %1; border-radius: %2px; }"
-                                             "QLabel { color: white; }")
-                                  .arg(css(game))
-                                  .arg(px(90)));
-    const Rgb shade = m_model.shade();
-    m_cmdGame->setStyleSheet(
-        QStringLiteral("QPushButton { background: %1; color: white; border: none;"
-                       " border-radius: %3px; }"
-                       "QPushButton:hover { background: %2; }"
-                       "QPushButton:pressed { background: %4; }")
-            .arg(css(game), css(shade))
-            .arg(px(120))
-            .arg(css(kGreenLamp)));
+            .arg(css(shade)));
+    m_answerPanel->paint(css(game));
+    m_sidePanel->paint(css(game));
 }
 
 void frmQlvs::sync() {
+    syncView();
+    syncTimers();
+    followRestart();
+}
+
+void frmQlvs::syncView() {
     const Round& round = m_model.round();
     paintPanels();
 
     m_lblGame->setText(qs(round.status()));
+    const bool compact = m_model.compactLayout();
+    m_shpTheme->move(px(compact ? kCompactThemeLeft : kThemeLeft),
+                     px(compact ? kCompactThemeTop : kThemeTop));
     m_lblTheme->setText(qs(round.themeLabel()));
     m_lblCont->setText(qs(round.board().counterText()));
     m_lblCont->setVisible(round.counterVisible());
-    for (int slot = 1; slot <= RoundState::kSlots; ++slot) {
-        strikeLabel(slot)->setText(qs(round.state().slot(slot)));
-    }
-    m_lblQuit->setText(qs(m_model.quitCaption()));
-    m_lblQuit->setToolTip(qs(m_model.quitTooltip()));
-    m_lblQuit->raise();
-    m_cmdGame->setText(qs(round.playCaption()));
     m_lblQueEs->setVisible(round.queEsEsoVisible());
+    m_strikes->sync();
+    m_playPanel->sync();
+    m_answerPanel->sync();
+    m_scorePanel->sync();
+    m_sidePanel->sync();
 
-    const bool wasOpen = m_frmeWord->isVisible();
-    m_frmeWord->setVisible(round.answerBoxOpen());
-    const QString boxText = qs(round.answerBoxText());
-    if (m_txtWord->text() != boxText) {
-        m_txtWord->setText(boxText);
-    }
-    m_cmdOk->setEnabled(round.answerOkEnabled());
-    if (round.answerBoxOpen() && !wasOpen) {
-        m_txtWord->setFocus();
-    } else if (!round.answerBoxOpen() && wasOpen) {
-        setFocus();
-    }
-
-    const Scoring& scoring = m_model.scoring();
-    setWindowTitle(qs(scoring.title()));
-    m_frmeScore->setVisible(scoring.pointsCount());
-    m_frmePlayer->setVisible(!scoring.pointsCount());
-    m_lblPlayer1->setText(qs(m_model.playerLabel().caption));
-    m_lblPlayer1->setToolTip(qs(m_model.playerLabel().tooltip));
-    m_lblScore->setText(qs(scoring.scoreText()));
-    m_cmdGame->setEnabled(scoring.playEnabled());
+    setWindowTitle(qs(m_model.windowTitle()));
     const bool buttonHidden = m_model.shared().settings.sinBotonJugar;
-    m_cmdGame->setVisible(!buttonHidden);
     m_cmdCopy->setVisible(!buttonHidden);
-    m_cmdCopy->setText(qs(round.playCaption() == "JUGAR" ? "JUGAR" : "NUEVA"));
-    m_cmdCopy->setEnabled(scoring.playEnabled() && !m_model.shared().locked);
-    m_lblRestore->setVisible(buttonHidden);
-    m_lblRestore->setToolTip(buttonHidden ? QStringLiteral(" Regresar botón JUGAR. ") : QString());
+    m_cmdCopy->setText(qs(round.playCaption()));
+    m_cmdCopy->setEnabled(m_model.smallPlayEnabled());
     m_lblAuto->setVisible(round.autoMarkerVisible());
     m_lblAuto->setText(qs(round.autoMarkerCaption()));
     m_lblAuto->setToolTip(qs(round.autoMarkerTooltip()));
@@ -414,35 +357,51 @@ void frmQlvs::sync() {
     m_keyboard->update();
     m_phrase->update();
     m_gallows->update();
-    setFixedSize(px(QlvsModel::kWidthTwips), px(m_model.heightTwips()));
+    fitFrame();
     m_sessionPanel->sync();
-    syncTimers();
-    followRestart();
+}
+
+void frmQlvs::fitFrame() {
+    // The board's sizes are the window's outer sizes: where the window
+    // system draws a frame, the frame comes out of them and the controls
+    // keep their places inside.
+    const QSize frame = isWindow() && m_shownOnce ? frameGeometry().size() - size() : QSize();
+    setFixedSize(px(QlvsModel::kWidthTwips) - frame.width(),
+                 px(m_model.heightTwips()) - frame.height());
+}
+
+void frmQlvs::drawNow() {
+    if (!m_lblGame) {
+        return; // still being built: there is no board to show yet
+    }
+    syncView();
+    repaint();
+}
+
+void frmQlvs::placeOver(QPoint menuCentre) {
+    fitFrame();
+    move(menuCentre - QPoint(px(QlvsModel::kWidthTwips) / 2,
+                             px(QlvsModel::kBaseHeightTwips) / 2 - px(m_model.openingDropTwips())));
+}
+
+QPoint frmQlvs::menuCentre() const {
+    return pos() + QPoint(px(QlvsModel::kWidthTwips) / 2,
+                          px(QlvsModel::kBaseHeightTwips) / 2 - px(m_model.openingDropTwips()));
 }
 
 void frmQlvs::followRestart() {
-    if (m_model.menuRequested() && !m_restarting) {
-        m_restarting = true;
-        QTimer::singleShot(0, this, [this] {
-            m_leaving = true;
-            hide();
-            if (onMenu) {
-                onMenu();
-            }
-        });
+    const bool toMenu = m_model.menuRequested();
+    if ((!toMenu && !m_model.restartRequested()) || m_restarting) {
         return;
     }
-    if (!m_model.restartRequested() || m_restarting) {
-        return;
-    }
-    // The board goes away for a new one; whoever opened it shows what comes
-    // next once the current event is over.
+    // The board goes away for the menu or a new start; whoever opened it
+    // shows what comes next once the current event is over.
     m_restarting = true;
-    QTimer::singleShot(0, this, [this] {
+    QTimer::singleShot(0, this, [this, toMenu] {
         m_leaving = true;
         hide();
-        if (onRestart) {
-            onRestart();
+        if (const auto& next = toMenu ? onMenu : onRestart) {
+            next();
         }
     });
 }
@@ -470,170 +429,96 @@ void frmQlvs::playPressed() {
 
 void frmQlvs::handleStart(GameStart start) {
     sync();
+    auto opened = [this](QWidget* window, auto& member) {
+        window->setAttribute(Qt::WA_DeleteOnClose);
+        connect(window, &QObject::destroyed, this, [this, &member] {
+            member = nullptr;
+            activateWindow();
+            setFocus();
+        });
+    };
     if (start == GameStart::FriendWindow && !m_friendWindow) {
         m_friendWindow = new frmWord1(
-            m_model.shared(), m_model.dialogs(),
+            m_model.shared(), m_boardDialogs,
             [this](const FriendPhrase& phrase) {
                 m_model.friendPhrase(phrase.phrase, phrase.themeText);
                 sync();
             },
             this);
-        m_friendWindow->setAttribute(Qt::WA_DeleteOnClose);
-        connect(m_friendWindow, &QObject::destroyed, this, [this] {
-            m_friendWindow = nullptr;
-            activateWindow();
-            setFocus();
-        });
+        opened(m_friendWindow, m_friendWindow);
         m_friendWindow->open();
-        return;
-    }
-    if (start != GameStart::ThemeWindow || m_themeWindow) {
-        return;
-    }
-    m_themeWindow = new frmWord2(
-        m_model.round(), m_model.shared().palette, [this] { sync(); }, this);
-    m_themeWindow->setAttribute(Qt::WA_DeleteOnClose);
-    connect(m_themeWindow, &QObject::destroyed, this, [this] {
-        m_themeWindow = nullptr;
-        activateWindow();
-        setFocus();
-    });
-    m_themeWindow->open();
-}
-
-void frmQlvs::okPressed() {
-    m_model.round().setAnswerBoxText(m_txtWord->text().toStdString());
-    const bool answered = m_model.round().cmdOk();
-    sync();
-    if (!answered && m_model.round().answerBoxOpen()) {
-        m_txtWord->setFocus();
-        m_txtWord->end(false);
+    } else if (start == GameStart::ThemeWindow && !m_themeWindow) {
+        m_themeWindow = new frmWord2(
+            m_model.round(), m_model.shared().palette, [this] { sync(); }, this);
+        opened(m_themeWindow, m_themeWindow);
+        m_themeWindow->open();
     }
 }
 
-void frmQlvs::keyboardChanged() {
-    m_lblQuit->setText(qs(m_model.quitCaption()));
-    m_lblQuit->setToolTip(qs(m_model.quitTooltip()));
+bool frmQlvs::windowShortcut(QKeyEvent* event) {
+    using WindowKey = QlvsModel::WindowKey;
+    const WindowKey key = shortcutOf(*event);
+    if (key == WindowKey::Other) {
+        return false;
+    }
+    if (m_model.keyReachesBoard(key)) {
+        if (key == WindowKey::Names) {
+            eNames();
+            return true;
+        }
+        if (key == WindowKey::MenuKey) {
+            buildPopup()->popup(mapToGlobal(rect().center()));
+            return true;
+        }
+    }
+    m_model.keyTyped(key);
     sync();
+    return true;
 }
 
 void frmQlvs::keyPressEvent(QKeyEvent* event) {
     using WindowKey = QlvsModel::WindowKey;
-    if (event->key() == Qt::Key_A && event->modifiers().testFlag(Qt::ControlModifier)) {
-        m_model.keyTyped(WindowKey::ToggleAuto);
-        sync();
+    if (windowShortcut(event)) {
         return;
     }
-    if (event->modifiers().testFlag(Qt::ControlModifier) && event->key() == Qt::Key_S) {
-        m_model.keyTyped(WindowKey::ToggleSounds);
-        sync();
-        return;
-    }
-    if (event->modifiers().testFlag(Qt::AltModifier) && event->key() == Qt::Key_Backspace) {
-        m_model.keyTyped(WindowKey::BackToMenu);
-        sync();
-        return;
-    }
-    if (event->modifiers().testFlag(Qt::ControlModifier) && event->key() == Qt::Key_J) {
-        eNames();
-        return;
-    }
-    if (event->key() == Qt::Key_Menu) {
-        buildPopup()->popup(mapToGlobal(rect().center()));
-        return;
-    }
-    if (m_model.panel().shown() && event->key() != Qt::Key_F4) {
-        // Behind the session panel the board takes no guesses.
-        return;
-    }
-    switch (event->key()) {
-    case Qt::Key_Delete:
-        m_model.keyTyped(WindowKey::Delete);
-        break;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         handleStart(m_model.keyTyped(WindowKey::Enter));
         return;
-    case Qt::Key_Escape:
-        m_model.keyTyped(WindowKey::Escape);
-        break;
-    case Qt::Key_F2:
-        m_model.keyTyped(WindowKey::F2);
-        break;
-    case Qt::Key_F3:
-        m_model.keyTyped(WindowKey::F3);
-        break;
-    case Qt::Key_F4:
-        m_model.keyTyped(WindowKey::F4);
-        break;
-    default: {
-        const std::u32string text = event->text().toStdU32String();
-        if (text.size() != 1) {
-            QWidget::keyPressEvent(event);
-            return;
-        }
-        m_model.keyTyped(WindowKey::Character, text.front());
-        break;
     }
+    if (const char32_t accent = deadAccent(event->key())) {
+        m_model.keyTyped(WindowKey::DeadKey, accent);
+        return;
     }
+    const std::u32string text = event->text().toStdU32String();
+    if (text.size() != 1) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    m_model.keyTyped(WindowKey::Character, text.front());
     sync();
 }
 
 bool frmQlvs::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == m_lblPlayer1) {
-        if (event->type() == QEvent::MouseMove || event->type() == QEvent::Enter) {
-            m_model.hoverPlayer();
-            m_lblPlayer1->setText(qs(m_model.playerLabel().caption));
-            m_lblPlayer1->setToolTip(qs(m_model.playerLabel().tooltip));
-        } else if (event->type() == QEvent::MouseButtonDblClick) {
-            eNames();
-            return true;
-        }
-        return false;
-    }
-    if (watched == m_lblRestore && event->type() == QEvent::MouseButtonRelease) {
-        if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
-            m_model.hidePlayButton(false);
-            sync();
-        }
-        return true;
+    if (event->type() == QEvent::MouseButtonRelease && watched->isWidgetType() &&
+        (watched == this || isAncestorOf(static_cast<QWidget*>(watched)))) {
+        m_model.ColorFall();
+        m_strikes->sync();
+        m_keyboard->update();
     }
     if (watched == m_lblAuto && event->type() == QEvent::MouseButtonRelease) {
         m_model.eMenuAuto();
         sync();
         return true;
     }
-    if (watched == m_lblQuit) {
-        if (event->type() == QEvent::Enter || event->type() == QEvent::MouseMove) {
-            m_model.hoverQuit();
-            m_lblQuit->setText(qs(m_model.quitCaption()));
-            m_lblQuit->setToolTip(qs(m_model.quitTooltip()));
-        } else if (event->type() == QEvent::MouseButtonRelease) {
-            m_model.round().eBackStrike();
-            m_model.ColorFall();
+    // The counter, like the score and the strikes, only puts the side
+    // panels away.
+    if ((watched == m_lblAuto || watched == m_lblCont) &&
+        event->type() == QEvent::MouseButtonPress) {
+        if (watched == m_lblCont) {
+            m_model.eWinClose();
             sync();
-            return true;
         }
-        return false;
-    }
-    if (watched == m_txtWord && event->type() == QEvent::KeyPress) {
-        auto* key = static_cast<QKeyEvent*>(event);
-        if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
-            if (m_cmdOk->isEnabled()) {
-                okPressed();
-            }
-            return true;
-        }
-        const std::u32string text = key->text().toStdU32String();
-        if (text == U"!") {
-            m_model.round().BotonRespuesta();
-            sync();
-            return true;
-        }
-        if (text.size() == 1 && text.front() >= U' ' &&
-            Verificar_Tecla(static_cast<int>(text.front()), !m_txtWord->text().isEmpty()) == 0) {
-            return true;
-        }
+        return true;
     }
     return QWidget::eventFilter(watched, event);
 }
@@ -692,32 +577,6 @@ QMenu* frmQlvs::buildPopup() {
     return menu;
 }
 
-QMenu* frmQlvs::buildTurnMenu() {
-    auto* menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    QAction* free = menu->addAction(QStringLiteral("Turno libre"));
-    free->setCheckable(true);
-    free->setChecked(m_model.freeTurn());
-    connect(free, &QAction::triggered, this, [this] {
-        m_model.toggleFreeTurn();
-        sync();
-    });
-    menu->addSeparator();
-    QAction* forward = menu->addAction(QStringLiteral("Adelantar"));
-    QAction* back = menu->addAction(QStringLiteral("Atrasar"));
-    forward->setEnabled(m_model.turnMovesEnabled());
-    back->setEnabled(m_model.turnMovesEnabled());
-    connect(forward, &QAction::triggered, this, [this] {
-        m_model.adelantar();
-        sync();
-    });
-    connect(back, &QAction::triggered, this, [this] {
-        m_model.atrasar();
-        sync();
-    });
-    return menu;
-}
-
 void frmQlvs::eNames() {
     if (m_namesWindow) {
         return;
@@ -736,24 +595,6 @@ void frmQlvs::eNames() {
     m_namesWindow->show();
 }
 
-QMenu* frmQlvs::buildPlayMenu() {
-    auto* menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    QAction* autoPhrase = menu->addAction(QStringLiteral("Frase automática"));
-    autoPhrase->setCheckable(true);
-    autoPhrase->setChecked(m_model.shared().settings.fraseAutomatica);
-    connect(autoPhrase, &QAction::triggered, this, [this] {
-        m_model.eMenuAuto();
-        sync();
-    });
-    connect(menu->addAction(QStringLiteral("Desaparecer botón")), &QAction::triggered, this,
-            [this] {
-                m_model.hidePlayButton(true);
-                sync();
-            });
-    return menu;
-}
-
 void frmQlvs::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton && !m_model.panel().shown()) {
         handleStart(m_model.backgroundClicked());
@@ -766,7 +607,6 @@ void frmQlvs::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     if (!m_shownOnce) {
         m_shownOnce = true;
-        move(x(), y() + px(m_model.openingDropTwips()));
         syncTimers();
     }
 }
@@ -802,6 +642,42 @@ void frmQlvs::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
     m_model.dropFiles(paths);
     sync();
+}
+
+// --- the panels' controls, for the tests ----------------------------------------------
+
+QLabel* frmQlvs::strikeLabel(int slot) const {
+    return m_strikes->strikeLabel(slot);
+}
+QLabel* frmQlvs::quitLabel() const {
+    return m_strikes->quitLabel();
+}
+QPushButton* frmQlvs::playButton() const {
+    return m_playPanel->playButton();
+}
+QLabel* frmQlvs::restoreLabel() const {
+    return m_playPanel->restoreLabel();
+}
+QMenu* frmQlvs::buildPlayMenu() {
+    return m_playPanel->buildPlayMenu();
+}
+QLineEdit* frmQlvs::answerBox() const {
+    return m_answerPanel->answerBox();
+}
+QPushButton* frmQlvs::answerOkButton() const {
+    return m_answerPanel->okButton();
+}
+QLabel* frmQlvs::scoreLabel() const {
+    return m_scorePanel->scoreLabel();
+}
+QWidget* frmQlvs::scoreFrame() const {
+    return m_scorePanel->scoreFrame();
+}
+QLabel* frmQlvs::playerLabel() const {
+    return m_scorePanel->playerLabel();
+}
+QMenu* frmQlvs::buildTurnMenu() {
+    return m_scorePanel->buildTurnMenu();
 }
 
 } // namespace quillora

@@ -3,31 +3,35 @@
 #pragma once
 
 #include "models/frmQlvs/QlvsModel.h"
+#include "windows/frmQlvs/BoardDialogs.h"
 
 #include <QWidget>
 
-#include <array>
 #include <functional>
 
 class QLabel;
-class QMenu;
 class QLineEdit;
+class QMenu;
 class QPushButton;
 class QTimer;
 
 namespace quillora {
 
+class AnswerPanel;
 class GallowsView;
 class KeyboardView;
 class PhraseView;
+class PlayPanel;
+class ScorePanel;
 class SessionPanel;
-class frmWord2;
-class frmWord1;
+class SidePanel;
+class StrikeStrip;
 class frmNames;
+class frmWord1;
+class frmWord2;
 
-// The board window: the phrase, the figure, the strikes and the keyboard. It
-// turns the player's clicks and keys into calls on its model and paints what
-// the model says.
+// The board window: it lays its panels out, hands the player's clicks and
+// keys to its model, and brings the panels in step with the model after each.
 class frmQlvs final : public QWidget {
 public:
     frmQlvs(SharedState& shared, Dialogs& dialogs, Random& random, QWidget* parent = nullptr);
@@ -44,6 +48,12 @@ public:
     // the game ends.
     std::function<void()> onClose;
 
+    // Opens the board centred over the menu whose centre is given, and the
+    // other way round: where the menu goes back to, so trips between the two
+    // leave both where they were.
+    void placeOver(QPoint menuCentre);
+    QPoint menuCentre() const;
+
     // Brings every control in step with the model and starts or stops the
     // timers it asks for.
     void sync();
@@ -52,28 +62,32 @@ public:
     QLabel* statusLabel() const { return m_lblGame; }
     QLabel* counterLabel() const { return m_lblCont; }
     QLabel* themeLabel() const { return m_lblTheme; }
-    QLabel* strikeLabel(int slot) const { return m_lblStrike[static_cast<std::size_t>(slot - 1)]; }
-    QLabel* quitLabel() const { return m_lblQuit; }
-    QPushButton* playButton() const { return m_cmdGame; }
+    QLabel* strikeLabel(int slot) const;
+    QLabel* quitLabel() const;
+    QPushButton* playButton() const;
     QPushButton* smallPlayButton() const { return m_cmdCopy; }
-    QLabel* restoreLabel() const { return m_lblRestore; }
+    QLabel* restoreLabel() const;
     QMenu* buildPlayMenu();
-    QLineEdit* answerBox() const { return m_txtWord; }
-    QPushButton* answerOkButton() const { return m_cmdOk; }
+    QLineEdit* answerBox() const;
+    QPushButton* answerOkButton() const;
     KeyboardView* keyboard() const { return m_keyboard; }
-    QLabel* scoreLabel() const { return m_lblScore; }
-    QWidget* scoreFrame() const { return m_frmeScore; }
+    QLabel* scoreLabel() const;
+    QWidget* scoreFrame() const;
+    QLabel* playerLabel() const;
+    QMenu* buildTurnMenu();
     QLabel* autoMarker() const { return m_lblAuto; }
     SessionPanel* sessionPanel() const { return m_sessionPanel; }
+    SidePanel* sidePanel() const { return m_sidePanel; }
     frmWord2* themeWindow() const { return m_themeWindow; }
     frmWord1* friendWindow() const { return m_friendWindow; }
     frmNames* namesWindow() const { return m_namesWindow; }
-    QLabel* playerLabel() const { return m_lblPlayer1; }
-    QMenu* buildTurnMenu();
     // eNames: the board steps aside for the players window.
     void eNames();
     // The popup menu, built afresh for the state of the board.
     QMenu* buildPopup();
+    // The board's shortcut table, which acts before the control with the
+    // focus; true when the key was one of the board's.
+    bool windowShortcut(QKeyEvent* event);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -87,44 +101,41 @@ protected:
 
 private:
     void buildControls();
+    void buildTimers();
     void paintPanels();
+    void syncView();
     void syncTimers();
+    void fitFrame();
+    // The board as it stands, painted at once: what a message box shows
+    // behind it.
+    void drawNow();
     void playPressed();
     void handleStart(GameStart start);
-    void okPressed();
-    void keyboardChanged();
     void followRestart();
 
+    BoardDialogs m_boardDialogs;
     QlvsModel m_model;
 
     GallowsView* m_gallows = nullptr;
     PhraseView* m_phrase = nullptr;
     KeyboardView* m_keyboard = nullptr;
+    StrikeStrip* m_strikes = nullptr;
+    PlayPanel* m_playPanel = nullptr;
+    ScorePanel* m_scorePanel = nullptr;
+    AnswerPanel* m_answerPanel = nullptr;
+    SidePanel* m_sidePanel = nullptr;
+    SessionPanel* m_sessionPanel = nullptr;
     QLabel* m_lblGame = nullptr;
+    QWidget* m_shpTheme = nullptr;
+    QLabel* m_lblThemeCaption = nullptr;
     QLabel* m_lblTheme = nullptr;
     QLabel* m_lblCont = nullptr;
-    QWidget* m_frmeStrikes = nullptr;
-    std::array<QLabel*, RoundState::kSlots> m_lblStrike{};
-    QLabel* m_lblQuit = nullptr;
-    QPushButton* m_cmdGame = nullptr;
     QLabel* m_lblQueEs = nullptr;
-    QWidget* m_frmeWord = nullptr;
-    QLabel* m_lblWordPrompt = nullptr;
-    QLineEdit* m_txtWord = nullptr;
-    QPushButton* m_cmdOk = nullptr;
     QPushButton* m_cmdCopy = nullptr;
-    QLabel* m_lblRestore = nullptr;
-    QWidget* m_frmeScore = nullptr;
-    QLabel* m_lblScore = nullptr;
     QLabel* m_lblAuto = nullptr;
-    SessionPanel* m_sessionPanel = nullptr;
     frmWord2* m_themeWindow = nullptr;
     frmWord1* m_friendWindow = nullptr;
     frmNames* m_namesWindow = nullptr;
-    QWidget* m_frmePlayer = nullptr;
-    QLabel* m_lblPlayer1 = nullptr;
-    QTimer* m_tmrNames = nullptr;
-    QTimer* m_tmrTop = nullptr;
     bool m_restarting = false;
     bool m_leaving = false;
     bool m_shownOnce = false;
@@ -133,9 +144,12 @@ private:
     QTimer* m_tmrStrike = nullptr;
     QTimer* m_tmrSound = nullptr;
     QTimer* m_tmrOpen = nullptr;
+    QTimer* m_tmrTop = nullptr;
     QTimer* m_tmrScore = nullptr;
     QTimer* m_tmrKey = nullptr;
     QTimer* m_tmrMenu = nullptr;
+    QTimer* m_tmrNames = nullptr;
+    QTimer* m_tmrRebote = nullptr;
 };
 
 } // namespace quillora

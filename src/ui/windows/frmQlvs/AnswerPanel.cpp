@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/frmQlvs/AnswerPanel.h"
+
+#include "look/Twips.h"
+#include "models/frmQlvs/QlvsModel.h"
+#include "platform/Fonts.h"
+#include "round/Keyboard.h"
+#include "windows/QtColour.h"
+#include "windows/TypedTextFilter.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace quillora {
+
+namespace {
+constexpr int kLeft = 3000, kTop = 4290, kWidth = 8295, kHeight = 540;
+} // namespace
+
+AnswerPanel::AnswerPanel(QlvsModel& model, std::function<void()> changed,
+                         std::function<bool(QKeyEvent*)> shortcut, QWidget* board)
+    : QWidget(board), m_model(model), m_changed(std::move(changed)),
+      m_shortcut(std::move(shortcut)) {
+    setObjectName(QStringLiteral("frmeWord"));
+    setGeometry(px(kLeft), px(kTop), px(kWidth), px(kHeight));
+    setAttribute(Qt::WA_StyledBackground);
+    m_lblPrompt = new QLabel(QStringLiteral(" Introduzca Frase a Adivinar "), this);
+    m_lblPrompt->setGeometry(px(60), px(75), px(3000), px(390));
+    m_lblPrompt->setFont(Fonts::display(9));
+    m_txtWord = new QLineEdit(this);
+    m_txtWord->setGeometry(px(3060), px(75), px(4320), px(390));
+    m_txtWord->setFont(Fonts::display(11));
+    // The filter installed last looks first: the board's keys come first,
+    // then "!" and Enter, then the typing rule.
+    new TypedTextFilter(m_txtWord, [](char32_t c, const QString& before) {
+        return Verificar_Tecla(static_cast<int>(c), !before.isEmpty()) != 0;
+    });
+    m_txtWord->installEventFilter(this);
+    connect(m_txtWord, &QLineEdit::textChanged, this, [this](const QString& text) {
+        m_model.round().setAnswerBoxText(text.toStdString());
+        m_cmdOk->setEnabled(m_model.round().answerOkEnabled());
+    });
+    m_cmdOk = new QPushButton(QStringLiteral("OK"), this);
+    m_cmdOk->setGeometry(px(7470), px(60), px(765), px(420));
+    m_cmdOk->setFocusPolicy(Qt::NoFocus);
+    m_cmdOk->setFont(Fonts::display(10));
+    connect(m_cmdOk, &QPushButton::clicked, this, &AnswerPanel::okPressed);
+}
+
+void AnswerPanel::paint(const QString& gameColour) {
+    setStyleSheet(QStringLiteral("#frmeWord { background: %1; border-radius: %2px; }"
+                                 "QLabel { color: white; }")
+                      .arg(gameColour)
+                      .arg(px(90)));
+}
+
+void AnswerPanel::sync() {
+    const Round& round = m_model.round();
+    const bool wasOpen = isVisible();
+    setVisible(round.answerBoxOpen());
+    const QString boxText = qs(round.answerBoxText());
+    if (m_txtWord->text() != boxText) {
+        m_txtWord->setText(boxText);
+    }
+    m_cmdOk->setEnabled(round.answerOkEnabled());
+    if (round.answerBoxOpen() && !wasOpen) {
+        m_txtWord->setFocus();
+    } else if (!round.answerBoxOpen() && wasOpen) {
+        parentWidget()->setFocus();
+    }
+}
+
+void AnswerPanel::okPressed() {
+    m_model.round().setAnswerBoxText(m_txtWord->text().toStdString());
+    const bool answered = m_model.round().cmdOk();
+    m_changed();
+    if (!answered && m_model.round().answerBoxOpen()) {
+        m_txtWord->setFocus();
+        m_txtWord->end(false);
+    }
+}
+
+bool AnswerPanel::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != m_txtWord || event->type() != QEvent::KeyPress) {
+        return QWidget::eventFilter(watched, event);
+    }
+    auto* key = static_cast<QKeyEvent*>(event);
+    if (m_shortcut(key)) {
+        return true;
+    }
+    if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
+        if (m_cmdOk->isEnabled()) {
+            okPressed();
+        }
+        return true;
+    }
+    if (key->text() == QStringLiteral("!")) {
+        m_model.round().BotonRespuesta();
+        m_changed();
+        return true;
+    }
+    return false;
+}
+
+} // namespace quillora

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/frmQlvs/SidePanel.h"
+
+#include "look/Twips.h"
+#include "models/frmQlvs/SidePanelModel.h"
+
+namespace quillora {
+
+namespace {
+// Over the gallows, under the score.
+constexpr int kLeft = 120, kTop = 840, kWidth = 2760, kHeight = 3900;
+} // namespace
+
+SidePanel::SidePanel(const SidePanelModel& model, QWidget* board) : QWidget(board), m_model(model) {
+    setObjectName(QStringLiteral("frmeSide"));
+    setAttribute(Qt::WA_StyledBackground);
+    setGeometry(px(kLeft), px(kTop), px(kWidth), px(kHeight));
+    hide();
+}
+
+void SidePanel::paint(const QString& gameColour) {
+    setStyleSheet(QStringLiteral("#frmeSide { background: %1; border-radius: %2px; }")
+                      .arg(gameColour)
+                      .arg(px(90)));
+}
+
+void SidePanel::sync() {
+    setVisible(m_model.shown());
+    if (isVisible()) {
+        raise();
+    }
+}
+
+} // namespace quillora

@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/frmQlvs/StrikeStrip.h"
+
+#include "look/Twips.h"
+#include "models/frmQlvs/QlvsModel.h"
+#include "platform/Fonts.h"
+#include "windows/QtColour.h"
+
+#include <QEvent>
+#include <QLabel>
+#include <QMouseEvent>
+
+namespace quillora {
+
+namespace {
+
+constexpr int kLeft = 3000, kTop = 3600, kMargin = 60;
+constexpr int kWidth = 735, kHeight = 495, kPitch = 720;
+
+const std::array<const char*, RoundState::kSlots> kStrikeTips{
+    " Primer Strike. ", " Segundo Strike.", " Tercer Strike. ", " Cuarto Strike. ",
+    " Quinto Strike. ", " Sexto Strike. ",  " Séptimo Strike.", " Octavo Strike. "};
+
+} // namespace
+
+StrikeStrip::StrikeStrip(QlvsModel& model, std::function<void()> changed, QWidget* board)
+    : QWidget(board), m_model(model), m_changed(std::move(changed)) {
+    setObjectName(QStringLiteral("frmeStrikes"));
+    setAttribute(Qt::WA_StyledBackground);
+    setGeometry(px(kLeft - kMargin), px(kTop - kMargin), px(kPitch * 7 + kWidth + 2 * kMargin),
+                px(kHeight + 2 * kMargin));
+    for (int slot = 1; slot <= RoundState::kSlots; ++slot) {
+        auto* label = new QLabel(this);
+        label->setGeometry(px(kMargin + kPitch * (slot - 1)), px(kMargin), px(kWidth), px(kHeight));
+        label->setAlignment(Qt::AlignCenter);
+        label->setFont(Fonts::display(14));
+        label->setToolTip(QString::fromUtf8(kStrikeTips[static_cast<std::size_t>(slot - 1)]));
+        m_lblStrike[static_cast<std::size_t>(slot - 1)] = label;
+    }
+    m_lblQuit = new QLabel(this);
+    m_lblQuit->setObjectName(QStringLiteral("lblQuit"));
+    m_lblQuit->setGeometry(m_lblStrike.back()->geometry());
+    m_lblQuit->setAlignment(Qt::AlignCenter);
+    m_lblQuit->setFont(Fonts::display(16));
+    m_lblQuit->setCursor(Qt::PointingHandCursor);
+    m_lblQuit->setMouseTracking(true);
+    m_lblQuit->installEventFilter(this);
+}
+
+void StrikeStrip::paint(const QString& lampPanel, const QString& lineColour) {
+    setStyleSheet(QStringLiteral("#frmeStrikes { background: transparent; border-top: 2px solid "
+                                 "%1; border-bottom: 2px solid %1; }"
+                                 "QLabel { %2 }"
+                                 "#lblQuit { color: white; background: transparent; }")
+                      .arg(lineColour, lampPanel));
+}
+
+void StrikeStrip::sync() {
+    for (int slot = 1; slot <= RoundState::kSlots; ++slot) {
+        strikeLabel(slot)->setText(qs(m_model.round().state().slot(slot)));
+    }
+    m_lblQuit->setText(qs(m_model.quitCaption()));
+    m_lblQuit->setToolTip(qs(m_model.quitTooltip()));
+    m_lblQuit->raise();
+}
+
+void StrikeStrip::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) {
+        m_model.eWinClose();
+        m_changed();
+    }
+    event->accept();
+}
+
+bool StrikeStrip::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != m_lblQuit) {
+        return QWidget::eventFilter(watched, event);
+    }
+    switch (event->type()) {
+    case QEvent::Enter:
+    case QEvent::MouseMove:
+        m_model.hoverQuit();
+        sync();
+        return false;
+    case QEvent::MouseButtonPress:
+        // The press stays here: it must not reach the board as a click on
+        // its background.
+        return true;
+    case QEvent::MouseButtonRelease:
+        m_model.round().eBackStrike();
+        m_model.ColorFall();
+        m_changed();
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace quillora

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "round/RoundState.h"
+
+#include <QWidget>
+
+#include <array>
+#include <functional>
+
+class QLabel;
+
+namespace quillora {
+
+class QlvsModel;
+
+// The eight strike marks under the phrase, and over the eighth the label
+// that offers to take a strike back.
+class StrikeStrip final : public QWidget {
+public:
+    StrikeStrip(QlvsModel& model, std::function<void()> changed, QWidget* board);
+
+    void sync();
+    // The strip's lines and marks take the lamp of the moment.
+    void paint(const QString& lampPanel, const QString& lineColour);
+
+    QLabel* strikeLabel(int slot) const { return m_lblStrike[static_cast<std::size_t>(slot - 1)]; }
+    QLabel* quitLabel() const { return m_lblQuit; }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    // A click on a strike mark puts the side panels away, and is no click
+    // on the board behind.
+    void mousePressEvent(QMouseEvent* event) override;
+
+private:
+    QlvsModel& m_model;
+    std::function<void()> m_changed;
+    std::array<QLabel*, RoundState::kSlots> m_lblStrike{};
+    QLabel* m_lblQuit = nullptr;
+};
+
+} // namespace quillora
