@@ -7,8 +7,10 @@
 #include "platform/Fonts.h"
 #include "windows/QtColour.h"
 
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 
 namespace quillora {
 
@@ -51,6 +53,23 @@ int KeyboardView::keyAt(QPoint point) const {
         }
     }
     return -1;
+}
+
+bool KeyboardView::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) {
+        return QWidget::event(event);
+    }
+    // The keys are painted, not widgets: each says its own tooltip.
+    auto* help = static_cast<QHelpEvent*>(event);
+    const std::string_view tip = keyTooltip(keyAt(help->pos()));
+    if (tip.empty()) {
+        QToolTip::hideText();
+        event->ignore();
+    } else {
+        QToolTip::showText(help->globalPos(),
+                           QString::fromUtf8(tip.data(), static_cast<int>(tip.size())), this);
+    }
+    return true;
 }
 
 void KeyboardView::paintEvent(QPaintEvent*) {

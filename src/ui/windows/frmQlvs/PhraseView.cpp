@@ -29,16 +29,21 @@ PhraseView::PhraseView(const QlvsModel& model, QWidget* parent) : QWidget(parent
     setGeometry(px(kLeftTwips), px(kTopTwips), px(width), px(height));
 }
 
+QFont PhraseView::makeCellFont() {
+    // The board's letters are the bold rounded display face; the painter
+    // works in twips, so the font is sized in twips too.
+    QFont font = Fonts::display(kCellFontPoints);
+    font.setPixelSize(pointsToPixels(kCellFontPoints) * kTwipsPerPixel);
+    return font;
+}
+
 void PhraseView::paintEvent(QPaintEvent*) {
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
     p.setRenderHint(QPainter::TextAntialiasing);
     p.scale(1.0 / kTwipsPerPixel, 1.0 / kTwipsPerPixel);
 
-    QFont font = Fonts::display(kCellFontPoints, false);
-    // The painter works in twips, so the font is sized in twips too.
-    font.setPixelSize(pointsToPixels(kCellFontPoints) * kTwipsPerPixel);
-    p.setFont(font);
+    p.setFont(m_cellFont);
 
     const PhraseBoard& board = m_model.round().board();
     const Rgb miss = m_model.missColour();

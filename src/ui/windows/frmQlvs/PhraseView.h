@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QFont>
 #include <QWidget>
 
 namespace quillora {
@@ -16,11 +17,17 @@ public:
     static constexpr int kLeftTwips = 3000;
     static constexpr int kTopTwips = 1440;
 
+    // The face the cells' letters are painted in.
+    const QFont& cellFont() const { return m_cellFont; }
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    static QFont makeCellFont();
+
     const QlvsModel& m_model;
+    QFont m_cellFont = makeCellFont();
 };
 
 } // namespace quillora

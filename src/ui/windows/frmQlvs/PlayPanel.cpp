@@ -16,9 +16,9 @@ namespace quillora {
 
 namespace {
 constexpr int kWidth = 2295, kHeight = 615;
-// Under the theme, or in a game without points beside the strikes' end.
+// Under the theme, or in a game without points beside the status.
 constexpr int kLeft = 9000, kTop = 3570;
-constexpr int kCompactLeft = 9000, kCompactTop = 2400;
+constexpr int kCompactLeft = 9000, kCompactTop = 352;
 } // namespace
 
 PlayPanel::PlayPanel(QlvsModel& model, std::function<void()> changed, std::function<void()> play,

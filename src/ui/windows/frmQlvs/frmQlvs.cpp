@@ -41,7 +41,9 @@ QRect twipRect(int left, int top, int width, int height) {
 // Where the board's own controls sit, in twips.
 constexpr int kStatusLeft = 3000, kStatusTop = 300, kStatusWidth = 5040, kStatusHeight = 720;
 constexpr int kThemeLeft = 8160, kThemeTop = 300, kThemeWidth = 3135, kThemeHeight = 720;
-constexpr int kCompactThemeLeft = 8160, kCompactThemeTop = 300;
+// Without a score to show, the theme box and the JUGAR panel trade corners:
+// JUGAR beside the status, the theme under the phrase beside the strikes.
+constexpr int kCompactThemeLeft = 8910, kCompactThemeTop = 3540, kCompactThemeWidth = 2385;
 constexpr int kCounterLeft = 10200, kCounterTop = 1050, kCounterWidth = 1095, kCounterHeight = 360;
 constexpr int kQueEsLeft = 240, kQueEsTop = 4380, kQueEsWidth = 2520, kQueEsHeight = 360;
 constexpr int kAutoLeft = 2610, kAutoTop = 345, kAutoSize = 330;
@@ -211,7 +213,6 @@ void frmQlvs::buildControls() {
     m_shpTheme = new QWidget(this);
     m_shpTheme->setObjectName(QStringLiteral("shpTheme"));
     m_shpTheme->setAttribute(Qt::WA_StyledBackground);
-    m_shpTheme->resize(px(kThemeWidth), px(kThemeHeight));
     m_lblThemeCaption = new QLabel(QStringLiteral("Tema"), m_shpTheme);
     m_lblThemeCaption->setGeometry(0, 0, px(kThemeWidth), px(kThemeHeight));
     m_lblThemeCaption->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
@@ -332,8 +333,12 @@ void frmQlvs::syncView() {
 
     m_lblGame->setText(qs(round.status()));
     const bool compact = m_model.compactLayout();
-    m_shpTheme->move(px(compact ? kCompactThemeLeft : kThemeLeft),
-                     px(compact ? kCompactThemeTop : kThemeTop));
+    const int themeWidth = compact ? kCompactThemeWidth : kThemeWidth;
+    m_shpTheme->setGeometry(twipRect(compact ? kCompactThemeLeft : kThemeLeft,
+                                     compact ? kCompactThemeTop : kThemeTop, themeWidth,
+                                     kThemeHeight));
+    m_lblThemeCaption->resize(px(themeWidth), px(kThemeHeight));
+    m_lblTheme->resize(px(themeWidth - 120), m_lblTheme->height());
     m_lblTheme->setText(qs(round.themeLabel()));
     m_lblCont->setText(qs(round.board().counterText()));
     m_lblCont->setVisible(round.counterVisible());

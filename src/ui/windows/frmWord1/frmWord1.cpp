@@ -6,6 +6,7 @@
 #include "platform/Fonts.h"
 #include "state/SharedState.h"
 #include "windows/QtColour.h"
+#include "windows/TypedTextFilter.h"
 
 #include <QKeyEvent>
 #include <QLabel>
@@ -57,6 +58,11 @@ frmWord1::frmWord1(SharedState& shared, Dialogs& dialogs,
     m_txtWord->setMaxLength(Word1Model::kMaxPhraseChars);
     m_txtWord->setToolTip(QStringLiteral(" Frase a jugar. "));
     m_txtWord->setFont(Fonts::display(12));
+    // Typed or composed, only what the board has cells for gets in; the
+    // filter installed last, Enter's, looks first.
+    new TypedTextFilter(m_txtWord, [this](char32_t c, const QString&) {
+        return m_model.keyAllowed(static_cast<int>(c));
+    });
     m_txtWord->installEventFilter(this);
     connect(m_txtWord, &QLineEdit::textChanged, this, [this](const QString& text) {
         m_model.setPhraseText(text.toStdString());
@@ -136,13 +142,6 @@ bool frmWord1::eventFilter(QObject* watched, QEvent* event) {
                 accept();
             }
             return true;
-        }
-        if (watched == m_txtWord) {
-            const std::u32string text = key->text().toStdU32String();
-            if (text.size() == 1 && text.front() >= U' ' &&
-                !m_model.keyAllowed(static_cast<int>(text.front()))) {
-                return true;
-            }
         }
     }
     return QDialog::eventFilter(watched, event);
