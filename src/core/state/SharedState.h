@@ -9,6 +9,7 @@
 
 #include <array>
 #include <filesystem>
+#include <set>
 #include <string>
 
 namespace quillora {
@@ -46,6 +47,8 @@ struct SharedState {
     Palette palette;
     // Where the configuration files live.
     std::filesystem::path dataFolder;
+    // Files whose last save failed and the player has been told so.
+    std::set<std::string> saveFailuresTold;
 
     // --- live values of the current user ----------------------------------------
     double normalPoints = 0;

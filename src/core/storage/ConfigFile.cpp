@@ -2,18 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/ConfigFile.h"
 
+#include "ports/Dialogs.h"
 #include "ports/Random.h"
 #include "state/SharedState.h"
+#include "storage/FileReplace.h"
 #include "words/Text.h"
 #include "words/ThemeCatalogue.h"
 
 #include <algorithm>
 #include <array>
-#include <atomic>
 #include <cctype>
 #include <charconv>
-#include <chrono>
-#include <cstdio>
 #include <fstream>
 #include <limits>
 #include <system_error>
@@ -106,30 +105,52 @@ std::vector<std::string> linesOf(const Settings& s, bool keepAutomaticPhrase) {
     return lines;
 }
 
-// A name for the file a save writes first, hidden, in the folder of the real
-// one so the final rename never crosses file systems.
-fs::path temporaryName(const fs::path& folder) {
-    static std::atomic<unsigned> counter{0};
-    const auto ticks = std::chrono::steady_clock::now().time_since_epoch().count();
-    return folder /
-           (".quillora-" + std::to_string(ticks) + "-" + std::to_string(++counter) + ".tmp");
+// The Windows-1252 byte of a character, if the code page has one.
+std::optional<char> windows1252Byte(char32_t c) {
+    if (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) {
+        return static_cast<char>(c);
+    }
+    for (std::size_t i = 0; i < kHighControls.size(); ++i) {
+        if (kHighControls[i] == c) {
+            return static_cast<char>(0x80 + i);
+        }
+    }
+    return std::nullopt;
 }
 
-// Writes the bytes to a new file that did not exist before; false, with
-// nothing left behind, if any step fails.
-bool writeNewFile(const fs::path& path, const std::string& bytes) {
-    std::FILE* out = std::fopen(path.c_str(), "wbx");
-    if (!out) {
-        return false;
+bool isControl(unsigned char byte) {
+    return byte < 0x20 && byte != '\t';
+}
+
+// The old system ended a text file with Ctrl+Z, sometimes followed by a line
+// break or padded with more of them. Such a tail is no text.
+constexpr char kEndOfFileMark = '\x1A';
+void dropEndOfFileMark(std::string& bytes) {
+    const std::size_t lastText = bytes.find_last_not_of("\x1A\r\n");
+    const std::size_t tail = lastText == std::string::npos ? 0 : lastText + 1;
+    const std::size_t mark = bytes.find(kEndOfFileMark, tail);
+    if (mark != std::string::npos) {
+        bytes.resize(mark);
     }
-    bool ok = std::fwrite(bytes.data(), 1, bytes.size(), out) == bytes.size();
-    ok = std::fflush(out) == 0 && ok;
-    ok = std::fclose(out) == 0 && ok;
-    if (!ok) {
-        std::error_code ignored;
-        fs::remove(path, ignored);
+}
+
+// The lines of the bytes, undecoded; CR LF, LF or CR end a line, and the last
+// line needs no end.
+std::vector<std::string_view> splitLines(std::string_view bytes) {
+    std::vector<std::string_view> lines;
+    std::size_t start = 0;
+    while (start < bytes.size()) {
+        std::size_t end = bytes.find_first_of("\r\n", start);
+        if (end == std::string::npos) {
+            end = bytes.size();
+        }
+        lines.push_back(bytes.substr(start, end - start));
+        start = end + 1;
+        if (end + 1 < bytes.size() && bytes[end] == '\r' && bytes[end + 1] == '\n') {
+            ++start;
+        }
     }
-    return ok;
+    return lines;
 }
 
 } // namespace
@@ -148,19 +169,26 @@ std::string toWindows1252(std::string_view utf8) {
     std::string bytes;
     bytes.reserve(utf8.size());
     for (char32_t c : toU32(utf8)) {
-        if (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) {
-            bytes.push_back(static_cast<char>(c));
-            continue;
-        }
-        char out = '?';
-        for (std::size_t i = 0; i < kHighControls.size(); ++i) {
-            if (kHighControls[i] == c) {
-                out = static_cast<char>(0x80 + i);
-            }
-        }
-        bytes.push_back(out);
+        bytes.push_back(windows1252Byte(c).value_or('?'));
     }
     return bytes;
+}
+
+bool storableInLine(char32_t c) {
+    // C1 controls stand for the bytes the code page leaves unused: they would
+    // go through, but no name holds them on purpose.
+    const bool control = c < 0x20 || (c >= 0x7F && c <= 0x9F);
+    return !control && windows1252Byte(c).has_value();
+}
+
+std::string storableText(std::string_view utf8) {
+    std::u32string kept;
+    for (char32_t c : toU32(utf8)) {
+        if (storableInLine(c)) {
+            kept.push_back(c);
+        }
+    }
+    return toUtf8(kept);
 }
 
 double leadingNumber(std::string_view text) {
@@ -218,7 +246,7 @@ int leadingCount(std::string_view text) {
     return static_cast<int>(std::clamp(value, -32768.0, 32767.0));
 }
 
-std::optional<std::vector<std::string>> readConfigLines(const fs::path& path) {
+std::optional<ConfigText> readConfigText(const fs::path& path) {
     std::error_code error;
     if (!fs::is_regular_file(path, error)) {
         return std::nullopt;
@@ -227,42 +255,79 @@ std::optional<std::vector<std::string>> readConfigLines(const fs::path& path) {
     if (!in) {
         return std::nullopt;
     }
-    // One byte more than the limit tells a file that is too large without
-    // trusting a size taken before the read.
+    // One byte more than the bound tells a larger file without trusting a
+    // size taken before the read.
     std::string bytes(kMaxConfigBytes + 1, '\0');
     in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     if (in.bad()) {
         return std::nullopt;
     }
     bytes.resize(static_cast<std::size_t>(in.gcount()));
-    if (bytes.size() > kMaxConfigBytes) {
+    ConfigText text;
+    text.whole = bytes.size() <= kMaxConfigBytes;
+    if (text.whole) {
+        dropEndOfFileMark(bytes);
+    } else {
+        // Only lines that end inside what was read are whole lines.
+        const std::size_t lastEnd = bytes.find_last_of("\r\n", bytes.size() - 2);
+        bytes.resize(lastEnd == std::string::npos ? 0 : lastEnd + 1);
+    }
+    const std::vector<std::string_view> lines = splitLines(bytes);
+    // A large file is the player's own as long as it begins with the game's
+    // twenty lines; one that does not is no configuration at all.
+    if (!text.whole && lines.size() < static_cast<std::size_t>(kConfigLines)) {
         return std::nullopt;
     }
-    std::vector<std::string> lines;
-    std::size_t start = 0;
-    while (start < bytes.size()) {
-        std::size_t end = bytes.find_first_of("\r\n", start);
-        if (end == std::string::npos) {
-            end = bytes.size();
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (i >= static_cast<std::size_t>(kConfigLines)) {
+            text.beyond = text.beyond || !lines[i].empty();
+            continue;
         }
-        lines.push_back(fromWindows1252(std::string_view(bytes).substr(start, end - start)));
-        start = end + 1;
-        if (end + 1 < bytes.size() && bytes[end] == '\r' && bytes[end + 1] == '\n') {
-            ++start;
+        if (std::any_of(lines[i].begin(), lines[i].end(),
+                        [](char c) { return isControl(static_cast<unsigned char>(c)); })) {
+            return std::nullopt;
         }
+        text.lines.push_back(fromWindows1252(lines[i]));
     }
-    return lines;
+    text.beyond = text.beyond || !text.whole;
+    return text;
+}
+
+std::optional<std::vector<std::string>> readConfigLines(const fs::path& path) {
+    auto text = readConfigText(path);
+    if (!text) {
+        return std::nullopt;
+    }
+    return std::move(text->lines);
 }
 
 bool writeConfigLines(const fs::path& path, const std::vector<std::string>& lines) {
-    std::error_code error;
-    if (!path.has_filename() || fs::is_directory(path, error)) {
+    if (!path.has_filename()) {
         return false;
     }
-    const fs::path folder = path.parent_path();
+    // Through a link to its file: the player who linked the file elsewhere
+    // wants it kept there.
+    const fs::path file = resolveLinks(path);
+    if (file.empty()) {
+        return false;
+    }
+    std::error_code error;
+    const fs::file_status status = fs::status(file, error);
+    if (fs::exists(status) && !fs::is_regular_file(status)) {
+        return false;
+    }
+    const fs::path folder = file.parent_path();
     if (!folder.empty()) {
         fs::create_directories(folder, error);
         if (error) {
+            return false;
+        }
+    }
+    // A file the game cannot read through, or one holding more than it
+    // writes back, is the player's: its bytes are kept before they go.
+    if (fs::exists(status)) {
+        const auto text = readConfigText(file);
+        if ((!text || text->beyond) && !keepCopyBeside(file)) {
             return false;
         }
     }
@@ -278,22 +343,7 @@ bool writeConfigLines(const fs::path& path, const std::vector<std::string>& line
         bytes += encoded;
         bytes += "\r\n";
     }
-    for (int attempt = 0; attempt < 8; ++attempt) {
-        const fs::path temporary = temporaryName(folder.empty() ? fs::path(".") : folder);
-        if (fs::exists(temporary, error)) {
-            continue;
-        }
-        if (!writeNewFile(temporary, bytes)) {
-            return false;
-        }
-        fs::rename(temporary, path, error);
-        if (error) {
-            fs::remove(temporary, error);
-            return false;
-        }
-        return true;
-    }
-    return false;
+    return replaceFile(file, bytes);
 }
 
 fs::path sessionFilePath(const fs::path& folder, std::string_view userName) {
@@ -376,7 +426,22 @@ void ConfLoad(SharedState& shared) {
     }
 }
 
-bool ConfSave(SharedState& shared) {
+bool reportSave(SharedState& shared, Dialogs& dialogs, const std::string& path, bool saved) {
+    // The options are saved after every game and every change of an option:
+    // a folder that stays read-only would otherwise put the same box in
+    // front of the player again and again. Once is enough for each failing
+    // file, until it saves again; a later failure is news.
+    if (saved) {
+        shared.saveFailuresTold.erase(path);
+        return true;
+    }
+    if (shared.saveFailuresTold.insert(path).second) {
+        dialogs.information("No se pudo guardar la configuración en " + path + ".");
+    }
+    return false;
+}
+
+bool ConfSave(SharedState& shared, Dialogs& dialogs) {
     Settings& s = shared.settings;
     if (s.nombre.empty()) {
         s.nombre = kDefaultName;
@@ -387,7 +452,8 @@ bool ConfSave(SharedState& shared) {
         shared.tourPosition == 0 && s.fraseAutomatica && shared.themeChosen;
     const std::vector<std::string> lines = linesOf(s, keepAutomaticPhrase);
     std::copy(lines.begin(), lines.end(), shared.configLines.begin());
-    return writeConfigLines(shared.currentSession().Archivo, lines);
+    return reportSave(shared, dialogs, shared.currentSession().Archivo,
+                      writeConfigLines(shared.currentSession().Archivo, lines));
 }
 
 bool NewConfFile(const fs::path& path, const std::string& userName, Random& random) {

@@ -13,11 +13,13 @@
 
 namespace quillora {
 
+class Dialogs;
 class Random;
 struct SharedState;
 
 inline constexpr int kConfigLines = 20;
-// Nothing larger can be a configuration file: twenty short lines.
+// Twenty short lines never come near this; it is as far as the game reads
+// into a file for them.
 inline constexpr std::uintmax_t kMaxConfigBytes = 64 * 1024;
 
 // Configuration files are 8-bit Windows-1252 text so they move between the
@@ -26,6 +28,13 @@ inline constexpr std::uintmax_t kMaxConfigBytes = 64 * 1024;
 std::string fromWindows1252(std::string_view bytes);
 // Characters Windows-1252 cannot hold are written as '?'.
 std::string toWindows1252(std::string_view utf8);
+// Whether a character goes into a line of a configuration file as itself:
+// Windows-1252 has it and it is no control character. What the player types
+// into a text a file keeps (a user name) is held to this, so the name of the
+// user's file and the name written in it always agree.
+bool storableInLine(char32_t c);
+// The text less every character storableInLine refuses.
+std::string storableText(std::string_view utf8);
 
 // The leading decimal number of a text: blanks skipped, an optional sign,
 // digits and a fraction. Text without one reads as 0; the result is always
@@ -38,13 +47,28 @@ int leadingCount(std::string_view text);
 // gives the default colour.
 Rgb colourFromLine(std::string_view text, Rgb defaultColour);
 
-// The lines of a configuration file, decoded; CR LF, LF or CR end a line.
-// Nothing for a file that cannot be read, is not a regular file or is too
-// large to be one.
+// What the game reads of a configuration file: its first twenty lines at
+// most, decoded. CR LF, LF or CR end a line, and an end-of-file mark (Ctrl+Z)
+// at the end, as files of the old system may carry, is not part of the text.
+struct ConfigText {
+    std::vector<std::string> lines;
+    // The file was read to its end: it is no larger than kMaxConfigBytes.
+    bool whole = true;
+    // It holds more than its twenty lines: text after them, or a part past
+    // kMaxConfigBytes that was never read.
+    bool beyond = false;
+};
+// Nothing for a file that is not a regular file, cannot be read, holds a
+// control character in its lines (a picture, a program...) or is too large
+// to be one and does not even begin with twenty lines.
+std::optional<ConfigText> readConfigText(const std::filesystem::path& path);
 std::optional<std::vector<std::string>> readConfigLines(const std::filesystem::path& path);
 // Writes the lines, each ended by CR LF, replacing the file in one step: a
 // crash leaves either the old file or the new one, never half of either.
-// Creates the folder if needed.
+// A link is written through to its file, the file keeps its mode, and the
+// folder is created if needed. A file holding anything the game would not
+// write back (unreadable, too large, more than twenty lines) is first copied
+// beside itself (keepCopyBeside), and stays as it is when that fails.
 bool writeConfigLines(const std::filesystem::path& path, const std::vector<std::string>& lines);
 
 // The file of a user in the data folder. Separators, NUL and a leading dot
@@ -60,8 +84,12 @@ void clearForBoardLoad(SharedState& shared);
 void DataLoad(SharedState& shared, Random& random);
 // Turns the raw line values into the options, with their bounds.
 void ConfLoad(SharedState& shared);
-// Writes the live options to the current session's file.
-bool ConfSave(SharedState& shared);
+// Writes the live options to the current session's file. A failure leaves
+// the old file whole and tells the player (reportSave).
+bool ConfSave(SharedState& shared, Dialogs& dialogs);
+// Hands back `saved`, telling the player first when a save of the file at
+// `path` failed and they have not been told of it yet.
+bool reportSave(SharedState& shared, Dialogs& dialogs, const std::string& path, bool saved);
 // A fresh file for a new user, with a random theme.
 bool NewConfFile(const std::filesystem::path& path, const std::string& userName, Random& random);
 

@@ -5,10 +5,10 @@
 #include "ports/Dialogs.h"
 #include "state/SharedState.h"
 #include "storage/ConfigFile.h"
+#include "storage/FileReplace.h"
 #include "words/Text.h"
 
-#include <fstream>
-#include <system_error>
+#include <filesystem>
 
 namespace quillora {
 
@@ -24,24 +24,8 @@ std::string defaultName(int slot) {
 // Only a small text file can be a configuration file. Pictures, programs,
 // folders and anything unreadable are passed over without being touched.
 bool looksLikeConfigFile(const std::string& path) {
-    std::error_code error;
-    const std::filesystem::path file(path);
-    if (!std::filesystem::is_regular_file(file, error) ||
-        std::filesystem::file_size(file, error) > kMaxConfigBytes || error) {
-        return false;
-    }
-    std::ifstream in(file, std::ios::binary);
-    if (!in) {
-        return false;
-    }
-    char c = 0;
-    while (in.get(c)) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (byte < 0x20 && byte != '\r' && byte != '\n' && byte != '\t') {
-            return false;
-        }
-    }
-    return true;
+    const auto text = readConfigText(path);
+    return text && text->whole;
 }
 
 } // namespace
@@ -113,14 +97,21 @@ bool Sessions::add(const std::string& typedName, bool manyErrors, std::string& s
         m_dialogs.error(kFull);
         return false;
     }
-    m_shared.currentSlot = slot;
-    std::string name = typedName;
+    // The user box lets through only what line 15 can hold; a name from
+    // anywhere else is held to the same, so the file's name and the name
+    // written in it agree.
+    std::string name = storableText(typedName);
     if (name.empty() || name == "Nombre") {
         name = defaultName(slot);
     }
-    shownName = name;
     const std::filesystem::path path = sessionFilePath(m_shared.dataFolder, name);
-    NewConfFile(path, name, m_random);
+    if (!fileNameFits(path)) {
+        m_dialogs.exclamation("El nombre es demasiado largo.");
+        return false;
+    }
+    m_shared.currentSlot = slot;
+    shownName = name;
+    reportSave(m_shared, m_dialogs, path.string(), NewConfFile(path, name, m_random));
     fillNewSlot(path.string(), name);
     loadCurrent();
     return true;
@@ -148,7 +139,7 @@ bool Sessions::addFromFiles(const std::vector<std::string>& paths, bool manyErro
         std::string name = lines.size() >= 15 ? lines[14] : std::string();
         if (name.empty()) {
             name = defaultName(slot);
-            NewConfFile(path, name, m_random);
+            reportSave(m_shared, m_dialogs, path, NewConfFile(path, name, m_random));
         }
         fillNewSlot(path, name);
         loadCurrent();

@@ -28,7 +28,9 @@ public:
     void loadCurrent();
 
     // "+ Agregar sesión" with the name typed in the user box; `shownName`
-    // receives the name the box shows afterwards.
+    // receives the name the box shows afterwards. A name too long for a
+    // file is refused; characters a configuration line cannot hold are
+    // dropped from it.
     bool add(const std::string& typedName, bool manyErrors, std::string& shownName);
     // Configuration files dropped on the board.
     bool addFromFiles(const std::vector<std::string>& paths, bool manyErrors);

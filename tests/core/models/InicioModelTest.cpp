@@ -4,11 +4,23 @@
 #include "state/SharedState.h"
 
 #include "support/Fakes.h"
+#include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
 namespace quillora {
 namespace {
+
+namespace fs = std::filesystem;
 
 int runTimer(InicioModel& model) {
     int ticks = 0;
@@ -81,6 +93,54 @@ TEST(StartScreen, APlainRestartResetsTheUserButASwitchKeepsThem) {
     EXPECT_EQ(shared.sessions[0].playerNames[0], "Ana");
     EXPECT_EQ(shared.correctionsLeft, 1);
     EXPECT_FALSE(shared.skipStartDefaults) << "the flag is used once";
+}
+
+// What a save killed half-way leaves in the data folder goes at the next start;
+// a save of another copy of the game still running, and anything that is not
+// one of the game's temporary files, stays.
+TEST(StartScreen, ClearsLeftoverTemporaryFilesOfTheGameAndNothingElse) {
+    TempFolder folder("quillora-start");
+    const auto at = [&folder](const std::string& name) { return folder.path() / name; };
+    const pid_t gone = ::fork();
+    if (gone == 0) {
+        ::_exit(0);
+    }
+    ASSERT_GT(gone, 0);
+    ::waitpid(gone, nullptr, 0);
+    const std::string running = std::to_string(::getppid());
+
+    const std::vector<std::string> leftovers{
+        ".quillora-" + std::to_string(gone) + "-81234-1.tmp", // its process is gone
+        ".quillora-5551234-2.tmp",                            // an earlier build's name
+        ".quillora-" + running + "-99-3.tmp",                 // running, but hours old
+    };
+    const std::vector<std::string> kept{".quillora-" + running + "-77-4.tmp",
+                                        ".quillora-notas.tmp",
+                                        ".quillora-12-34.tmp.bak",
+                                        "quillora-12-34.tmp",
+                                        ".quillora--1.tmp",
+                                        "QuilloraVS5.txt",
+                                        "Ana.txt"};
+    for (const auto& name : leftovers) {
+        std::ofstream(at(name)) << "mitad";
+    }
+    for (const auto& name : kept) {
+        std::ofstream(at(name)) << "mitad";
+    }
+    fs::last_write_time(at(leftovers[2]), fs::file_time_type::clock::now() - std::chrono::hours(3));
+    fs::create_directory(at(".quillora-" + std::to_string(gone) + "-1-5.tmp"));
+
+    SharedState shared;
+    shared.dataFolder = folder.path();
+    InicioModel model(shared, true);
+    for (const auto& name : leftovers) {
+        EXPECT_FALSE(fs::exists(at(name))) << name;
+    }
+    for (const auto& name : kept) {
+        EXPECT_TRUE(fs::exists(at(name))) << name;
+    }
+    EXPECT_TRUE(fs::is_directory(at(".quillora-" + std::to_string(gone) + "-1-5.tmp")))
+        << "the game never writes a folder of that name";
 }
 
 } // namespace

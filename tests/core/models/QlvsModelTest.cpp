@@ -159,7 +159,7 @@ TEST(QlvsModelKeyboard, AKeptKeyboardIsThereAtOnceAndOnlyASlidingOneClimbs) {
     TempFolder folder("quillora-keyboard");
     shared.currentSession().Archivo = (folder.path() / "QuilloraVS5.txt").string();
     shared.settings.tecladoPermanente = true;
-    ASSERT_TRUE(ConfSave(shared)); // the board takes it from the file
+    ASSERT_TRUE(ConfSave(shared, dialogs)); // the board takes it from the file
     QlvsModel model{shared, dialogs, random};
     model.load();
     EXPECT_TRUE(model.keyboardShown());

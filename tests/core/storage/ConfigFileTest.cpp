@@ -8,8 +8,12 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
+
+#include <csignal>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <limits>
 #include <ostream>
 
@@ -56,6 +60,7 @@ protected:
     TempFolder temp{"quillora-config"};
     const fs::path& folder = temp.path();
     SharedState shared;
+    ScriptedDialogs dialogs;
     QueuedRandom random;
 };
 
@@ -191,7 +196,7 @@ TEST_F(ConfigFileTest, AShortOldFileLoadsWithDefaultsAndSavesTwentyLines) {
     load();
     EXPECT_EQ(shared.settings.colorJuego, kDefaultBlue);
     EXPECT_FALSE(shared.settings.sinBotonJugar || shared.settings.tecladoPermanente);
-    ASSERT_TRUE(ConfSave(shared));
+    ASSERT_TRUE(ConfSave(shared, dialogs));
     const std::string bytes = slurp(file());
     std::size_t crlf = 0;
     std::size_t lf = 0;
@@ -212,7 +217,7 @@ TEST_F(ConfigFileTest, SavingWritesEveryLineFromTheLiveOptions) {
     write(lines);
     load();
     shared.themeChosen = false;
-    ASSERT_TRUE(ConfSave(shared));
+    ASSERT_TRUE(ConfSave(shared, dialogs));
     auto expected = fileLines();
     expected[3] = "1";
     expected[8] = "0"; // the automatic phrase needs a chosen theme
@@ -221,14 +226,14 @@ TEST_F(ConfigFileTest, SavingWritesEveryLineFromTheLiveOptions) {
     EXPECT_EQ(shared.settings.nombre, "Quillora VS");
 
     shared.themeChosen = true;
-    ASSERT_TRUE(ConfSave(shared));
+    ASSERT_TRUE(ConfSave(shared, dialogs));
     EXPECT_EQ(savedLines()[8], "1");
     shared.tourPosition = 4;
-    ASSERT_TRUE(ConfSave(shared));
+    ASSERT_TRUE(ConfSave(shared, dialogs));
     EXPECT_EQ(savedLines()[8], "0") << "never during a tour";
 
     shared.settings.fondo = "a\r\nb";
-    ASSERT_TRUE(ConfSave(shared));
+    ASSERT_TRUE(ConfSave(shared, dialogs));
     const auto saved = savedLines();
     ASSERT_EQ(saved.size(), 20U) << "a line break in a value shifts no line";
     EXPECT_EQ(saved[14], "Quillora VS");
@@ -236,7 +241,7 @@ TEST_F(ConfigFileTest, SavingWritesEveryLineFromTheLiveOptions) {
 
 TEST_F(ConfigFileTest, AnEnyeInTheNameIsOneByteOnDiskAndComesBack) {
     shared.settings.nombre = "NUÑEZ";
-    ASSERT_TRUE(ConfSave(shared));
+    ASSERT_TRUE(ConfSave(shared, dialogs));
     EXPECT_NE(slurp(file()).find("\r\nNU\xD1"
                                  "EZ\r\n"),
               std::string::npos);
@@ -278,9 +283,9 @@ TEST_F(ConfigFileTest, AMissingFileGivesTheDefaultsAndKeepsNameAndColour) {
 TEST_F(ConfigFileTest, FilesThatAreNotConfigurationsNeitherCrashNorChange) {
     const std::string binary("\x89PNG\r\n\x1A\n\0\0\0\rIHDR\xFF\xD8", 18);
     writeRaw(binary);
+    random.queue({0.2});
     load();
-    EXPECT_GE(shared.settings.estilo, 0);
-    EXPECT_LE(shared.settings.estilo, 4);
+    EXPECT_EQ(shared.settings.estilo, 1) << "a picture loads as a missing file";
     EXPECT_EQ(slurp(file()), binary);
 
     writeRaw(std::string(kMaxConfigBytes, '\n'));
@@ -297,7 +302,7 @@ TEST_F(ConfigFileTest, FilesThatAreNotConfigurationsNeitherCrashNorChange) {
     random.queue({0.2});
     load();
     EXPECT_EQ(shared.settings.estilo, 1);
-    EXPECT_FALSE(ConfSave(shared)) << "a folder is never written over";
+    EXPECT_FALSE(ConfSave(shared, dialogs)) << "a folder is never written over";
     EXPECT_TRUE(fs::is_directory(file()));
 }
 
@@ -338,8 +343,8 @@ TEST_F(ConfigFileTest, UserNamesNeverLeaveTheDataFolder) {
 TEST_F(ConfigFileTest, SavingCreatesTheFolderAndLeavesNoTemporaryFile) {
     const fs::path nested = folder / "quillora-vesta" / "QuilloraVS5.txt";
     shared.currentSession().Archivo = nested.string();
-    ASSERT_TRUE(ConfSave(shared));
-    ASSERT_TRUE(ConfSave(shared));
+    ASSERT_TRUE(ConfSave(shared, dialogs));
+    ASSERT_TRUE(ConfSave(shared, dialogs));
     std::vector<fs::path> entries;
     for (const auto& entry : fs::directory_iterator(nested.parent_path())) {
         entries.push_back(entry.path());
@@ -348,8 +353,164 @@ TEST_F(ConfigFileTest, SavingCreatesTheFolderAndLeavesNoTemporaryFile) {
 
     writeRaw("not a folder");
     shared.currentSession().Archivo = (file() / "QuilloraVS5.txt").string();
-    EXPECT_FALSE(ConfSave(shared));
+    EXPECT_FALSE(ConfSave(shared, dialogs));
     EXPECT_EQ(slurp(file()), "not a folder");
+}
+
+TEST_F(ConfigFileTest, TheOldEndOfFileMarkIsNotPartOfTheText) {
+    std::string text;
+    for (const auto& l : fileLines()) {
+        text += l + "\r\n";
+    }
+    const std::string lastLineOpen = text.substr(0, text.size() - 2);
+    for (const std::string& bytes :
+         {text + "\x1A", text + "\x1A\x1A\x1A", text + "\x1A\r\n", lastLineOpen + "\x1A"}) {
+        writeRaw(bytes);
+        EXPECT_EQ(readConfigLines(file()), fileLines())
+            << testing::PrintToString(bytes.substr(bytes.size() - 4));
+    }
+    writeRaw(lastLineOpen + "\x1A");
+    load();
+    EXPECT_TRUE(shared.settings.tecladoPermanente) << "line 20 reads \"1\", mark and all";
+
+    // Anywhere else it is a control character like any other: no text file.
+    writeRaw("\x1A" + text);
+    EXPECT_FALSE(readConfigLines(file()));
+}
+
+TEST_F(ConfigFileTest, ABigFileLoadsItsTwentyLinesAndIsCopiedBeforeItIsReplaced) {
+    std::string bytes;
+    for (const auto& l : fileLines()) {
+        bytes += l + "\r\n";
+    }
+    while (bytes.size() <= 2 * kMaxConfigBytes) {
+        bytes += "notas del jugador que la partida no conoce\r\n";
+    }
+    writeRaw(bytes);
+    load();
+    EXPECT_EQ(shared.settings.nombre, "Ana");
+    EXPECT_EQ(shared.settings.tema, 12);
+    EXPECT_EQ(shared.settings.colorJuego, (Rgb{255, 0, 0}));
+
+    shared.themeChosen = true; // so line 9 is written back as it was
+    ASSERT_TRUE(ConfSave(shared, dialogs));
+    EXPECT_EQ(savedLines(), fileLines());
+    EXPECT_EQ(slurp(folder / "QuilloraVS5.txt.bak"), bytes) << "nothing of the player's is lost";
+    EXPECT_TRUE(dialogs.shown.empty());
+}
+
+TEST_F(ConfigFileTest, AnUnreadableFileIsCopiedAsideWithoutWritingOverAnEarlierCopy) {
+    const fs::path firstCopy = folder / "QuilloraVS5.txt.bak";
+    std::ofstream(firstCopy, std::ios::binary) << "una copia anterior";
+    const std::string picture("\xFF\xD8\xFF\xE0\0\x10JFIF\0", 11);
+    writeRaw(picture);
+    random.queue({0.2});
+    load();
+    ASSERT_TRUE(ConfSave(shared, dialogs));
+    EXPECT_EQ(savedLines().size(), 20U);
+    EXPECT_EQ(slurp(firstCopy), "una copia anterior");
+    EXPECT_EQ(slurp(folder / "QuilloraVS5.txt.bak2"), picture);
+
+    // The file is the game's own now: later saves copy nothing more.
+    ASSERT_TRUE(ConfSave(shared, dialogs));
+    EXPECT_FALSE(fs::exists(folder / "QuilloraVS5.txt.bak3"));
+
+    // Twenty lines and then more: copied as well, since the save drops the rest.
+    auto lines = fileLines();
+    lines.push_back("notas");
+    write(lines);
+    load();
+    ASSERT_TRUE(ConfSave(shared, dialogs));
+    EXPECT_NE(slurp(folder / "QuilloraVS5.txt.bak3").find("\r\nnotas\r\n"), std::string::npos);
+}
+
+TEST_F(ConfigFileTest, SavingWritesThroughALinkAndKeepsTheFileMode) {
+    fs::create_directory(folder / "elsewhere");
+    const fs::path real = folder / "elsewhere" / "real.txt";
+    std::ofstream(real, std::ios::binary) << "";
+    write(fileLines());
+    fs::rename(file(), real);
+    fs::create_symlink(fs::path("elsewhere") / "real.txt", file());
+    fs::permissions(real, fs::perms::owner_read | fs::perms::owner_write);
+    load();
+    shared.settings.nombre = "Beto";
+    ASSERT_TRUE(ConfSave(shared, dialogs));
+    EXPECT_TRUE(fs::is_symlink(file()));
+    EXPECT_EQ(fs::read_symlink(file()), fs::path("elsewhere") / "real.txt");
+    EXPECT_EQ(readConfigLines(real).value_or(fileLines())[14], "Beto");
+    EXPECT_EQ(fs::status(real).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder / "elsewhere"), {}), 1)
+        << "no temporary file is left beside the target";
+
+    // A plain file keeps an unusual mode too, whatever the umask.
+    fs::remove(file());
+    write(fileLines());
+    const fs::perms odd = fs::perms::owner_read | fs::perms::owner_write | fs::perms::others_read;
+    fs::permissions(file(), odd);
+    ASSERT_TRUE(ConfSave(shared, dialogs));
+    EXPECT_EQ(fs::status(file()).permissions(), odd);
+
+    // A link to a file not made yet makes it, and stays a link.
+    fs::remove(file());
+    fs::create_symlink("nuevo.txt", file());
+    ASSERT_TRUE(ConfSave(shared, dialogs));
+    EXPECT_TRUE(fs::is_symlink(file()));
+    EXPECT_EQ(readConfigLines(folder / "nuevo.txt").value_or(fileLines())[14], "Beto");
+}
+
+// The disk refuses the save half-way, as a full disk would, whoever runs the
+// test: the limit on a file's size holds for root as well.
+class RefusedWrites {
+public:
+    RefusedWrites() {
+        ::getrlimit(RLIMIT_FSIZE, &m_old);
+        m_oldHandler = std::signal(SIGXFSZ, SIG_IGN);
+        rlimit small = m_old;
+        small.rlim_cur = 16;
+        ::setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~RefusedWrites() {
+        ::setrlimit(RLIMIT_FSIZE, &m_old);
+        std::signal(SIGXFSZ, m_oldHandler);
+    }
+    RefusedWrites(const RefusedWrites&) = delete;
+    RefusedWrites& operator=(const RefusedWrites&) = delete;
+
+private:
+    rlimit m_old{};
+    void (*m_oldHandler)(int) = nullptr;
+};
+
+TEST_F(ConfigFileTest, AFailedSaveKeepsTheOldFileAndTellsThePlayerOnce) {
+    write(fileLines());
+    const std::string before = slurp(file());
+    load();
+    shared.settings.nombre = "Beto";
+    const std::string told = "No se pudo guardar la configuración en " + file().string() + ".";
+    {
+        RefusedWrites refused;
+        EXPECT_FALSE(ConfSave(shared, dialogs));
+        EXPECT_FALSE(ConfSave(shared, dialogs));
+    }
+    EXPECT_EQ(slurp(file()), before);
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder), {}), 1) << "no temporary file left";
+    ASSERT_EQ(dialogs.shown.size(), 1U) << "not a box after every game";
+    EXPECT_EQ(dialogs.shown[0].text, told);
+    EXPECT_EQ(dialogs.shown[0].icon, Dialogs::Icon::Information);
+
+    // Once the file saves again, a new failure is news.
+    ASSERT_TRUE(ConfSave(shared, dialogs));
+    {
+        RefusedWrites refused;
+        EXPECT_FALSE(ConfSave(shared, dialogs));
+    }
+    EXPECT_EQ(dialogs.shown.size(), 2U);
+
+    // Another file that fails is told of by its own name.
+    shared.currentSession().Archivo = (file() / "QuilloraVS5.txt").string();
+    EXPECT_FALSE(ConfSave(shared, dialogs));
+    ASSERT_EQ(dialogs.shown.size(), 3U);
+    EXPECT_NE(dialogs.shown[2].text.find("QuilloraVS5.txt/QuilloraVS5.txt"), std::string::npos);
 }
 
 } // namespace

@@ -12,6 +12,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <random>
 
 namespace quillora {
@@ -194,6 +195,53 @@ TEST_F(SessionsTest, TheStartPutsTheFirstRunDefaultsBackUnlessASwitchAskedNot) {
     EXPECT_FALSE(shared.skipStartDefaults);
     EXPECT_EQ(shared.normalPoints, 90);
     EXPECT_EQ(shared.correctionsLeft, 1);
+}
+
+TEST_F(SessionsTest, ADroppedFileEndingWithTheOldEndOfFileMarkBecomesASession) {
+    const fs::path dropped = folder / "de-windows.txt";
+    std::ofstream(dropped, std::ios::binary)
+        << "\r\n\r\n1\r\n0\r\n0\r\n0\r\n0\r\n1\r\n0\r\n0\r\n5\r\n1\r\n0\r\n0\r\n"
+           "Mar\xED"
+           "a\r\n0\r\n0\r\n15759390\r\n0\r\n0\r\n\x1A";
+    ASSERT_TRUE(sessions.addFromFiles({dropped.string()}, false));
+    EXPECT_EQ(shared.currentSession().displayName, "María");
+    EXPECT_EQ(shared.currentSession().Archivo, dropped.string());
+}
+
+TEST_F(SessionsTest, ANameWhoseFileCannotExistIsRefused) {
+    // 251 bytes and ".txt" make the longest file name there can be.
+    const std::string longest(251, 'a');
+    EXPECT_EQ(add(longest), longest);
+    EXPECT_TRUE(fs::exists(folder / (longest + ".txt")));
+    ASSERT_TRUE(sessions.deleteCurrent());
+
+    std::string enyes;
+    for (int i = 0; i < 126; ++i) {
+        enyes += "ñ"; // two bytes in a file name, one in the file
+    }
+    for (const std::string& name : {std::string(252, 'a'), enyes}) {
+        std::string shown = name;
+        EXPECT_FALSE(sessions.add(name, false, shown));
+        ASSERT_FALSE(dialogs.shown.empty());
+        EXPECT_EQ(dialogs.shown.back().text, "El nombre es demasiado largo.");
+        EXPECT_EQ(dialogs.shown.back().icon, Dialogs::Icon::Exclamation);
+        EXPECT_EQ(shown, name) << "the box keeps what was typed, to be shortened";
+        EXPECT_EQ(shared.currentSlot, 0);
+        EXPECT_FALSE(shared.sessions[1].record.inUse());
+    }
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder), {}), 1) << "only the first user's file";
+}
+
+TEST_F(SessionsTest, ANameKeepsOnlyWhatItsFileCanHold) {
+    EXPECT_EQ(add("Zoë Иванова\t€"), "Zoë €");
+    const fs::path file = folder / "Zoë €.txt";
+    ASSERT_TRUE(fs::exists(file));
+    EXPECT_EQ(shared.currentSession().displayName, "Zoë €");
+    EXPECT_NE(slurp(file).find("\r\nZo\xEB \x80\r\n"), std::string::npos)
+        << "line 15 and the file name agree";
+
+    EXPECT_EQ(add("Иван"), "Usuario 3") << "nothing left of it is no name";
+    EXPECT_TRUE(fs::exists(folder / "Usuario 3.txt"));
 }
 
 } // namespace

@@ -6,11 +6,16 @@
 #include "ports/Web.h"
 #include "state/SharedState.h"
 #include "storage/ConfigFile.h"
+#include "storage/FileReplace.h"
 #include "storage/Sessions.h"
 
 namespace quillora {
 
 void InicioLoad(SharedState& shared) {
+    // A save cut short by a crash or a kill leaves its temporary file behind.
+    // No save of ours is under way while the game starts, so whatever of
+    // them is left from a copy of the game no longer running goes now.
+    removeStaleTemporaries(shared.dataFolder);
     Sessions::initialise(shared);
     shared.palette = Palette{};
     shared.settings.fraseAutomatica = false;

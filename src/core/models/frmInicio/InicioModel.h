@@ -9,8 +9,9 @@ class Web;
 struct SharedState;
 
 // What the start of the program sets before the first board opens, and again
-// at every restart: the main session's file, the palette, and the first-run
-// defaults of the current user unless a session switch asked to keep them.
+// at every restart: a data folder rid of the leftovers of killed saves, the
+// main session's file, the palette, and the first-run defaults of the current
+// user unless a session switch asked to keep them.
 void InicioLoad(SharedState& shared);
 
 // The start screen: a short progress line, then the main menu, unless the

@@ -98,7 +98,7 @@ void QlvsModel::toggleFreeTurn() {
 
 void QlvsModel::namesClosed() {
     ePlayerName();
-    ConfSave(m_shared);
+    ConfSave(m_shared, m_dialogs);
 }
 
 void QlvsModel::friendPhrase(const std::string& phrase, const std::string& themeText) {
@@ -134,7 +134,7 @@ void QlvsModel::roundLost() {
 }
 
 void QlvsModel::settingsChanged() {
-    ConfSave(m_shared);
+    ConfSave(m_shared, m_dialogs);
     m_outer.settingsChanged();
 }
 
@@ -261,12 +261,12 @@ void QlvsModel::ColorFall() {
 
 void QlvsModel::toggleSounds() {
     m_shared.settings.sonidos = !m_shared.settings.sonidos;
-    ConfSave(m_shared);
+    ConfSave(m_shared, m_dialogs);
 }
 
 void QlvsModel::toggleAnimation() {
     m_shared.settings.animacion = !m_shared.settings.animacion;
-    ConfSave(m_shared);
+    ConfSave(m_shared, m_dialogs);
 }
 
 void QlvsModel::eMenuBack() {
@@ -277,7 +277,7 @@ void QlvsModel::eMenuBack() {
 
 void QlvsModel::hidePlayButton(bool hidden) {
     m_shared.settings.sinBotonJugar = hidden;
-    ConfSave(m_shared);
+    ConfSave(m_shared, m_dialogs);
 }
 
 GameStart QlvsModel::backgroundClicked() {

@@ -5,6 +5,7 @@
 #include "look/Twips.h"
 #include "models/frmQlvs/QlvsModel.h"
 #include "platform/Fonts.h"
+#include "storage/ConfigFile.h"
 #include "windows/QtColour.h"
 
 #include <QKeyEvent>
@@ -14,6 +15,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QTimer>
+#include <QValidator>
 
 namespace quillora {
 
@@ -22,6 +24,24 @@ namespace {
 constexpr int kKeyFrameLeft = 3000, kKeyFrameTop = 1920, kKeyFrameWidth = 5745,
               kKeyFrameHeight = 1560;
 const QString kWrongText = QStringLiteral("Incorrecto");
+
+// The user's name goes into line 15 of a Windows-1252 file and, as typed,
+// into the file's name: the box drops what the line cannot hold, whether it
+// is typed, pasted, dropped or composed by an input method, so the two never
+// disagree. The cursor stays after what was kept of the text before it.
+class StorableNameValidator final : public QValidator {
+public:
+    using QValidator::QValidator;
+
+    State validate(QString& input, int& pos) const override {
+        const QString kept = qs(storableText(input.toStdString()));
+        if (kept != input) {
+            pos = static_cast<int>(qs(storableText(input.left(pos).toStdString())).size());
+            input = kept;
+        }
+        return Acceptable;
+    }
+};
 
 } // namespace
 
@@ -50,6 +70,7 @@ SessionPanel::SessionPanel(QlvsModel& model, std::function<void()> changed, QWid
 
     m_txtUser = new QLineEdit(this);
     m_txtUser->setPlaceholderText(QStringLiteral("Nombre"));
+    m_txtUser->setValidator(new StorableNameValidator(m_txtUser));
     m_txtUser->setGeometry(px(5880), px(180), px(3240), px(420));
     m_txtUser->setFont(Fonts::display(11));
     m_txtUser->setToolTip(
