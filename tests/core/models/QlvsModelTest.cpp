@@ -169,7 +169,7 @@ TEST(QlvsModelKeyboard, AKeptKeyboardIsThereAtOnceAndOnlyASlidingOneClimbs) {
 
     // A keyboard that slides out while the option is on climbs 600 twips.
     shared.settings.tecladoPermanente = false;
-    ASSERT_TRUE(ConfSave(shared));
+    ASSERT_TRUE(ConfSave(shared, dialogs));
     QlvsModel sliding{shared, dialogs, random};
     sliding.load();
     shared.settings.tecladoPermanente = true;
