@@ -46,7 +46,6 @@ frmNames::frmNames(SharedState& shared, std::function<void()> closed, QWidget* p
                 [this, box](const QString& value) { m_model.setText(box, value.toStdString()); });
         auto* check = new QCheckBox(row);
         check->setGeometry(px(kWidth - 840), px(90), px(420), px(360));
-        check->setToolTip(QStringLiteral(" Marca dos jugadores para cambiarlos de lugar. "));
         connect(check, &QCheckBox::clicked, this, [this, box](bool) {
             m_checks[static_cast<std::size_t>(box - 1)]->setChecked(m_model.tick(box));
             if (m_model.changeTimerRunning()) {

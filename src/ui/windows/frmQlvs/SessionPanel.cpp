@@ -73,8 +73,6 @@ SessionPanel::SessionPanel(QlvsModel& model, std::function<void()> changed, QWid
     m_txtUser->setValidator(new StorableNameValidator(m_txtUser));
     m_txtUser->setGeometry(px(5880), px(180), px(3240), px(420));
     m_txtUser->setFont(Fonts::display(11));
-    m_txtUser->setToolTip(
-        QStringLiteral(" Nombre de la sesión nueva (clic derecho en el usuario para agregarla). "));
 
     m_lstSessions = new QListWidget(this);
     m_lstSessions->setFont(Fonts::display(12));

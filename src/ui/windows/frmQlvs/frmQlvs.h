@@ -71,6 +71,7 @@ public:
     QLineEdit* answerBox() const;
     QPushButton* answerOkButton() const;
     KeyboardView* keyboard() const { return m_keyboard; }
+    PhraseView* phraseView() const { return m_phrase; }
     QLabel* scoreLabel() const;
     QWidget* scoreFrame() const;
     QLabel* playerLabel() const;

@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "models/frmInicio/InicioModel.h"
+#include "support/Fakes.h"
+#include "support/TempFolder.h"
+#include "windows/frmQlvs/frmQlvs.h"
+#include "windows/frmWord2/frmWord2.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <memory>
+
+namespace quillora {
+
+namespace fs = std::filesystem;
+
+// A board window on a fresh data folder, and the ways a player drives it.
+
+class BoardWindow : public ::testing::Test {
+protected:
+    BoardWindow() {
+        shared.dataFolder = folder;
+        InicioLoad(shared);
+    }
+    void SetUp() override { SetUpBoard(); }
+    // A fresh board for the shared state as it stands.
+    void SetUpBoard() {
+        // No file yet: the theme is drawn, and a 0 reads as theme 1.
+        random.queue({0.0});
+        window = std::make_unique<frmQlvs>(shared, dialogs, random);
+        window->show();
+        window->activateWindow();
+        window->setFocus();
+    }
+    void TearDown() override { window.reset(); }
+
+    // Theme 1 ("ANIMAL"), phrase 2 ("VACA"), through the theme window.
+    void startVaca() {
+        random.queue({0.05});
+        QTest::keyClick(window.get(), Qt::Key_Return);
+        ASSERT_NE(window->themeWindow(), nullptr);
+        EXPECT_EQ(window->themeWindow()->themeLabel()->text(), "ANIMAL");
+        QTest::mouseClick(window->themeWindow()->acceptButton(), Qt::LeftButton);
+    }
+    void type(const QString& text, QWidget* target = nullptr) {
+        for (const QChar ch : text) {
+            QTest::sendKeyEvent(QTest::Click, target ? target : window.get(), Qt::Key_unknown,
+                                QString(ch), {});
+        }
+    }
+    void openKeyboard() {
+        while (window->model().openTimerRunning()) {
+            window->model().tickOpen();
+        }
+        window->sync();
+    }
+    QString strike(int slot) const { return window->strikeLabel(slot)->text(); }
+
+    TempFolder temp{"quillora-board"};
+    const fs::path& folder = temp.path();
+    SharedState shared;
+    ScriptedDialogs dialogs;
+    QueuedRandom random;
+    std::unique_ptr<frmQlvs> window;
+};
+
+} // namespace quillora

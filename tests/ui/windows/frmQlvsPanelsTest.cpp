@@ -1,0 +1,221 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/Fonts.h"
+#include "ports/Random.h"
+#include "storage/ConfigFile.h"
+#include "support/BoardFixture.h"
+#include "windows/frmNames/frmNames.h"
+#include "windows/frmQlvs/KeyboardView.h"
+#include "windows/frmQlvs/PhraseView.h"
+#include "windows/frmQlvs/SessionPanel.h"
+#include "windows/frmQlvs/SidePanel.h"
+
+#include <QHelpEvent>
+#include <QInputMethodEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QToolTip>
+
+#include <stdexcept>
+
+namespace quillora {
+namespace {
+
+// What reaches the board's controls from the mouse and the keyboard, and
+// what the panels show around the game.
+using BoardPanels = BoardWindow;
+
+void commit(QWidget* box, const QString& text) {
+    QInputMethodEvent composed;
+    composed.setCommitString(text);
+    QCoreApplication::sendEvent(box, &composed);
+}
+
+TEST_F(BoardPanels, TheRestoreLabelBringsJugarBackAndStartsNothing) {
+    QMenu* menu = window->buildPlayMenu();
+    menu->actions().at(1)->trigger(); // "Desaparecer botón"
+    delete menu;
+    ASSERT_TRUE(window->restoreLabel()->isVisible());
+    EXPECT_EQ(window->restoreLabel()->toolTip(), QStringLiteral(" Regresar botón JUGAR. "));
+
+    QTest::mouseClick(window->restoreLabel(), Qt::LeftButton);
+    EXPECT_TRUE(window->playButton()->isVisible());
+    EXPECT_TRUE(window->smallPlayButton()->isVisible());
+    EXPECT_FALSE(shared.settings.sinBotonJugar);
+    EXPECT_EQ(window->themeWindow(), nullptr) << "the click only restores";
+    EXPECT_EQ(window->statusLabel()->text(), "NUEVA PARTIDA");
+}
+
+TEST_F(BoardPanels, BehindTheSessionPanelAndTheLockNoShortcutActs) {
+    const bool sounds = shared.settings.sonidos;
+    QTest::keyClick(window.get(), Qt::Key_F4);
+    ASSERT_TRUE(window->model().panel().shown());
+    QTest::keyClick(window.get(), Qt::Key_J, Qt::ControlModifier);
+    QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier);
+    QTest::keyClick(window.get(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(window.get(), Qt::Key_Backspace, Qt::AltModifier);
+    EXPECT_EQ(window->namesWindow(), nullptr);
+    EXPECT_EQ(shared.settings.sonidos, sounds);
+    EXPECT_FALSE(shared.settings.fraseAutomatica);
+    EXPECT_FALSE(window->model().menuRequested());
+
+    QLineEdit* key = window->sessionPanel()->keyBox();
+    key->setFocus();
+    QTest::keyClick(key, Qt::Key_Return); // an empty key locks too
+    ASSERT_TRUE(shared.locked);
+    window->setFocus();
+    QTest::keyClick(window.get(), Qt::Key_F4);
+    QTest::keyClick(window.get(), Qt::Key_J, Qt::ControlModifier);
+    QTest::keyClick(window.get(), Qt::Key_Return);
+    EXPECT_TRUE(window->model().panel().shown()) << "F4 does not close a locked panel";
+    EXPECT_EQ(window->namesWindow(), nullptr);
+    EXPECT_EQ(window->themeWindow(), nullptr);
+    EXPECT_FALSE(window->smallPlayButton()->isEnabled());
+}
+
+TEST_F(BoardPanels, TheBoardsShortcutsComeBeforeTheAnswerBox) {
+    startVaca();
+    type("z");
+    type("!");
+    QLineEdit* box = window->answerBox();
+    ASSERT_TRUE(box->isVisible());
+    box->setFocus();
+    QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_TRUE(shared.settings.fraseAutomatica);
+    dialogs.answer({false});
+    QTest::keyClick(box, Qt::Key_Delete);
+    ASSERT_FALSE(dialogs.shown.empty());
+    EXPECT_EQ(dialogs.shown.back().text, Round::correctionQuestion(3));
+}
+
+TEST_F(BoardPanels, OnlyWhatTheGameAcceptsIsComposed) {
+    startVaca();
+    // A dead acute and "a" make "á", which the board has no key for.
+    QTest::sendKeyEvent(QTest::Click, window.get(), Qt::Key_Dead_Acute, QString(), {});
+    type("a");
+    EXPECT_TRUE(window->model().round().board().triedLetters().empty());
+    EXPECT_EQ(strike(1), "");
+
+    type("!");
+    QLineEdit* box = window->answerBox();
+    commit(box, QStringLiteral("h\u00FAa"));
+    EXPECT_EQ(box->text(), "ha") << "an input method's accents stay out";
+    commit(box, QStringLiteral("\u00F1"));
+    EXPECT_EQ(box->text(), QStringLiteral("ha\u00F1"));
+}
+
+TEST_F(BoardPanels, TheSmallJugarReadsNuevaPartidaAndComesBackAfterTheCount) {
+    startVaca();
+    EXPECT_EQ(window->smallPlayButton()->text(), "NUEVA PARTIDA");
+    type("vac");
+    window->model().tickScore();
+    window->sync();
+    EXPECT_FALSE(window->smallPlayButton()->isEnabled()) << "not while the points count";
+    int ticks = 0;
+    while (window->model().scoreTimerRunning() && ticks++ < 1000) {
+        window->model().tickScore();
+    }
+    window->sync();
+    EXPECT_TRUE(window->smallPlayButton()->isEnabled());
+    QTest::mouseClick(window->smallPlayButton(), Qt::LeftButton);
+    EXPECT_EQ(window->smallPlayButton()->text(), "JUGAR");
+}
+
+TEST_F(BoardPanels, ALostGameLeavesItsTitleWhenTheBoardIsCleared) {
+    startVaca();
+    type("bdefghij");
+    EXPECT_NE(window->windowTitle(), "Quillora Vesta | Puntos");
+    QTest::keyClick(window.get(), Qt::Key_F2);
+    EXPECT_EQ(window->windowTitle(), "Quillora Vesta | Puntos");
+}
+
+TEST_F(BoardPanels, WithoutPointsJugarAndTheThemeMoveBesideTheBoard) {
+    const QPoint normal = window->playButton()->mapTo(window.get(), QPoint());
+    const QPoint theme = window->themeLabel()->mapTo(window.get(), QPoint());
+    shared.settings.sistemaPuntos = false;
+    ASSERT_TRUE(ConfSave(shared, dialogs));
+    SetUpBoard();
+    EXPECT_LT(window->playButton()->mapTo(window.get(), QPoint()).y(), normal.y());
+    EXPECT_GT(window->themeLabel()->mapTo(window.get(), QPoint()).y(), theme.y());
+    EXPECT_FALSE(window->scoreFrame()->isVisible());
+}
+
+TEST_F(BoardPanels, EveryReleaseOfTheMouseTakesTheCorrectionOfferAway) {
+    startVaca();
+    type("z");
+    QTest::mouseMove(window->quitLabel());
+    ASSERT_EQ(window->quitLabel()->text(), "<");
+    QTest::mouseClick(window->statusLabel(), Qt::LeftButton);
+    EXPECT_EQ(window->quitLabel()->text(), "");
+    EXPECT_EQ(window->quitLabel()->toolTip(), " Octavo Strike. ");
+}
+
+TEST_F(BoardPanels, MessageBoxesComeUpOverTheBoardAsItStands) {
+    startVaca();
+    type("z");
+    bool sidePanel = false;
+    QString slotOne = QStringLiteral("unseen");
+    dialogs.onAsk = [&] {
+        sidePanel = window->sidePanel()->isVisible();
+        slotOne = strike(1);
+    };
+    dialogs.answer({true});
+    QTest::keyClick(window.get(), Qt::Key_Delete);
+    ASSERT_EQ(dialogs.shown.size(), 2U);
+    EXPECT_EQ(slotOne, "") << "the notice after the correction shows the strike gone";
+    EXPECT_TRUE(sidePanel) << "the correction's boxes stand over the empty side panel";
+    EXPECT_FALSE(window->sidePanel()->isVisible());
+}
+
+TEST_F(BoardPanels, EveryTextAndTooltipIsTheGamesOwn) {
+    EXPECT_TRUE(window->themeLabel()->toolTip().isEmpty());
+    EXPECT_TRUE(window->sessionPanel()->userBox()->toolTip().isEmpty());
+    EXPECT_EQ(window->counterLabel()->toolTip(), " Letras reveladas. ");
+    openKeyboard();
+    KeyboardView* keys = window->keyboard();
+    auto tipAt = [keys](int key) {
+        const QPoint at = keys->keyRect(key).center();
+        QHelpEvent help(QEvent::ToolTip, at, keys->mapToGlobal(at));
+        QCoreApplication::sendEvent(keys, &help);
+        return QToolTip::isVisible() ? QToolTip::text() : QString();
+    };
+    EXPECT_EQ(tipAt(1), "") << "a letter says nothing";
+    EXPECT_EQ(tipAt(kWriteKey), " Escribir respuesta. ");
+    EXPECT_EQ(tipAt(kDigitPanelKey), QStringLiteral(" Mostrar números "));
+    const QFont letters = window->phraseView()->cellFont();
+    EXPECT_TRUE(letters.bold()) << letters.toString().toStdString();
+    EXPECT_EQ(letters.family(), Fonts::displayFamily());
+}
+
+// A clock that fails once, as the board opens: with no file yet, the
+// opening draws a theme.
+struct BrokenRandom : Random {
+    void reseed() override {}
+    double fraction() override {
+        if (!failed) {
+            failed = true;
+            throw std::runtime_error("no clock");
+        }
+        return 0.3;
+    }
+    bool failed = false;
+};
+
+TEST_F(BoardPanels, AStepThatFailsOnOpeningIsToldInTheTitleAndTheBoardPlays) {
+    window.reset();
+    BrokenRandom broken;
+    frmQlvs board(shared, dialogs, broken);
+    board.show();
+    EXPECT_EQ(board.windowTitle(), "Quillora Vesta | Puntos | Error al cargar datos");
+    QTest::keyClick(&board, Qt::Key_Return);
+    EXPECT_NE(board.themeWindow(), nullptr) << "the board still plays";
+}
+
+TEST_F(BoardPanels, TheMenuGoesBackWhereTheBoardCameFrom) {
+    const QPoint menu(640, 400);
+    window->placeOver(menu);
+    EXPECT_EQ(window->menuCentre(), menu);
+}
+
+} // namespace
+} // namespace quillora
