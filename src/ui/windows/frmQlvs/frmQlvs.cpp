@@ -7,6 +7,8 @@
 #include "windows/QtColour.h"
 #include "windows/frmNames/frmNames.h"
 #include "windows/frmQlvs/AnswerPanel.h"
+#include "windows/frmQlvs/BoardKeys.h"
+#include "windows/frmQlvs/BoardPopup.h"
 #include "windows/frmQlvs/GallowsView.h"
 #include "windows/frmQlvs/KeyboardView.h"
 #include "windows/frmQlvs/PhraseView.h"
@@ -48,74 +50,6 @@ constexpr int kCounterLeft = 10200, kCounterTop = 1050, kCounterWidth = 1095, kC
 constexpr int kQueEsLeft = 240, kQueEsTop = 4380, kQueEsWidth = 2520, kQueEsHeight = 360;
 constexpr int kAutoLeft = 2610, kAutoTop = 345, kAutoSize = 330;
 constexpr int kCopyLeft = 2130, kCopyTop = 3630, kCopyWidth = 780, kCopyHeight = 435;
-
-// The keys of the board's shortcut table, as the model knows them.
-QlvsModel::WindowKey shortcutOf(const QKeyEvent& event) {
-    using WindowKey = QlvsModel::WindowKey;
-    const auto mods = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
-    if (mods == Qt::ControlModifier) {
-        switch (event.key()) {
-        case Qt::Key_A:
-            return WindowKey::ToggleAuto;
-        case Qt::Key_S:
-            return WindowKey::ToggleSounds;
-        case Qt::Key_J:
-            return WindowKey::Names;
-        case Qt::Key_H:
-            return WindowKey::History;
-        case Qt::Key_D:
-            return WindowKey::Design;
-        default:
-            return WindowKey::Other;
-        }
-    }
-    if (mods == Qt::AltModifier) {
-        return event.key() == Qt::Key_Backspace ? WindowKey::BackToMenu : WindowKey::Other;
-    }
-    switch (event.key()) {
-    case Qt::Key_F1:
-        return WindowKey::F1;
-    case Qt::Key_F2:
-        return WindowKey::F2;
-    case Qt::Key_F3:
-        return WindowKey::F3;
-    case Qt::Key_F4:
-        return WindowKey::F4;
-    case Qt::Key_F5:
-        return WindowKey::F5;
-    case Qt::Key_Delete:
-        return WindowKey::Delete;
-    case Qt::Key_Escape:
-        return WindowKey::Escape;
-    case Qt::Key_Menu:
-        return WindowKey::MenuKey;
-    default:
-        return WindowKey::Other;
-    }
-}
-
-// The spacing form of a dead key, which the model composes with the next
-// character; 0 for any other key.
-char32_t deadAccent(int key) {
-    switch (key) {
-    case Qt::Key_Dead_Acute:
-        return U'\u00B4';
-    case Qt::Key_Dead_Grave:
-        return U'`';
-    case Qt::Key_Dead_Circumflex:
-        return U'^';
-    case Qt::Key_Dead_Diaeresis:
-        return U'\u00A8';
-    case Qt::Key_Dead_Tilde:
-        return U'~';
-    case Qt::Key_Dead_Abovering:
-        return U'\u00B0';
-    case Qt::Key_Dead_Cedilla:
-        return U'\u00B8';
-    default:
-        return key >= Qt::Key_Dead_Grave && key <= Qt::Key_Dead_Longsolidusoverlay ? U'\u02D9' : 0;
-    }
-}
 
 } // namespace
 
@@ -529,57 +463,13 @@ bool frmQlvs::eventFilter(QObject* watched, QEvent* event) {
 }
 
 QMenu* frmQlvs::buildPopup() {
-    auto* menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    const Round& round = m_model.round();
-    const Settings& settings = m_model.shared().settings;
-    auto entry = [&](const char* text, std::function<void()> action, bool enabled = true) {
-        QAction* a = menu->addAction(QString::fromUtf8(text));
-        a->setEnabled(enabled);
-        if (action) {
-            connect(a, &QAction::triggered, this, [this, action] {
-                action();
-                sync();
-            });
-        }
-        return a;
-    };
-    auto check = [](QAction* a, bool on) {
-        a->setCheckable(true);
-        a->setChecked(on);
-    };
-    // Entries whose windows come later are listed in their places, greyed.
-    entry(
-        "Nuevo partida", [this] { m_model.eMenuNew(); }, round.newGameEnabled());
-    menu->addSeparator();
-    entry("Reiniciar", [this] { m_model.eDReBoot(); });
-    entry("Bloquear", [this] { m_model.eBlueScreen(); });
-    if (m_model.scoring().pointsCount()) {
-        entry(settings.supervivencia ? "Modo normal" : "Modo supervivencia", nullptr, false);
-        entry("Estadísticas", nullptr, false);
-    }
-    if (m_model.deleteShown()) {
-        entry("Eliminar sesión", [this] { m_model.deleteSession(); });
-    }
-    entry("Volver al menú", [this] { m_model.eMenuBack(); });
-    menu->addSeparator();
-    check(entry("Mostrar sonidos", [this] { m_model.toggleSounds(); }), settings.sonidos);
-    check(entry("Frase automática", [this] { m_model.eMenuAuto(); }), settings.fraseAutomatica);
-    check(entry("Estado animado", [this] { m_model.toggleAnimation(); }), settings.animacion);
-    menu->addSeparator();
-    entry("Editar jugadores", [this] { eNames(); });
-    entry("Historial", nullptr, false);
-    entry("Cambiar diseño", nullptr, false);
-    menu->addSeparator();
-    entry("Ayuda", nullptr, false);
-    entry("Acerca", nullptr, false);
-    menu->addSeparator();
-    entry("Salir", [this] {
-        if (onClose) {
-            onClose();
-        }
-    });
-    return menu;
+    return buildBoardPopup(
+        m_model, this, [this] { sync(); }, [this] { eNames(); },
+        [this] {
+            if (onClose) {
+                onClose();
+            }
+        });
 }
 
 void frmQlvs::eNames() {

@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <functional>
+
+class QMenu;
+class QWidget;
+
+namespace quillora {
+
+class QlvsModel;
+
+// The board's popup menu, built afresh for the state of the board: every
+// entry calls its routine, then `changed`; "Editar jugadores" and "Salir"
+// are the board's own to carry out.
+QMenu* buildBoardPopup(QlvsModel& model, QWidget* board, const std::function<void()>& changed,
+                       const std::function<void()>& names, const std::function<void()>& quit);
+
+} // namespace quillora
