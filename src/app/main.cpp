@@ -61,8 +61,10 @@ private:
         menu->onPlay = [this] { later([this] { openBoard(); }); };
         menu->onQuit = [] { QCoreApplication::quit(); };
         if (boardCentre) {
-            menu->move(*boardCentre - QPoint(menu->frameGeometry().width() / 2,
-                                             menu->frameGeometry().height() / 2));
+            // A window not shown yet has no frame: the one it replaces had the
+            // same, so trips between the two leave both where they were.
+            const QSize outer = menu->size() + m_frame;
+            menu->move(*boardCentre - QPoint(outer.width() / 2, outer.height() / 2));
         } else {
             centre(*menu);
         }
@@ -71,7 +73,9 @@ private:
     }
 
     void openBoard() {
-        const QPoint menuCentre = m_window ? m_window->frameGeometry().center() : QPoint();
+        const QRect menuFrame = m_window ? m_window->frameGeometry() : QRect();
+        const QPoint menuCentre =
+            menuFrame.topLeft() + QPoint(menuFrame.width() / 2, menuFrame.height() / 2);
         auto board = std::make_unique<quillora::frmQlvs>(m_shared, m_dialogs, m_random);
         board->onRestart = [this] { later([this] { start(); }); };
         board->onClose = [] { QCoreApplication::quit(); };
@@ -93,6 +97,7 @@ private:
     // hidden now and deleted later.
     void replace(std::unique_ptr<QWidget> next) {
         if (m_window) {
+            m_frame = m_window->frameGeometry().size() - m_window->size();
             m_window->hide();
             m_window.release()->deleteLater();
         }
@@ -111,6 +116,8 @@ private:
     quillora::ClockRandom m_random;
     quillora::QtWeb m_web;
     std::unique_ptr<QWidget> m_window;
+    // What the window system's frame adds to a window of the game.
+    QSize m_frame;
 };
 
 } // namespace
