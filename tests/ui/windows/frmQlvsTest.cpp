@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/frmQlvs/frmQlvs.h"
-#include "support/BoardFixture.h"
 #include "models/frmInicio/InicioModel.h"
 #include "players/Players.h"
 #include "storage/ConfigFile.h"
+#include "support/BoardFixture.h"
 #include "support/Fakes.h"
 #include "support/TempFolder.h"
 #include "windows/frmNames/frmNames.h"
