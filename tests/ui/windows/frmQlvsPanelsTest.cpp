@@ -11,9 +11,11 @@
 #include "windows/frmQlvs/SidePanel.h"
 
 #include <QHelpEvent>
+#include <QDragEnterEvent>
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMimeData>
 #include <QToolTip>
 
 #include <stdexcept>
@@ -71,6 +73,17 @@ TEST_F(BoardPanels, BehindTheSessionPanelAndTheLockNoShortcutActs) {
     EXPECT_EQ(window->namesWindow(), nullptr);
     EXPECT_EQ(window->themeWindow(), nullptr);
     EXPECT_FALSE(window->smallPlayButton()->isEnabled());
+
+    // Nor does a user dropped on the board, who would take its place.
+    random.queue({0.1});
+    ASSERT_TRUE(NewConfFile(folder / "ana.txt", "Ana", random));
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QString::fromStdString((folder / "ana.txt").string()))});
+    QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(window.get(), &enter);
+    EXPECT_FALSE(enter.isAccepted());
+    window->model().dropFiles({(folder / "ana.txt").string()});
+    EXPECT_EQ(shared.currentSlot, 0);
 }
 
 TEST_F(BoardPanels, TheBoardsShortcutsComeBeforeTheAnswerBox) {

@@ -339,6 +339,10 @@ void QlvsModel::deleteSession() {
 }
 
 void QlvsModel::dropFiles(const std::vector<std::string>& paths) {
+    // A user brought in by a dropped file would walk past the lock.
+    if (!dropsAccepted()) {
+        return;
+    }
     sessionChanged(m_sessions.addFromFiles(paths, m_round.state().manyErrors));
 }
 

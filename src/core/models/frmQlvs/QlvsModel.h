@@ -159,6 +159,7 @@ public:
     void addSession(const std::string& typedName, std::string& shownName);
     void switchSession(int slot);
     void deleteSession();
+    bool dropsAccepted() const { return !m_shared.locked; }
     void dropFiles(const std::vector<std::string>& paths);
     void keyEntered(const std::string& typed);
 

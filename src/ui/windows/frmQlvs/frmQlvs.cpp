@@ -522,7 +522,7 @@ void frmQlvs::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void frmQlvs::dragEnterEvent(QDragEnterEvent* event) {
-    if (event->mimeData()->hasUrls()) {
+    if (event->mimeData()->hasUrls() && m_model.dropsAccepted()) {
         event->acceptProposedAction();
     }
 }
