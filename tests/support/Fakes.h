@@ -12,6 +12,7 @@
 #include <deque>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace quillora {
@@ -33,16 +34,10 @@ public:
     }
 
     void message(Icon icon, const std::string& text, const std::string& title) override {
-        if (onAsk) {
-            onAsk();
-        }
-        shown.push_back({false, icon, text, title});
+        show({false, icon, text, title});
     }
     bool ask(Question kind, const std::string& text, const std::string& title) override {
-        if (onAsk) {
-            onAsk();
-        }
-        shown.push_back({true, Icon::Information, text, title, kind});
+        show({true, Icon::Information, text, title, kind});
         if (m_answers.empty()) {
             ADD_FAILURE() << "unexpected question: " << text;
             return false;
@@ -59,6 +54,13 @@ public:
     std::vector<Shown> shown;
 
 private:
+    void show(Shown box) {
+        if (onAsk) {
+            onAsk();
+        }
+        shown.push_back(std::move(box));
+    }
+
     std::deque<bool> m_answers;
 };
 
@@ -95,11 +97,7 @@ struct RecordingEvents : RoundEvents {
     void settingsChanged() override { ++saved; }
     void titleChanged() override { ++titles; }
 
-    int turns = 0;
-    int titles = 0;
-    int won = 0;
-    int lost = 0;
-    int saved = 0;
+    int turns = 0, titles = 0, won = 0, lost = 0, saved = 0;
     std::vector<bool> panelShown;
 };
 

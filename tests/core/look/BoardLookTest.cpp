@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace quillora {
 namespace {
 
@@ -13,96 +15,59 @@ constexpr Rgb kRed{255, 0, 0};
 constexpr Rgb kOrange{255, 128, 0};
 constexpr Rgb kBlue{0, 0, 255};
 
-struct ShadeCase {
-    Rgb colour;
-    Rgb shade;
-};
-
-class ShadeTest : public ::testing::TestWithParam<ShadeCase> {};
-
-TEST_P(ShadeTest, ComponentsAboveThirtyDropAndTheOthersRise) {
-    EXPECT_EQ(eColor(GetParam().colour), GetParam().shade);
-}
-
-INSTANTIATE_TEST_SUITE_P(Colours, ShadeTest,
-                         ::testing::Values(ShadeCase{kDefaultBlue, {60, 90, 210}},
-                                           ShadeCase{{30, 31, 0}, {60, 1, 30}},
-                                           ShadeCase{{31, 30, 255}, {1, 60, 225}},
-                                           ShadeCase{{255, 255, 255}, {225, 225, 225}}));
-
-struct StyleCase {
-    int estilo;
-    bool opaca, blanca, linea;
-    int cell;
-    CellLook look;
-};
-
-class LetterStyleTest : public ::testing::TestWithParam<StyleCase> {};
-
-TEST_P(LetterStyleTest, CellLooksFollowStyleAndFlags) {
-    const StyleCase& c = GetParam();
+Settings style(int estilo, bool opaca, bool blanca, bool linea) {
     Settings s;
-    s.estilo = c.estilo;
-    s.letraOpaca = c.opaca;
-    s.letraBlanca = c.blanca;
-    s.lineaBlanca = c.linea;
-    const CellLook look = ApplyLetterStyle(s, c.cell);
-    EXPECT_EQ(look.background, c.look.background);
-    EXPECT_EQ(look.filled, c.look.filled);
-    EXPECT_EQ(look.letter, c.look.letter);
-    EXPECT_EQ(look.underline, c.look.underline);
+    s.estilo = estilo;
+    s.letraOpaca = opaca;
+    s.letraBlanca = blanca;
+    s.lineaBlanca = linea;
+    return s;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Styles, LetterStyleTest,
-    ::testing::Values(StyleCase{0, false, false, false, 1, {kWhite, false, kBlack, kBlack}},
-                      StyleCase{0, true, true, true, 1, {kWhite, true, kWhite, kWhite}},
-                      StyleCase{1, true, true, false, 1, {kWhite, false, kBlack, kBlack}},
-                      StyleCase{2, false, false, false, 1, {kRed, true, kBlack, kBlack}},
-                      StyleCase{2, true, true, false, 5, {kBlue, true, kBlack, kBlack}},
-                      StyleCase{2, false, false, true, 6, {kRed, true, kBlack, kWhite}},
-                      StyleCase{2, false, false, false, 15, {kBlue, true, kBlack, kBlack}},
-                      StyleCase{2, false, false, false, 16, {kRed, true, kBlack, kBlack}},
-                      StyleCase{2, false, false, false, 42, {kOrange, true, kBlack, kBlack}},
-                      StyleCase{3, true, false, true, 1, {kBlack, true, kWhite, kWhite}},
-                      StyleCase{4, true, true, true, 1, {kWhite, false, kInkBlue, kInkBlue}},
-                      StyleCase{4, false, false, false, 2, {kWhite, false, kInkBlue, kInkBlue}}));
-
-struct BackgroundCase {
-    int estilo;
-    bool blanca, linea;
-    Rgb expected;
-};
-
-class WindowBackgroundTest : public ::testing::TestWithParam<BackgroundCase> {};
-
-TEST_P(WindowBackgroundTest, LightBlueBehindWhiteLinesOrWhiteLettersOutsideStyleThree) {
-    Settings s;
-    s.estilo = GetParam().estilo;
-    s.letraBlanca = GetParam().blanca;
-    s.lineaBlanca = GetParam().linea;
-    s.letraOpaca = true;
-    EXPECT_EQ(windowBackground(s), GetParam().expected);
+TEST(BoardLookTest, ShadesDropComponentsAboveThirtyAndRaiseTheOthers) {
+    EXPECT_EQ(eColor(kDefaultBlue), (Rgb{60, 90, 210}));
+    EXPECT_EQ(eColor({30, 31, 0}), (Rgb{60, 1, 30}));
+    EXPECT_EQ(eColor({31, 30, 255}), (Rgb{1, 60, 225}));
+    EXPECT_EQ(eColor({255, 255, 255}), (Rgb{225, 225, 225}));
 }
 
-INSTANTIATE_TEST_SUITE_P(Flags, WindowBackgroundTest,
-                         ::testing::Values(BackgroundCase{1, false, false, kNearWhite},
-                                           BackgroundCase{3, false, true, kLightBlueBackground},
-                                           BackgroundCase{3, true, false, kNearWhite},
-                                           BackgroundCase{0, true, false, kLightBlueBackground},
-                                           BackgroundCase{4, true, false, kLightBlueBackground},
-                                           BackgroundCase{2, false, true, kLightBlueBackground}));
+TEST(BoardLookTest, CellLooksFollowStyleAndFlags) {
+    using Look = std::tuple<Rgb, bool, Rgb, Rgb>; // background, filled, letter, underline
+    const std::vector<std::tuple<Settings, int, Look>> cases{
+        {style(0, false, false, false), 1, {kWhite, false, kBlack, kBlack}},
+        {style(0, true, true, true), 1, {kWhite, true, kWhite, kWhite}},
+        {style(1, true, true, false), 1, {kWhite, false, kBlack, kBlack}},
+        {style(2, false, false, false), 1, {kRed, true, kBlack, kBlack}},
+        {style(2, true, true, false), 5, {kBlue, true, kBlack, kBlack}},
+        {style(2, false, false, true), 6, {kRed, true, kBlack, kWhite}},
+        {style(2, false, false, false), 15, {kBlue, true, kBlack, kBlack}},
+        {style(2, false, false, false), 16, {kRed, true, kBlack, kBlack}},
+        {style(2, false, false, false), 42, {kOrange, true, kBlack, kBlack}},
+        {style(3, true, false, true), 1, {kBlack, true, kWhite, kWhite}},
+        {style(4, true, true, true), 1, {kWhite, false, kInkBlue, kInkBlue}},
+        {style(4, false, false, false), 2, {kWhite, false, kInkBlue, kInkBlue}}};
+    for (const auto& [settings, cell, expected] : cases) {
+        const CellLook look = ApplyLetterStyle(settings, cell);
+        EXPECT_EQ(Look(look.background, look.filled, look.letter, look.underline), expected)
+            << "style " << settings.estilo << ", cell " << cell;
+    }
+}
+
+TEST(BoardLookTest, LightBlueBehindWhiteLinesOrWhiteLettersOutsideStyleThree) {
+    EXPECT_EQ(windowBackground(style(1, true, false, false)), kNearWhite);
+    EXPECT_EQ(windowBackground(style(3, true, false, true)), kLightBlueBackground);
+    EXPECT_EQ(windowBackground(style(3, true, true, false)), kNearWhite);
+    EXPECT_EQ(windowBackground(style(0, true, true, false)), kLightBlueBackground);
+    EXPECT_EQ(windowBackground(style(4, true, true, false)), kLightBlueBackground);
+    EXPECT_EQ(windowBackground(style(2, true, false, true)), kLightBlueBackground);
+}
 
 TEST(BoardLookTest, LampsMissesAndKeysTakeTheirColours) {
     const Palette palette;
     EXPECT_EQ(lampColours(Lamp::Yellow, palette).dark, (Rgb{220, 180, 0}));
     EXPECT_EQ(lampColours(Lamp::Green, palette).dark, (Rgb{0, 130, 0}));
-
-    Settings s;
-    s.estilo = 2;
-    EXPECT_EQ(missColour(s, palette), kNearWhite);
-    s.estilo = 3;
-    EXPECT_EQ(missColour(s, palette), kRedLamp);
+    EXPECT_EQ(missColour(style(2, false, false, false), palette), kNearWhite);
+    EXPECT_EQ(missColour(style(3, false, false, false), palette), kRedLamp);
 
     for (int key : {1, 5, 9, 16, 22, 28, 37, kDigitPanelKey, kWriteKey}) {
         EXPECT_EQ(keyRestColour(key), kKeyGrey) << key;

@@ -2,19 +2,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "models/frmInicio/InicioModel.h"
 #include "state/SharedState.h"
+#include "storage/ConfigFile.h"
 
 #include "support/Fakes.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
+#include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <chrono>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace quillora {
@@ -22,53 +26,42 @@ namespace {
 
 namespace fs = std::filesystem;
 
-int runTimer(InicioModel& model) {
-    int ticks = 0;
-    while (model.timerRunning() && ticks < 1000) {
-        model.tick();
-        ++ticks;
-    }
-    return ticks;
-}
-
-TEST(StartScreen, HandsOverToTheMenuAfterSixtyFiveTicks) {
+TEST(StartScreen, TheLineRunsSixtyFiveTicksThenShowsTheMenuOrOffersTheFont) {
     SharedState shared;
-    InicioModel model(shared, true);
+    InicioModel withFont(shared, true);
+    InicioModel withoutFont(shared, false);
     for (int i = 0; i < 64; ++i) {
-        model.tick();
+        withFont.tick();
+        withoutFont.tick();
     }
-    EXPECT_EQ(model.outcome(), InicioModel::Outcome::Waiting);
-    model.tick();
-    EXPECT_EQ(model.outcome(), InicioModel::Outcome::ShowMenu);
-    EXPECT_FALSE(model.timerRunning());
-    EXPECT_EQ(model.lineLength(), 65 * 120);
-    EXPECT_FALSE(model.noticeShown());
-}
+    EXPECT_EQ(withFont.outcome(), InicioModel::Outcome::Waiting);
+    EXPECT_TRUE(withoutFont.timerRunning());
+    withFont.tick();
+    withoutFont.tick();
+    EXPECT_EQ(withFont.outcome(), InicioModel::Outcome::ShowMenu);
+    EXPECT_FALSE(withFont.timerRunning() || withoutFont.timerRunning());
+    EXPECT_EQ(withFont.lineLength(), 65 * 120);
+    EXPECT_FALSE(withFont.noticeShown());
+    EXPECT_TRUE(withoutFont.noticeShown());
+    EXPECT_EQ(withoutFont.outcome(), InicioModel::Outcome::Waiting);
 
-TEST(StartScreen, WithoutTheFontItStopsAtTheNoticeAndOffersTheDownload) {
-    SharedState shared;
     ScriptedDialogs dialogs;
     FakeWeb web;
-    InicioModel model(shared, false);
-    EXPECT_EQ(runTimer(model), 65);
-    EXPECT_TRUE(model.noticeShown());
-    EXPECT_EQ(model.outcome(), InicioModel::Outcome::Waiting);
-
     web.alive = false;
-    model.download(web, dialogs);
+    withoutFont.download(web, dialogs);
     ASSERT_EQ(dialogs.shown.size(), 1U);
     EXPECT_EQ(dialogs.shown[0].text,
               "Se requiere una conexión a Internet para descargar, intente más tarde.");
     EXPECT_TRUE(web.opened.empty());
-    EXPECT_FALSE(model.downloaded());
+    EXPECT_FALSE(withoutFont.downloaded());
 
     web.alive = true;
-    model.download(web, dialogs);
+    withoutFont.download(web, dialogs);
     EXPECT_EQ(web.opened.size(), 1U);
-    EXPECT_TRUE(model.downloaded());
-    EXPECT_EQ(model.pointerLeft(), InicioModel::kPointerAtRestart);
-    model.restart();
-    EXPECT_EQ(model.outcome(), InicioModel::Outcome::Restart);
+    EXPECT_TRUE(withoutFont.downloaded());
+    EXPECT_EQ(withoutFont.pointerLeft(), InicioModel::kPointerAtRestart);
+    withoutFont.restart();
+    EXPECT_EQ(withoutFont.outcome(), InicioModel::Outcome::Restart);
 }
 
 TEST(StartScreen, APlainRestartResetsTheUserButASwitchKeepsThem) {
@@ -141,6 +134,76 @@ TEST(StartScreen, ClearsLeftoverTemporaryFilesOfTheGameAndNothingElse) {
     }
     EXPECT_TRUE(fs::is_directory(at(".quillora-" + std::to_string(gone) + "-1-5.tmp")))
         << "the game never writes a folder of that name";
+}
+
+// --- a save killed half-way ------------------------------------------------------------
+
+constexpr int kKills = 200;
+constexpr int kLongestWaitMicroseconds = 3000;
+
+std::vector<fs::path> filesBeside(const fs::path& file) {
+    std::vector<fs::path> others;
+    for (const auto& entry : fs::directory_iterator(file.parent_path())) {
+        if (entry.path() != file) {
+            others.push_back(entry.path().filename());
+        }
+    }
+    return others;
+}
+
+// A real process saves the options over and over, two versions in turn, and
+// is killed at a random moment; the file must be one version or the other,
+// whole, and the next start must leave no temporary file behind. Kills that
+// land between two saves prove nothing, so the test also insists that some
+// of them caught a save under way.
+TEST(KilledSave, TheFileIsAlwaysWholeAndTheNextStartLeavesNoTemporaryFile) {
+    TempFolder folder("quillora-killed");
+    SharedState shared;
+    shared.dataFolder = folder.path();
+    InicioLoad(shared);
+    const fs::path file = shared.currentSession().Archivo;
+    ScriptedDialogs dialogs;
+
+    // Long enough lines that a save takes a moment.
+    shared.settings.fondo = std::string(3000, 'v');
+    shared.settings.nombre = "Nueva";
+    ASSERT_TRUE(ConfSave(shared, dialogs));
+    const std::string newer = slurp(file);
+    shared.settings.nombre = "Vieja";
+    shared.settings.carpetaFondo = std::string(2000, 'c');
+    ASSERT_TRUE(ConfSave(shared, dialogs));
+    const std::string older = slurp(file);
+    ASSERT_NE(older, newer);
+
+    std::mt19937 chance(std::random_device{}());
+    std::uniform_int_distribution<int> wait(0, kLongestWaitMicroseconds);
+    int caughtSaving = 0;
+    for (int kill = 0; kill < kKills; ++kill) {
+        const pid_t saver = ::fork();
+        ASSERT_NE(saver, -1);
+        if (saver == 0) {
+            SharedState mine = shared;
+            for (bool flip = false;; flip = !flip) {
+                mine.settings.nombre = flip ? "Nueva" : "Vieja";
+                mine.settings.carpetaFondo = flip ? "" : std::string(2000, 'c');
+                ConfSave(mine, dialogs);
+            }
+        }
+        std::this_thread::sleep_for(std::chrono::microseconds(wait(chance)));
+        ::kill(saver, SIGKILL);
+        int status = 0;
+        ASSERT_EQ(::waitpid(saver, &status, 0), saver);
+        ASSERT_TRUE(WIFSIGNALED(status));
+
+        const std::string bytes = slurp(file);
+        ASSERT_TRUE(bytes == older || bytes == newer)
+            << "kill " << kill << " left " << bytes.size() << " bytes";
+        caughtSaving += !filesBeside(file).empty();
+        InicioLoad(shared);
+        ASSERT_EQ(filesBeside(file), std::vector<fs::path>{}) << "kill " << kill;
+    }
+    EXPECT_GT(caughtSaving, 0) << "no kill landed during a save";
+    EXPECT_TRUE(dialogs.shown.empty());
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "models/frmQlvs/QlvsModel.h"
+#include "models/frmQlvs/SessionPanelModel.h"
 
 #include "storage/ConfigFile.h"
 #include "support/Fakes.h"
@@ -146,12 +147,6 @@ TEST_F(QlvsModelTest, KeyboardGrowsSixtyTwipsATickAndLampsFollowTheRound) {
     EXPECT_EQ(model.lampColours().dark, model.shade());
 }
 
-} // namespace
-} // namespace quillora
-
-namespace quillora {
-namespace {
-
 TEST(QlvsModelKeyboard, AKeptKeyboardIsThereAtOnceAndOnlyASlidingOneClimbs) {
     SharedState shared;
     ScriptedDialogs dialogs;
@@ -182,6 +177,83 @@ TEST(QlvsModelKeyboard, AKeptKeyboardIsThereAtOnceAndOnlyASlidingOneClimbs) {
         climbed += sliding.tickTop();
     }
     EXPECT_EQ(climbed, 600);
+}
+
+// --- the session panel ------------------------------------------------------------------
+
+class SessionPanelTest : public ::testing::Test {
+protected:
+    int ticksUntilStill() {
+        int ticks = 0;
+        while (panel.animating() && ticks < 1000) {
+            panel.tick();
+            ++ticks;
+        }
+        return ticks;
+    }
+
+    SharedState shared;
+    SessionPanelModel panel{shared};
+};
+
+TEST_F(SessionPanelTest, OpensInStepsShowsTheKeyOnArrivalAndASecondCallClosesIt) {
+    panel.eBlueScreen(2, true);
+    EXPECT_EQ(panel.height(), SessionPanelModel::kStartHeight);
+    EXPECT_EQ(panel.listTop(), 570 - 900);
+    EXPECT_FALSE(panel.keyFrameShown());
+    EXPECT_EQ(ticksUntilStill(), 25); // 135 + 25 * 240 reaches 6015
+    EXPECT_GE(panel.height(), SessionPanelModel::kOpenHeight);
+    EXPECT_TRUE(panel.keyFrameShown());
+    EXPECT_TRUE(panel.warningShown()) << "a game is being played";
+
+    panel.eBlueScreen(2, true);
+    ticksUntilStill();
+    EXPECT_FALSE(panel.shown());
+    EXPECT_LE(panel.height(), SessionPanelModel::kClosedHeight);
+}
+
+TEST_F(SessionPanelTest, EnterLocksThenOnlyTheExactKeyUnlocks) {
+    panel.eBlueScreen(1, false);
+    ticksUntilStill();
+    EXPECT_STREQ(panel.keyCaption(), "Escribe una clave:");
+    panel.enterKey("Clave");
+    EXPECT_TRUE(shared.locked);
+    EXPECT_STREQ(panel.keyCaption(), "BLOQUEADO");
+    EXPECT_TRUE(panel.secondBoxShown());
+    EXPECT_FALSE(panel.cancelShown());
+    EXPECT_FALSE(panel.f4Closes());
+
+    panel.enterKey("clave");
+    EXPECT_TRUE(shared.locked) << "the key is compared case by case";
+    EXPECT_TRUE(panel.wrongShown());
+    panel.tickWrong();
+    EXPECT_FALSE(panel.wrongShown());
+
+    panel.enterKey("Clave");
+    EXPECT_FALSE(shared.locked);
+    ticksUntilStill();
+    EXPECT_FALSE(panel.shown()) << "the right key closes the panel";
+
+    panel.eBlueScreen(1, false);
+    panel.enterKey("");
+    EXPECT_TRUE(shared.locked) << "an empty key locks and unlocks too";
+    panel.enterKey("");
+    EXPECT_FALSE(shared.locked);
+}
+
+TEST_F(SessionPanelTest, TheSessionListSlidesDownAndStops) {
+    panel.eBlueScreen(3, false);
+    panel.toggleList(3);
+    EXPECT_EQ(panel.listTop(), 570 - 1350);
+    int ticks = 0;
+    while (panel.listSliding() && ticks < 1000) {
+        panel.tickList();
+        ++ticks;
+    }
+    EXPECT_GE(panel.listTop(), 540);
+    EXPECT_LT(panel.listTop(), 600);
+    panel.toggleList(3);
+    EXPECT_FALSE(panel.listShown());
 }
 
 } // namespace

@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "players/Players.h"
 
+#include "models/frmNames/NamesModel.h"
+#include "models/frmWord1/Word1Model.h"
 #include "state/SharedState.h"
+#include "support/Fakes.h"
 
 #include <gtest/gtest.h>
 
@@ -11,16 +14,18 @@
 namespace quillora {
 namespace {
 
-SharedState withPlayers(int count) {
+// Four named players in a session of their own; the user is Lucía.
+SharedState players(int count, int slot = 0) {
     SharedState shared;
-    shared.currentSlot = 1;
-    shared.sessions[1].playerNames = {"Ana", "Beto", "Ciro", "Dora"};
+    shared.currentSlot = slot;
+    shared.current().playerNames = {"Ana", "Beto", "Ciro", "Dora"};
     setUpRoster(shared, count > 1, count);
+    shared.settings.nombre = "Lucía";
     return shared;
 }
 
 TEST(PlayersTest, MenuMovesGoRoundEveryPlayerAndLettersOnlyTheGuessers) {
-    SharedState shared = withPlayers(4);
+    SharedState shared = players(4, 1);
     shared.roster.currentPlayer = 3;
     std::vector<int> seen;
     for (auto move : {adelantar, adelantar, atrasar, eNext, eNext, eNext, eNext}) {
@@ -32,7 +37,7 @@ TEST(PlayersTest, MenuMovesGoRoundEveryPlayerAndLettersOnlyTheGuessers) {
 }
 
 TEST(PlayersTest, FreeTurnFreezesTheTurnAndKeepsItsCaption) {
-    SharedState shared = withPlayers(3);
+    SharedState shared = players(3, 1);
     toggleFreeTurn(shared);
     for (auto move : {eNext, adelantar, atrasar}) {
         move(shared);
@@ -46,7 +51,7 @@ TEST(PlayersTest, FreeTurnFreezesTheTurnAndKeepsItsCaption) {
 }
 
 TEST(PlayersTest, AlonePlayerIsTheUserWithoutTurnMoves) {
-    SharedState shared = withPlayers(0);
+    SharedState shared = players(0, 1);
     EXPECT_FALSE(shared.multiplayer);
     EXPECT_EQ(shared.playerCount, 1);
     shared.settings.nombre.clear();
@@ -60,7 +65,7 @@ TEST(PlayersTest, AlonePlayerIsTheUserWithoutTurnMoves) {
 }
 
 TEST(PlayersTest, TwoPlayersTakeTurnsWriting) {
-    SharedState shared = withPlayers(2);
+    SharedState shared = players(2, 1);
     std::vector<std::string> guessers;
     for (int game = 0; game < 3; ++game) {
         shared.playerCount = shared.roster.rosterSize;
@@ -72,6 +77,115 @@ TEST(PlayersTest, TwoPlayersTakeTurnsWriting) {
     }
     EXPECT_EQ(guessers, (std::vector<std::string>{"Beto", "Ana", "Beto"}));
     EXPECT_EQ(shared.sessions[1].playerNames[2], "Ciro") << "names past the players stay put";
+}
+
+// --- the names window -----------------------------------------------------------------
+
+TEST(NamesModelTest, ShowsThePlayersRowsAndGoesRoundThemOnEnter) {
+    const NamesModel four(players(4));
+    EXPECT_TRUE(four.rowVisible(4) && !four.rowVisible(5));
+    EXPECT_EQ(four.extraHeightTwips(), 1800);
+    EXPECT_EQ(four.enter(3).focusBox, 4);
+    EXPECT_EQ(four.enter(4).focusBox, 1);
+    EXPECT_FALSE(four.enter(4).close);
+    const NamesModel alone(players(1));
+    EXPECT_EQ(alone.text(1), "Lucía");
+    EXPECT_EQ(alone.extraHeightTwips(), 0);
+    EXPECT_TRUE(alone.enter(1).close);
+}
+
+TEST(NamesModelTest, TwoTicksSwapAndAThirdIsRefused) {
+    NamesModel model(players(4));
+    EXPECT_TRUE(model.tick(3));
+    EXPECT_FALSE(model.changeTimerRunning());
+    EXPECT_TRUE(model.tick(1));
+    EXPECT_FALSE(model.tick(4));
+    model.tickChange();
+    EXPECT_EQ(model.text(1), "Ciro");
+    EXPECT_EQ(model.text(3), "Ana");
+    EXPECT_FALSE(model.checked(1) || model.checked(3) || model.changeTimerRunning());
+}
+
+TEST(NamesModelTest, PlaceholderMakesWayAndFillsTheEmptyPlayersOnClose) {
+    SharedState shared = players(3);
+    NamesModel model(shared);
+    model.setText(2, "JUGADOR 2");
+    model.focusIn(2);
+    EXPECT_EQ(model.text(2), "");
+    model.setText(3, "");
+    model.setText(5, "Eva");
+    model.eOk(shared);
+    EXPECT_EQ(shared.sessions[0].playerNames,
+              (std::array<std::string, 9>{"Ana", "JUGADOR 2", "JUGADOR 3", "Dora", "Eva"}));
+    EXPECT_EQ(shared.settings.nombre, "Lucía");
+
+    SharedState alone = players(1);
+    NamesModel single(alone);
+    single.setText(1, "Marta");
+    single.eOk(alone);
+    EXPECT_EQ(alone.settings.nombre, "Marta");
+    EXPECT_EQ(alone.currentSession().displayName, "Marta");
+    EXPECT_EQ(alone.sessions[0].playerNames[0], "Ana");
+}
+
+// --- the phrase a friend writes ---------------------------------------------------------
+
+TEST(Word1ModelTest, KeysKeepTheAlphabetUpToTheLastCell) {
+    Word1Model model(SharedState{});
+    for (char32_t key : std::u32string_view(U" a\u00F1o \u00FA1!")) {
+        model.type(key);
+    }
+    EXPECT_EQ(model.phraseText(), "año 1");
+    EXPECT_EQ(model.previewRow(1), "AÑO 1");
+    model.setPhraseText("abcdefghijklmnopqrstuvwxyz0123456789abcdefgh");
+    EXPECT_FALSE(model.keyAllowed('g'));
+    EXPECT_TRUE(model.keyAllowed(8));
+    EXPECT_EQ(model.previewRow(2), "OPQRSTUVWXYZ01");
+    EXPECT_EQ(model.previewRow(3), "23456789ABCDEF");
+}
+
+TEST(Word1ModelTest, AcceptIsRefusedForEmptyLeadingBlankOrAccents) {
+    SharedState shared = players(3);
+    ScriptedDialogs dialogs;
+    Word1Model model(shared);
+    EXPECT_EQ(model.themeText(), "(Ninguno)");
+    for (const char* pasted : {"", " HOLA", "canción"}) {
+        model.setPhraseText(pasted);
+        EXPECT_FALSE(model.accept(shared, dialogs));
+    }
+    ASSERT_EQ(dialogs.shown.size(), 1u) << "only the accent is told about";
+    EXPECT_EQ(dialogs.shown[0].icon, Dialogs::Icon::Exclamation);
+    EXPECT_EQ(dialogs.shown[0].text,
+              "Espere, hay mínimo un símbolo o letra con acento, revise si los hay y quítelos.");
+    EXPECT_EQ(model.phraseText(), "CANCIÓN");
+    EXPECT_EQ(shared.playerCount, 3);
+}
+
+TEST(Word1ModelTest, AcceptMovesTheAuthorLastAndNamesTheTheme) {
+    SharedState shared = players(3);
+    adelantar(shared);
+    ScriptedDialogs dialogs;
+    Word1Model first(shared);
+    first.setThemeText("Animales");
+    first.setPhraseText("el  niño 7");
+    const auto phrase = first.accept(shared, dialogs);
+    ASSERT_TRUE(phrase);
+    EXPECT_EQ(phrase->phrase, "EL  NIÑO 7");
+    EXPECT_EQ(phrase->letterTotal, 7);
+    EXPECT_EQ(phrase->themeText, "Animales");
+    EXPECT_EQ(shared.sessions[0].playerNames,
+              (std::array<std::string, 9>{"Ana", "Ciro", "Beto", "Dora"}));
+    EXPECT_EQ(ePlayerName(shared, "").caption, "Ciro");
+    EXPECT_EQ(ePlayerName(shared, "").tooltip, " 2 Jugadores están jugando ");
+
+    setUpRoster(shared, true, 3);
+    Word1Model second(shared);
+    second.setThemeText("");
+    second.themeFocusOut();
+    second.themeFocusIn();
+    EXPECT_EQ(second.themeText(), "");
+    second.setPhraseText("GATO");
+    EXPECT_EQ(second.accept(shared, dialogs)->themeText, "Frase de Ana");
 }
 
 } // namespace

@@ -4,67 +4,43 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+#include <vector>
+
 namespace quillora {
 namespace {
 
-struct FilterCase {
-    int code;
-    bool boxHasText;
-    int expected;
-};
-
-class AnswerBoxFilterTest : public ::testing::TestWithParam<FilterCase> {};
-
-TEST_P(AnswerBoxFilterTest, LetsInTheAlphabetBackspaceAndASpaceAfterText) {
-    const FilterCase& c = GetParam();
-    EXPECT_EQ(Verificar_Tecla(c.code, c.boxHasText), c.expected);
+TEST(KeyboardTest, TheAnswerBoxLetsInTheAlphabetBackspaceAndASpaceAfterText) {
+    // The key typed, whether the box holds text, and what gets through.
+    const std::vector<std::tuple<int, bool, int>> keys{
+        {' ', false, 0},  {' ', true, ' '},  {8, false, 8},       {'a', false, 'a'},
+        {'Z', true, 'Z'}, {'0', false, '0'}, {0xF1, false, 0xF1}, {0xD1, true, 0xD1},
+        {0xE1, true, 0},  {0xC1, true, 0},   {0xFC, true, 0},     {'@', true, 0},
+        {'!', true, 0},   {'\t', true, 0},   {13, true, 0},       {0, true, 0},
+        {-65, true, 0}};
+    for (const auto& [code, boxHasText, expected] : keys) {
+        EXPECT_EQ(Verificar_Tecla(code, boxHasText), expected) << code << " " << boxHasText;
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(Keys, AnswerBoxFilterTest,
-                         ::testing::Values(FilterCase{' ', false, 0}, FilterCase{' ', true, ' '},
-                                           FilterCase{8, false, 8}, FilterCase{8, true, 8},
-                                           FilterCase{'a', false, 'a'}, FilterCase{'Z', true, 'Z'},
-                                           FilterCase{'0', false, '0'},
-                                           FilterCase{0xF1, false, 0xF1},
-                                           FilterCase{0xD1, true, 0xD1}, FilterCase{0xE1, true, 0},
-                                           FilterCase{0xC1, true, 0}, FilterCase{0xFC, true, 0},
-                                           FilterCase{'@', true, 0}, FilterCase{'!', true, 0},
-                                           FilterCase{'\t', true, 0}, FilterCase{13, true, 0},
-                                           FilterCase{0, true, 0}, FilterCase{-65, true, 0}));
-
-struct ComputerKeyCase {
-    char32_t typed;
-    KeyAction action;
-    char32_t letter;
-};
-
-class ComputerKeyTest : public ::testing::TestWithParam<ComputerKeyCase> {};
-
-TEST_P(ComputerKeyTest, GuessesInCapitalsTogglesOrSwallows) {
-    const ComputerKey key = mapComputerKey(GetParam().typed);
-    EXPECT_EQ(key.action, GetParam().action);
-    EXPECT_EQ(key.letter, GetParam().letter);
+TEST(KeyboardTest, ComputerKeysGuessInCapitalsToggleOrAreSwallowed) {
+    const std::vector<std::pair<char32_t, char32_t>> guesses{
+        {U'a', U'A'}, {U'z', U'Z'},           {U'Q', U'Q'}, {U'\u00F1', U'\u00D1'},
+        {U'0', U'0'}, {U'\u00D1', U'\u00D1'}, {U'9', U'9'}};
+    for (const auto& [typed, letter] : guesses) {
+        EXPECT_EQ(mapComputerKey(typed).action, KeyAction::Guess) << static_cast<unsigned>(typed);
+        EXPECT_EQ(mapComputerKey(typed).letter, letter) << static_cast<unsigned>(typed);
+    }
+    EXPECT_EQ(mapComputerKey(U'!').action, KeyAction::ToggleAnswer);
+    EXPECT_EQ(mapComputerKey(U'#').action, KeyAction::ToggleDigits);
+    for (const char32_t typed : {U'\u00E1', U'\u00DC', U' ', U'@'}) {
+        EXPECT_EQ(mapComputerKey(typed).action, KeyAction::None) << static_cast<unsigned>(typed);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Keys, ComputerKeyTest,
-                         ::testing::Values(ComputerKeyCase{U'a', KeyAction::Guess, U'A'},
-                                           ComputerKeyCase{U'z', KeyAction::Guess, U'Z'},
-                                           ComputerKeyCase{U'Q', KeyAction::Guess, U'Q'},
-                                           ComputerKeyCase{U'\u00F1', KeyAction::Guess, U'\u00D1'},
-                                           ComputerKeyCase{U'\u00D1', KeyAction::Guess, U'\u00D1'},
-                                           ComputerKeyCase{U'0', KeyAction::Guess, U'0'},
-                                           ComputerKeyCase{U'9', KeyAction::Guess, U'9'},
-                                           ComputerKeyCase{U'!', KeyAction::ToggleAnswer, 0},
-                                           ComputerKeyCase{U'#', KeyAction::ToggleDigits, 0},
-                                           ComputerKeyCase{U'\u00E1', KeyAction::None, 0},
-                                           ComputerKeyCase{U'\u00DC', KeyAction::None, 0},
-                                           ComputerKeyCase{U' ', KeyAction::None, 0},
-                                           ComputerKeyCase{U'@', KeyAction::None, 0}));
 
 TEST(KeyboardTest, EveryGuessingKeyMapsBackToItsOwnLetter) {
     for (int key = 1; key <= 37; ++key) {
-        const char32_t letter = keyLetter(key);
-        EXPECT_EQ(keyIndexOf(letter), key) << "key " << key;
+        EXPECT_EQ(keyIndexOf(keyLetter(key)), key) << "key " << key;
     }
     EXPECT_EQ(keyIndexOf(U'\u00D1'), 15);
     EXPECT_EQ(keyIndexOf(U'O'), 16);

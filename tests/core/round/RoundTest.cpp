@@ -1,15 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "round/Round.h"
+#include "models/frmWord1/Word1Model.h"
 #include "state/SharedState.h"
 #include "words/Text.h"
+#include "words/ThemeCatalogue.h"
 
 #include "support/Fakes.h"
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
+#include <tuple>
+#include <vector>
 
 namespace quillora {
 namespace {
@@ -48,7 +51,6 @@ TEST_F(RoundTest, KeysGuessOrToggleOnlyWhileAGameIsInPlay) {
     EXPECT_FALSE(round.digitPanelVisible() || round.answerBoxOpen());
 
     start("NIÑO");
-    EXPECT_EQ(round.status(), "JUGANDO...");
     EXPECT_EQ(round.pendingSound().number(), 2);
     for (char32_t typed : {U'\u00F1', U'\u00E1', U'@', U'o'}) {
         round.typeKey(typed);
@@ -145,28 +147,27 @@ TEST_F(RoundTest, RepeatedLetterOnlyLightsTheYellowLamp) {
     EXPECT_TRUE(round.correctionOffered()) << "a repeat clears the hit";
 }
 
-class RefusedAnswerTest
-    : public RoundTest,
-      public ::testing::WithParamInterface<std::pair<std::string, std::string>> {};
-
-TEST_P(RefusedAnswerTest, SymbolsAndAccentsKeepTheBoxOpenInCapitals) {
+TEST_F(RoundTest, SymbolsAndAccentsKeepTheAnswerBoxOpenInCapitals) {
     start();
     round.BotonRespuesta();
-    round.setAnswerBoxText(GetParam().first);
-    EXPECT_FALSE(round.cmdOk());
-    ASSERT_EQ(dialogs.shown.size(), 1u) << "no question after a refusal";
-    EXPECT_EQ(lastShown().icon, Dialogs::Icon::Exclamation);
-    EXPECT_EQ(lastShown().text,
-              "Espere, hay mínimo un símbolo o letra con acento, revise si los hay y quítelos.");
-    EXPECT_EQ(lastShown().title, "Quillora Vesta");
-    EXPECT_TRUE(round.answerBoxOpen());
-    EXPECT_EQ(round.answerBoxText(), GetParam().second);
+    const std::vector<std::pair<std::string, std::string>> refused{
+        {"CAS@", "CAS@"}, {"casá", "CASÁ"}, {"pingüino", "PINGÜINO"}, {"la\tcasa", "LA\tCASA"}};
+    for (const auto& [typed, shown] : refused) {
+        round.setAnswerBoxText(typed);
+        EXPECT_FALSE(round.cmdOk());
+        EXPECT_TRUE(round.answerBoxOpen());
+        EXPECT_EQ(round.answerBoxText(), shown);
+    }
+    ASSERT_EQ(dialogs.shown.size(), refused.size()) << "no question after a refusal";
+    for (const auto& box : dialogs.shown) {
+        EXPECT_EQ(box.icon, Dialogs::Icon::Exclamation);
+        EXPECT_EQ(
+            box.text,
+            "Espere, hay mínimo un símbolo o letra con acento, revise si los hay y quítelos.");
+        EXPECT_EQ(box.title, "Quillora Vesta");
+    }
+    EXPECT_FALSE(st().over);
 }
-
-INSTANTIATE_TEST_SUITE_P(Answers, RefusedAnswerTest,
-                         ::testing::Values(std::pair{"CAS@", "CAS@"}, std::pair{"casá", "CASÁ"},
-                                           std::pair{"pingüino", "PINGÜINO"},
-                                           std::pair{"la\tcasa", "LA\tCASA"}));
 
 TEST_F(RoundTest, AnsweringNoKeepsTheBoxOpenAndYesComparesInCapitals) {
     start("CODIGO        GENETICO");
@@ -186,33 +187,27 @@ TEST_F(RoundTest, AnsweringNoKeepsTheBoxOpenAndYesComparesInCapitals) {
     EXPECT_TRUE(round.board().cell(22).revealed);
 }
 
-struct WholeAnswer {
-    std::string phrase;
-    std::u32string hits;
-    std::string typed;
-    bool bonus;
-};
-
-class WholeAnswerTest : public RoundTest, public ::testing::WithParamInterface<WholeAnswer> {};
-
-TEST_P(WholeAnswerTest, HalfBonusOnlyWhenFewerThanHalfRevealed) {
-    start(GetParam().phrase);
-    guessAll(GetParam().hits);
-    guessAll(U"XYZW");
-    EXPECT_TRUE(answer(GetParam().typed));
-    EXPECT_EQ(round.status(), "¡VICTORIA!");
-    EXPECT_EQ(st().earlyAnswerBonus, GetParam().bonus);
-    EXPECT_EQ(st().slot(1), GetParam().bonus ? "" : "X");
-    EXPECT_EQ(st().slot(4), GetParam().bonus ? "" : "W");
-    EXPECT_EQ(events.won, 1);
+TEST_F(RoundTest, HalfBonusOnlyWhenFewerThanHalfRevealed) {
+    const std::vector<std::tuple<std::string, std::u32string, std::string, bool>> answers{
+        {"MURCIELAGO", U"MURCI", "murcielago", false},
+        {"MURCIELAGO", U"MUR", "MURCIELAGO", true},
+        {"BLANQUITO", U"BLANQ", "BLANQUITO", false},
+        {"BLANQUITO", U"BLAN", "blanquito", true},
+        {"ABC", U"", "abc", true}};
+    for (const auto& [phrase, hits, typed, bonus] : answers) {
+        SCOPED_TRACE(phrase + " " + typed);
+        round.eMenuNew();
+        start(phrase);
+        guessAll(hits);
+        guessAll(U"XYZW");
+        EXPECT_TRUE(answer(typed));
+        EXPECT_EQ(round.status(), "¡VICTORIA!");
+        EXPECT_EQ(st().earlyAnswerBonus, bonus);
+        EXPECT_EQ(st().slot(1), bonus ? "" : "X");
+        EXPECT_EQ(st().slot(4), bonus ? "" : "W");
+    }
+    EXPECT_EQ(events.won, 5);
 }
-
-INSTANTIATE_TEST_SUITE_P(Answers, WholeAnswerTest,
-                         ::testing::Values(WholeAnswer{"MURCIELAGO", U"MUR", "MURCIELAGO", true},
-                                           WholeAnswer{"MURCIELAGO", U"MURCI", "murcielago", false},
-                                           WholeAnswer{"BLANQUITO", U"BLAN", "blanquito", true},
-                                           WholeAnswer{"BLANQUITO", U"BLANQ", "BLANQUITO", false},
-                                           WholeAnswer{"ABC", U"", "abc", true}));
 
 TEST_F(RoundTest, WrongWholeAnswerFillsTheEmptySlotsAndKills) {
     shared.multiplayer = true;
@@ -231,42 +226,37 @@ TEST_F(RoundTest, WrongWholeAnswerFillsTheEmptySlotsAndKills) {
     EXPECT_EQ(events.lost, 0) << "a friend's game scores nothing";
 }
 
-struct Unoffered {
-    const char* name;
-    std::function<void(RoundTest&)> setUp;
-};
-
-class CorrectionRefusedTest : public RoundTest, public ::testing::WithParamInterface<Unoffered> {};
-
-TEST_P(CorrectionRefusedTest, NotOfferedAndNothingHappens) {
+TEST_F(RoundTest, TheCorrectionIsOfferedOnlyForAMissInAGameUnderWay) {
+    const auto refused = [this](const char* why) {
+        SCOPED_TRACE(why);
+        const int strikes = st().strikeCount;
+        const std::size_t shownBefore = dialogs.shown.size();
+        EXPECT_FALSE(round.correctionOffered());
+        round.eBackStrike();
+        EXPECT_EQ(st().strikeCount, strikes);
+        EXPECT_EQ(dialogs.shown.size(), shownBefore);
+    };
     start();
-    GetParam().setUp(*this);
-    const int strikes = st().strikeCount;
-    const std::size_t shownBefore = dialogs.shown.size();
-    EXPECT_FALSE(round.correctionOffered());
+    guessAll(U"A");
+    refused("no strikes");
+    guessAll(U"BC");
+    refused("the last guess was a hit");
+    guessAll(U"D");
+    ASSERT_TRUE(round.correctionOffered());
+    dialogs.answer({true});
     round.eBackStrike();
-    EXPECT_EQ(st().strikeCount, strikes);
-    EXPECT_EQ(dialogs.shown.size(), shownBefore);
-}
+    guessAll(U"E");
+    refused("one a game");
+    guessAll(U"FGHIJKL");
+    ASSERT_TRUE(st().over);
+    refused("the game is over");
 
-INSTANTIATE_TEST_SUITE_P(
-    Conditions, CorrectionRefusedTest,
-    ::testing::Values(Unoffered{"NoneLeft",
-                                [](RoundTest& t) {
-                                    t.shared.correctionsLeft = 0;
-                                    t.guessAll(U"B");
-                                }},
-                      Unoffered{"AlreadyUsed",
-                                [](RoundTest& t) {
-                                    t.guessAll(U"BD");
-                                    t.dialogs.answer({true});
-                                    t.round.eBackStrike();
-                                    t.guessAll(U"E");
-                                }},
-                      Unoffered{"Over", [](RoundTest& t) { t.guessAll(U"BDEFGHIJ"); }},
-                      Unoffered{"NoStrikes", [](RoundTest& t) { t.guessAll(U"A"); }},
-                      Unoffered{"LastGuessHit", [](RoundTest& t) { t.guessAll(U"BC"); }}),
-    [](const auto& info) { return std::string(info.param.name); });
+    round.eMenuNew();
+    shared.correctionsLeft = 0;
+    start();
+    guessAll(U"B");
+    refused("none left");
+}
 
 TEST_F(RoundTest, CorrectionTakesBackTheLastStrike) {
     start();
@@ -387,6 +377,168 @@ TEST_F(RoundTest, StatusDotsCycleOnlyWhilePlaying) {
     guessAll(U"BDEFGHIJ");
     round.tickStatus();
     EXPECT_EQ(round.status(), "¡MUERTO!");
+}
+
+// --- starting a game ---------------------------------------------------------------
+
+class RoundStartTest : public RoundTest {
+protected:
+    // A fraction that draws index `i` from a range of 40 (phrases) or 100
+    // (themes): Int(range * r / 2) == i.
+    static double phrase(int i) { return (i + 0.5) / 20.0; }
+    static double theme(int i) { return (i + 0.5) / 50.0; }
+
+    // Plays through the theme window: opening draws, accepting lays.
+    void playThroughWindow() {
+        ASSERT_EQ(round.eGame(), GameStart::ThemeWindow);
+        round.BotonTema();
+        round.eOther();
+        round.eOk();
+    }
+    void finishGame() {
+        // Every letter of the alphabet ends any catalogue game one way or the other.
+        guessAll(U"AEIOUSRNLTCDMPBGVFHJQYZXKW\u00D137");
+        ASSERT_TRUE(round.state().over);
+        round.eGame(); // "NUEVA PARTIDA" clears the board
+    }
+    std::string laid() const { return toUtf8(round.board().phrase()); }
+};
+
+TEST_F(RoundStartTest, OneOrNoSelectedThemeUsesTheThemeSetting) {
+    shared.settings.tema = 20;
+    shared.sessions[0].selectedThemes[7] = true; // a single selection is not a random theme
+    random.queue({phrase(3)});
+    playThroughWindow();
+    EXPECT_FALSE(round.randomTheme());
+    EXPECT_EQ(round.word2ThemeLabel(), "FRUTA");
+    EXPECT_EQ(laid(), ThemeCatalogue::storedPhrase(20, 4));
+    EXPECT_EQ(round.themeLabel(), "FRUTA");
+    EXPECT_EQ(round.status(), "JUGANDO...");
+    EXPECT_EQ(round.playCaption(), "NUEVA PARTIDA");
+}
+
+TEST_F(RoundStartTest, SeveralThemesDrawOnlySelectedOnesAndHideTheName) {
+    shared.sessions[0].selectedThemes[5] = true;
+    shared.sessions[0].selectedThemes[50] = true;
+    // 12 is not selected, a 0 drawn again stands for theme 50.
+    random.queue({theme(12), theme(0), phrase(4)});
+    playThroughWindow();
+    EXPECT_TRUE(round.randomTheme());
+    EXPECT_EQ(round.word2ThemeLabel(), "????");
+    EXPECT_EQ(round.gameTheme(), 50);
+    EXPECT_EQ(round.themeLabel(), "????") << "the theme shows only at the end";
+    EXPECT_EQ(shared.sessions[0].lastThemeName, "????");
+    finishGame();
+    EXPECT_TRUE(dialogs.shown.empty());
+}
+
+TEST_F(RoundStartTest, TheSamePhraseNumberNeverComesTwiceInARow) {
+    random.queue({phrase(6)});
+    playThroughWindow();
+    finishGame();
+    shared.settings.tema = 9; // another theme: the rule compares numbers only
+    random.queue({phrase(6), phrase(6), phrase(2)});
+    playThroughWindow();
+    EXPECT_EQ(round.phraseNumber(), 2);
+    EXPECT_EQ(laid(), ThemeCatalogue::storedPhrase(9, 3));
+}
+
+TEST_F(RoundStartTest, TheRepeatRuleHoldsForANewBoardOfTheSameRun) {
+    random.queue({phrase(6)});
+    playThroughWindow();
+    finishGame();
+    // "Volver al menú" and JUGAR build the board, and its round, anew.
+    Round next{shared, dialogs, random, &events};
+    random.queue({phrase(6), phrase(4)});
+    ASSERT_EQ(next.eGame(), GameStart::ThemeWindow);
+    next.BotonTema();
+    next.eOther();
+    EXPECT_EQ(next.phraseNumber(), 4);
+}
+
+TEST_F(RoundStartTest, EveryGameEndsUnderItsThemeAndLeavesItsThemeForTheNextFriend) {
+    shared.settings.tema = 12;
+    random.queue({phrase(3)});
+    playThroughWindow();
+    EXPECT_EQ(Word1Model(shared).themeText(), std::string(ThemeCatalogue::storedThemeName(12)))
+        << "a friend is offered the theme of the game played last, whatever its kind";
+    round.guess(U'A');
+    finishGame();
+
+    round.startPhrase("LA CASA", 0, "Frase de Ana");
+    EXPECT_EQ(round.themeLabel(), "Frase de Ana");
+    guessAll(U"LACS");
+    ASSERT_TRUE(round.state().over);
+    EXPECT_EQ(round.themeLabel(), "????") << "the catalogue's name of theme 0 at the end";
+    EXPECT_EQ(Word1Model(shared).themeText(), "Frase de Ana");
+}
+
+TEST_F(RoundStartTest, ANewBoardRebuildsTheTitle) {
+    const int before = events.titles;
+    round.BotonNuevo();
+    EXPECT_EQ(events.titles, before + 1);
+}
+
+TEST_F(RoundStartTest, TwoGamesOfOneThemeSwitchTheAutomaticPhraseOn) {
+    shared.settings.tema = 3;
+    random.queue({phrase(1)});
+    playThroughWindow();
+    EXPECT_FALSE(shared.settings.fraseAutomatica);
+    finishGame();
+    random.queue({phrase(2)});
+    playThroughWindow();
+    EXPECT_TRUE(shared.settings.fraseAutomatica);
+    EXPECT_TRUE(round.autoMarkerVisible());
+    finishGame();
+
+    random.queue({phrase(3)});
+    EXPECT_EQ(round.eGame(), GameStart::Started) << "no window with the automatic phrase";
+    EXPECT_EQ(laid(), ThemeCatalogue::storedPhrase(3, 4));
+}
+
+TEST_F(RoundStartTest, ATourPlaysItsThemeAndMovesOnAfterEachGame) {
+    shared.settings.fraseAutomatica = true;
+    shared.tourPosition = 7;
+    random.queue({phrase(5)});
+    ASSERT_EQ(round.eGame(), GameStart::Started);
+    EXPECT_EQ(round.gameTheme(), 7);
+    EXPECT_EQ(round.themeLabel(), "DEPORTE");
+    finishGame();
+    EXPECT_EQ(shared.tourPosition, 8);
+
+    shared.tourPosition = 50;
+    random.queue({phrase(1)});
+    round.eGame();
+    finishGame();
+    EXPECT_EQ(shared.tourPosition, 1) << "after the last theme the tour starts again";
+}
+
+TEST_F(RoundStartTest, SwitchingTheAutomaticPhraseOffEndsTheTourAndRestoresTheSelection) {
+    shared.settings.fraseAutomatica = true;
+    shared.tourPosition = 12;
+    shared.sessions[0].tourCopy[5] = shared.sessions[0].tourCopy[9] = true;
+    round.eMenuAuto();
+    EXPECT_FALSE(shared.settings.fraseAutomatica);
+    EXPECT_EQ(shared.tourPosition, 0);
+    EXPECT_TRUE(shared.sessions[0].selectedThemes[5] && shared.sessions[0].selectedThemes[9]);
+    EXPECT_FALSE(round.autoMarkerVisible());
+    EXPECT_EQ(events.saved, 1);
+    round.eMenuAuto();
+    EXPECT_TRUE(shared.settings.fraseAutomatica);
+    EXPECT_EQ(round.autoMarkerCaption(), "A");
+    EXPECT_EQ(round.autoMarkerTooltip(), " Desactivar la frase automática. ");
+}
+
+TEST_F(RoundStartTest, SurvivalWithoutPointsRefusesToPlay) {
+    shared.settings.supervivencia = true;
+    shared.survivalPoints = 0;
+    EXPECT_EQ(round.eGame(), GameStart::Nothing);
+    ASSERT_EQ(dialogs.shown.size(), 1U);
+    EXPECT_EQ(dialogs.shown[0].title, "No puedes jugar sin puntos");
+    EXPECT_EQ(dialogs.shown[0].text,
+              "Reinicia el juego o consigue puntos para volver a jugar en este modo.");
+    shared.multiplayer = true;
+    EXPECT_EQ(round.eGame(), GameStart::FriendWindow) << "friends play without points";
 }
 
 } // namespace

@@ -13,41 +13,29 @@
 namespace quillora {
 namespace {
 
-TEST(StartScreenWindow, WithTheFontTheMenuComesAfterTheLine) {
+TEST(StartScreenWindow, TheMenuComesAfterTheLineOrTheNoticeStaysAndItsButtonsWork) {
     SharedState shared;
     ScriptedDialogs dialogs;
     FakeWeb web;
-    frmInicio screen(shared, dialogs, web, true);
-    int menus = 0;
-    screen.onMenu = [&menus] { ++menus; };
-    screen.show();
-    for (int i = 0; i < 100 && screen.timer()->isActive(); ++i) {
-        screen.tick();
-    }
-    EXPECT_EQ(menus, 1);
-    EXPECT_FALSE(screen.notice()->isVisible());
-}
-
-TEST(StartScreenWindow, WithoutTheFontTheNoticeStaysAndItsButtonsWork) {
-    SharedState shared;
-    ScriptedDialogs dialogs;
-    FakeWeb web;
-    frmInicio screen(shared, dialogs, web, false);
     int menus = 0, restarts = 0;
-    screen.onMenu = [&menus] { ++menus; };
-    screen.onRestart = [&restarts] { ++restarts; };
-    screen.show();
-    for (int i = 0; i < 100 && screen.timer()->isActive(); ++i) {
-        screen.tick();
+    for (const bool font : {true, false}) {
+        frmInicio screen(shared, dialogs, web, font);
+        screen.onMenu = [&menus] { ++menus; };
+        screen.onRestart = [&restarts] { ++restarts; };
+        screen.show();
+        for (int i = 0; i < 100 && screen.timer()->isActive(); ++i) {
+            screen.tick();
+        }
+        EXPECT_FALSE(screen.timer()->isActive());
+        EXPECT_EQ(menus, 1) << "only with the font";
+        EXPECT_EQ(screen.notice()->isVisible(), !font);
+        if (!font) {
+            QTest::mouseClick(screen.downloadButton(), Qt::LeftButton);
+            EXPECT_EQ(web.opened.size(), 1U);
+            QTest::mouseClick(screen.restartButton(), Qt::LeftButton);
+            EXPECT_EQ(restarts, 1);
+        }
     }
-    EXPECT_EQ(menus, 0);
-    EXPECT_TRUE(screen.notice()->isVisible());
-    EXPECT_FALSE(screen.timer()->isActive());
-
-    QTest::mouseClick(screen.downloadButton(), Qt::LeftButton);
-    EXPECT_EQ(web.opened.size(), 1U);
-    QTest::mouseClick(screen.restartButton(), Qt::LeftButton);
-    EXPECT_EQ(restarts, 1);
 }
 
 } // namespace

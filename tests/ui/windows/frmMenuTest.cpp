@@ -38,17 +38,7 @@ protected:
     int quit = 0;
 };
 
-TEST_F(MenuWindow, TypedDigitStartsAGameOfThatManyPlayers) {
-    open(false);
-    QTest::keyClick(window.get(), Qt::Key_7);
-    EXPECT_EQ(played, 1);
-    EXPECT_FALSE(window->isVisible());
-    EXPECT_TRUE(shared.multiplayer);
-    EXPECT_EQ(shared.roster.rosterSize, 7);
-    EXPECT_EQ(window->numberBox()->text(), "7");
-}
-
-TEST_F(MenuWindow, HoverAndClickOnATileReachTheModel) {
+TEST_F(MenuWindow, TheMouseAndTheKeysReachTheModel) {
     open(false);
     EXPECT_FALSE(window->lockPanel()->isVisible());
     QTest::mouseMove(window.get(), centreOf(Spot::Friend));
@@ -59,32 +49,7 @@ TEST_F(MenuWindow, HoverAndClickOnATileReachTheModel) {
     window->sync();
     EXPECT_EQ(window->legendLabel()->width(), window->numberBox()->parentWidget()->width());
 
-    QTest::mouseClick(window.get(), Qt::LeftButton, {}, centreOf(Spot::Friend));
-    EXPECT_EQ(played, 1);
-    EXPECT_TRUE(shared.multiplayer);
-    EXPECT_EQ(shared.playerCount, 2);
-    EXPECT_EQ(shared.roster.guesserCount, 1);
-}
-
-TEST_F(MenuWindow, LockCoversTheTilesAndEscapeQuitsOnYes) {
-    open(true);
-    EXPECT_TRUE(window->lockPanel()->isVisible());
-    QTest::mouseClick(window.get(), Qt::LeftButton, {}, centreOf(Spot::Several));
-    EXPECT_EQ(played, 0);
-    QTest::mouseMove(window.get(), centreOf(Spot::Solo));
-    EXPECT_EQ(window->legendLabel()->text(), "CONTINUAR");
-
-    dialogs.answer({false, true});
-    QTest::keyClick(window.get(), Qt::Key_Escape);
-    EXPECT_EQ(quit, 0);
-    EXPECT_TRUE(window->isVisible());
-    QTest::keyClick(window.get(), Qt::Key_Escape);
-    EXPECT_EQ(quit, 1);
-    EXPECT_EQ(played, 0);
-}
-
-TEST_F(MenuWindow, OptionsOpeningGrowsTheWindowWithoutAnOptionsWindow) {
-    open(false);
+    // "0" swells the window towards the options, which are not ours to open.
     const QPoint centre = window->geometry().center();
     QTest::keyClick(window.get(), Qt::Key_0);
     while (window->model().inTimerRunning()) {
@@ -94,7 +59,32 @@ TEST_F(MenuWindow, OptionsOpeningGrowsTheWindowWithoutAnOptionsWindow) {
     EXPECT_EQ(window->height(), px(MenuModel::kInFinalHeight));
     EXPECT_NEAR(window->geometry().center().x(), centre.x(), 2);
     EXPECT_TRUE(window->isVisible());
+
+    dialogs.answer({false, true});
+    QTest::keyClick(window.get(), Qt::Key_Escape);
+    EXPECT_EQ(quit, 0);
+    QTest::keyClick(window.get(), Qt::Key_Escape);
+    EXPECT_EQ(quit, 1);
     EXPECT_EQ(played, 0);
+
+    QTest::keyClick(window.get(), Qt::Key_7);
+    EXPECT_EQ(played, 1);
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_EQ(shared.roster.rosterSize, 7);
+    EXPECT_EQ(window->numberBox()->text(), "7");
+}
+
+TEST_F(MenuWindow, TheLockCoversEveryTileButTheOneThatContinues) {
+    shared.multiplayer = true; // left from an earlier game
+    open(true);
+    EXPECT_TRUE(window->lockPanel()->isVisible());
+    QTest::mouseClick(window.get(), Qt::LeftButton, {}, centreOf(Spot::Several));
+    EXPECT_EQ(played, 0);
+    QTest::mouseMove(window.get(), centreOf(Spot::Solo));
+    EXPECT_EQ(window->legendLabel()->text(), "CONTINUAR");
+    QTest::mouseClick(window.get(), Qt::LeftButton, {}, centreOf(Spot::Solo));
+    EXPECT_EQ(played, 1);
+    EXPECT_FALSE(shared.multiplayer) << "a locked session goes on alone";
 }
 
 } // namespace
