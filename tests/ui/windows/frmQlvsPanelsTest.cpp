@@ -10,8 +10,8 @@
 #include "windows/frmQlvs/SessionPanel.h"
 #include "windows/frmQlvs/SidePanel.h"
 
-#include <QHelpEvent>
 #include <QDragEnterEvent>
+#include <QHelpEvent>
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QMenu>
