@@ -305,8 +305,12 @@ void frmQlvs::fitFrame() {
     // system draws a frame, the frame comes out of them and the controls
     // keep their places inside.
     const QSize frame = isWindow() && m_shownOnce ? frameGeometry().size() - size() : QSize();
-    setFixedSize(px(QlvsModel::kWidthTwips) - frame.width(),
-                 px(m_model.heightTwips()) - frame.height());
+    const QSize client(px(QlvsModel::kWidthTwips) - frame.width(),
+                       px(m_model.heightTwips()) - frame.height());
+    // Checked ten times a second: a size that stands costs nothing.
+    if (client != size() || minimumSize() != maximumSize()) {
+        setFixedSize(client);
+    }
 }
 
 void frmQlvs::drawNow() {
