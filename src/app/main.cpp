@@ -72,7 +72,9 @@ private:
         replace(std::move(menu));
     }
 
-    void openBoard() {
+    // A board over the menu, or, when a switch of survival mode reopens it,
+    // where the last one stood.
+    void openBoard(std::optional<QPoint> remembered = std::nullopt) {
         const QRect menuFrame = m_window ? m_window->frameGeometry() : QRect();
         const QPoint menuCentre =
             menuFrame.topLeft() + QPoint(menuFrame.width() / 2, menuFrame.height() / 2);
@@ -83,7 +85,10 @@ private:
             const QPoint at = window->menuCentre();
             later([this, at] { openMenu(at); });
         };
-        if (m_window) {
+        board->onReopen = [this](QPoint at) { later([this, at] { openBoard(at); }); };
+        if (remembered) {
+            board->move(*remembered);
+        } else if (m_window) {
             board->placeOver(menuCentre);
         } else {
             centre(*board);

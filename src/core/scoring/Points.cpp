@@ -6,6 +6,7 @@
 #include "state/SharedState.h"
 #include "words/Text.h"
 
+#include <algorithm>
 #include <cmath>
 #include <stdexcept>
 
@@ -90,6 +91,45 @@ void Scoring::refreshTitle() {
 
 void Scoring::showAccount() {
     m_shown = accountInUse();
+    m_pulse = m_shared.settings.supervivencia && m_shown <= kPulseBelow;
+}
+
+bool Scoring::noPoints() const {
+    return pointsCount() && !m_counting && survivalEmpty();
+}
+
+std::string Scoring::scoreLabel() const {
+    return noPoints() ? "Sin puntos" : scoreText();
+}
+
+bool Scoring::giftOffered() const {
+    return pointsCount() && !m_shared.settings.supervivencia && m_shared.survivalPoints == 0 &&
+           m_shared.normalPoints > 0 && !m_gifting;
+}
+
+void Scoring::startGift() {
+    if (!giftOffered()) {
+        return;
+    }
+    m_shared.survivalPoints += m_shared.normalPoints;
+    if (onStatisticsReset) {
+        onStatisticsReset();
+    }
+    m_gifting = true;
+}
+
+void Scoring::tickGift() {
+    double& normal = m_shared.normalPoints;
+    if (normal <= 0) {
+        normal = 0;
+        m_playEnabled = true;
+        m_gifting = false;
+        return;
+    }
+    m_playEnabled = false;
+    // A fraction left over from an odd account must not step past 0.
+    normal = std::max(0.0, normal - (normal >= kBigGap ? kBigStep : 1));
+    m_shown = normal;
 }
 
 std::string Scoring::scoreText() const {

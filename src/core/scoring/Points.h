@@ -43,12 +43,29 @@ public:
     void refreshTitle();
     // The label shows the account in use (a new game, the board's opening).
     void showAccount();
+    // What the score label reads: the shown points, or "Sin puntos" once the
+    // survival account has run dry.
+    std::string scoreLabel() const;
+    // Survival mode with nothing left to play with: "Sin puntos", and the
+    // labels that offer a restart or points from normal play.
+    bool noPoints() const;
     void scoreWin(int revealed, int strikes, bool& earlyAnswerBonus);
     void scoreLoss(int revealed, int total);
     // The score timer starts without new points: the count just settles.
     void startCounting() { m_counting = true; }
     // One tick of the score timer; the end of the count clears the strikes.
     void tick(int& strikeCount);
+
+    // "Pasar puntos a supervivencia": offered to one player out of survival
+    // mode whose survival account is empty and whose normal one is not.
+    bool giftOffered() const;
+    // Moves the normal points into the survival account; the normal score
+    // then drains to 0 on screen, tick by tick (tmrGift).
+    void startGift();
+    void tickGift();
+    bool gifting() const { return m_gifting; }
+    // Told when a transfer wipes the user's statistics.
+    std::function<void()> onStatisticsReset;
 
     // Run before the points of a loss; may throw when a counter overflows.
     std::function<void()> onLossStatistics;
@@ -74,6 +91,7 @@ private:
     bool m_playEnabled = true;
     bool m_upwardsAfterGift = false;
     bool m_pulse = false;
+    bool m_gifting = false;
 };
 
 } // namespace quillora

@@ -69,6 +69,8 @@ struct SharedState {
     // A switch asked the start of the board not to apply the first-run
     // defaults again.
     bool skipStartDefaults = false;
+    // Survival mode was just switched: the board that reopens says so once.
+    bool survivalAnnounce = false;
 
     // --- players -----------------------------------------------------------------
     // The phrase is typed by a friend rather than drawn from the catalogue.

@@ -189,9 +189,11 @@ GameStart QlvsModel::keyTyped(WindowKey key, char32_t character) {
         eWinClose();
         break;
     // The windows and panels these open come with their own features.
+    case WindowKey::F5:
+        eSinSVivencia();
+        break;
     case WindowKey::DeadKey:
     case WindowKey::F1:
-    case WindowKey::F5:
     case WindowKey::MenuKey:
     case WindowKey::Names:
     case WindowKey::History:
@@ -299,6 +301,56 @@ void QlvsModel::eDReBoot() {
     if (m_shared.sessionLoaded) {
         m_shared.current().selectedThemes = {};
     }
+}
+
+// --- survival mode ----------------------------------------------------------------------
+
+void QlvsModel::toggleSurvival() {
+    switchSurvival(!m_shared.settings.supervivencia);
+}
+
+void QlvsModel::switchSurvival(bool on) {
+    m_shared.survivalAnnounce = true;
+    m_shared.settings.supervivencia = on;
+    ConfSave(m_shared, m_dialogs);
+    m_reopen = true;
+}
+
+void QlvsModel::eSinSVivencia() {
+    if (!m_scoring.pointsCount() || !m_shared.settings.supervivencia) {
+        return;
+    }
+    if (m_dialogs.okCancel("Está apunto de salirse del modo supervivencia.")) {
+        eDSinSVivencia();
+    }
+}
+
+void QlvsModel::tickAnnounce() {
+    if (!m_shared.survivalAnnounce) {
+        return;
+    }
+    // Cleared first: the box's own event loop runs this timer again.
+    m_shared.survivalAnnounce = false;
+    m_dialogs.information(m_shared.settings.supervivencia
+                              ? "El modo supervivencia se ha activado."
+                              : "El modo supervivencia se ha desactivado, haga clic derecho sobre "
+                                "el score para tener puntos en supervivencia.");
+}
+
+void QlvsModel::tickPulse() {
+    m_pulseLevel += m_pulseFalling ? -kPulseStep : kPulseStep;
+    if (m_pulseLevel <= kPulseLow) {
+        m_pulseFalling = false;
+    } else if (m_pulseLevel >= kPulseHigh) {
+        m_pulseFalling = true;
+    }
+}
+
+Rgb QlvsModel::scoreTextColour() const {
+    if (!pulseTimerRunning()) {
+        return kNearWhite;
+    }
+    return Rgb{m_pulseLevel, m_pulseLevel, m_pulseLevel};
 }
 
 // --- sessions --------------------------------------------------------------------------

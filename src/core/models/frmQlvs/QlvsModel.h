@@ -36,6 +36,8 @@ public:
     static constexpr int kReboteTickMs = 100;
     static constexpr int kMinTopTwips = 60;
     static constexpr int kNamesDelayMs = 500;
+    static constexpr int kPulseTickMs = 100;
+    static constexpr int kGiftTickMs = 1;
 
     QlvsModel(SharedState& shared, Dialogs& dialogs, Random& random, RoundEvents* events = nullptr);
 
@@ -106,6 +108,35 @@ public:
     // In a game with friends, or without points, the JUGAR panel and the
     // theme move to their compact places beside the board.
     bool compactLayout() const { return !m_scoring.pointsCount(); }
+
+    // --- survival mode -------------------------------------------------------------
+    // The popup's "Modo supervivencia" / "Modo normal", offered to one player
+    // with the points system on.
+    bool survivalEntryShown() const { return m_scoring.pointsCount(); }
+    void toggleSurvival();
+    // eDConSVivencia and eDSinSVivencia: the mode is saved and the board
+    // reopens where it stands, in the new mode.
+    void eDConSVivencia() { switchSurvival(true); }
+    void eDSinSVivencia() { switchSurvival(false); }
+    // F5: asks before leaving survival mode; does nothing out of it.
+    void eSinSVivencia();
+    bool reopenRequested() const { return m_reopen; }
+    // tmrRebote, after the window's top: the switch of mode is told once.
+    void tickAnnounce();
+    // "Reiniciar" and "Consigue puntos", shown while survival has no points.
+    bool againShown() const { return m_scoring.noPoints(); }
+    void againRestart() { eDReBoot(); }
+    void againGetPoints() { eDSinSVivencia(); }
+    // The score's menu and its transfer (tmrGift).
+    bool giftOffered() const { return m_scoring.giftOffered(); }
+    void startGift() { m_scoring.startGift(); }
+    void tickGift() { m_scoring.tickGift(); }
+    bool giftTimerRunning() const { return m_scoring.gifting(); }
+    // tmrFore: the score label pulses while survival points run low.
+    bool pulseTimerRunning() const { return m_scoring.pulseWanted() || m_scoring.noPoints(); }
+    void tickPulse();
+    // The score label's text colour.
+    Rgb scoreTextColour() const;
 
     // --- side panels --------------------------------------------------------------
     SidePanelModel& side() { return m_side; }
@@ -210,6 +241,7 @@ private:
     bool scoreCounting() const override { return m_scoring.counting(); }
 
     void sessionChanged(bool changed);
+    void switchSurvival(bool on);
 
     SharedState& m_shared;
     Dialogs& m_dialogs;
@@ -221,6 +253,13 @@ private:
     SessionPanelModel m_panel;
     SidePanelModel m_side;
     char32_t m_deadKey = 0;
+    bool m_reopen = false;
+    // The pulse's grey level, and whether it is on its way down.
+    int m_pulseLevel = kPulseHigh;
+    bool m_pulseFalling = true;
+    static constexpr int kPulseHigh = 250;
+    static constexpr int kPulseLow = 70;
+    static constexpr int kPulseStep = 10;
     bool m_loadFailed = false;
     Random& m_random;
     int m_hoveredKey = -1;

@@ -36,7 +36,8 @@ QMenu* buildBoardPopup(QlvsModel& model, QWidget* board, const std::function<voi
     entry("Reiniciar", [&model] { model.eDReBoot(); });
     entry("Bloquear", [&model] { model.eBlueScreen(); });
     if (model.scoring().pointsCount()) {
-        entry(settings.supervivencia ? "Modo normal" : "Modo supervivencia", nullptr, false);
+        entry(settings.supervivencia ? "Modo normal" : "Modo supervivencia",
+              [&model] { model.toggleSurvival(); });
         entry("Estadísticas", nullptr, false);
     }
     if (model.deleteShown()) {

@@ -36,13 +36,12 @@ ScorePanel::ScorePanel(QlvsModel& model, std::function<void()> changed, std::fun
     m_lblScore->setGeometry(0, px(kCaptionHeight), px(kWidth), px(kHeight - 240));
     m_lblScore->setAlignment(Qt::AlignCenter);
     m_lblScore->setFont(Fonts::display(14));
-    // Its one entry comes with survival points; until then it is greyed.
+    // The score's menu is there only while it has something to offer.
     m_frmeScore->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(m_frmeScore, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
-        auto* menu = new QMenu(this);
-        menu->setAttribute(Qt::WA_DeleteOnClose);
-        menu->addAction(QStringLiteral("Pasar puntos a supervivencia"))->setEnabled(false);
-        menu->popup(m_frmeScore->mapToGlobal(at));
+        if (QMenu* menu = buildScoreMenu()) {
+            menu->popup(m_frmeScore->mapToGlobal(at));
+        }
     });
 
     m_frmePlayer = new QWidget(this);
@@ -76,12 +75,31 @@ void ScorePanel::sync() {
 }
 
 void ScorePanel::syncScore() {
-    m_lblScore->setText(qs(m_model.scoring().scoreText()));
+    m_lblScore->setText(qs(m_model.scoring().scoreLabel()));
+    const QString colour = css(m_model.scoreTextColour());
+    if (m_lblScore->property("textColour").toString() != colour) {
+        m_lblScore->setProperty("textColour", colour);
+        m_lblScore->setStyleSheet(QStringLiteral("color: %1;").arg(colour));
+    }
 }
 
 void ScorePanel::syncPlayer() {
     m_lblPlayer1->setText(qs(m_model.playerLabel().caption));
     m_lblPlayer1->setToolTip(qs(m_model.playerLabel().tooltip));
+}
+
+QMenu* ScorePanel::buildScoreMenu() {
+    if (!m_model.giftOffered()) {
+        return nullptr;
+    }
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    connect(menu->addAction(QStringLiteral("Pasar puntos a supervivencia")), &QAction::triggered,
+            this, [this] {
+                m_model.startGift();
+                m_changed();
+            });
+    return menu;
 }
 
 QMenu* ScorePanel::buildTurnMenu() {

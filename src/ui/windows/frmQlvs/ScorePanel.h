@@ -30,6 +30,9 @@ public:
     QLabel* scoreLabel() const { return m_lblScore; }
     QLabel* playerLabel() const { return m_lblPlayer1; }
     QMenu* buildTurnMenu();
+    // "Pasar puntos a supervivencia", or nothing when there is no transfer
+    // to offer.
+    QMenu* buildScoreMenu();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -6,6 +6,7 @@
 #include "platform/Fonts.h"
 #include "windows/QtColour.h"
 #include "windows/frmNames/frmNames.h"
+#include "windows/frmQlvs/AgainLabels.h"
 #include "windows/frmQlvs/AnswerPanel.h"
 #include "windows/frmQlvs/BoardKeys.h"
 #include "windows/frmQlvs/BoardPopup.h"
@@ -121,8 +122,20 @@ void frmQlvs::buildTimers() {
             move(x(), top);
         }
         fitFrame();
+        m_model.tickAnnounce();
     });
     m_tmrRebote->start();
+    m_tmrFore = timer(QlvsModel::kPulseTickMs, [this] {
+        m_model.tickPulse();
+        m_scorePanel->syncScore();
+    });
+    m_tmrGift = timer(QlvsModel::kGiftTickMs, [this] {
+        m_model.tickGift();
+        m_scorePanel->syncScore();
+        if (!m_model.giftTimerRunning()) {
+            sync();
+        }
+    });
     // A game with friends starts with their names.
     m_tmrNames = timer(QlvsModel::kNamesDelayMs, [this] {
         if (m_model.namesAtStart()) {
@@ -202,6 +215,7 @@ void frmQlvs::buildControls() {
     m_lblAuto->setCursor(Qt::PointingHandCursor);
     m_lblAuto->installEventFilter(this);
 
+    m_again = new AgainLabels(m_model, changed, this);
     m_sessionPanel = new SessionPanel(m_model, changed, this);
 }
 
@@ -252,6 +266,7 @@ void frmQlvs::paintPanels() {
         QStringLiteral("color: %1; background: transparent; text-decoration: underline;")
             .arg(css(shade)));
     m_answerPanel->paint(css(game));
+    m_again->paint(css(game));
     m_sidePanel->paint(css(game));
 }
 
@@ -282,6 +297,7 @@ void frmQlvs::syncView() {
     m_answerPanel->sync();
     m_scorePanel->sync();
     m_sidePanel->sync();
+    m_again->sync();
 
     setWindowTitle(qs(m_model.windowTitle()));
     const bool buttonHidden = m_model.shared().settings.sinBotonJugar;
@@ -333,6 +349,18 @@ QPoint frmQlvs::menuCentre() const {
 }
 
 void frmQlvs::followRestart() {
+    if (m_model.reopenRequested() && !m_restarting) {
+        m_restarting = true;
+        const QPoint at = pos();
+        QTimer::singleShot(0, this, [this, at] {
+            m_leaving = true;
+            hide();
+            if (onReopen) {
+                onReopen(at);
+            }
+        });
+        return;
+    }
     const bool toMenu = m_model.menuRequested();
     if ((!toMenu && !m_model.restartRequested()) || m_restarting) {
         return;
@@ -364,6 +392,8 @@ void frmQlvs::syncTimers() {
     follow(m_tmrScore, m_model.scoreTimerRunning());
     follow(m_tmrKey, m_model.panel().animating());
     follow(m_tmrMenu, m_model.panel().listSliding());
+    follow(m_tmrFore, m_model.pulseTimerRunning());
+    follow(m_tmrGift, m_model.giftTimerRunning());
 }
 
 void frmQlvs::playPressed() {

@@ -17,6 +17,7 @@ class QTimer;
 
 namespace quillora {
 
+class AgainLabels;
 class AnswerPanel;
 class GallowsView;
 class KeyboardView;
@@ -44,6 +45,9 @@ public:
     std::function<void()> onRestart;
     // Called when the board goes back to the main menu.
     std::function<void()> onMenu;
+    // Called when a switch of survival mode reopens the board, with the
+    // place the new one opens at.
+    std::function<void(QPoint)> onReopen;
     // Called when the player closes the board with its close box or "Salir":
     // the game ends.
     std::function<void()> onClose;
@@ -79,6 +83,7 @@ public:
     QLabel* autoMarker() const { return m_lblAuto; }
     SessionPanel* sessionPanel() const { return m_sessionPanel; }
     SidePanel* sidePanel() const { return m_sidePanel; }
+    AgainLabels* againLabels() const { return m_again; }
     frmWord2* themeWindow() const { return m_themeWindow; }
     frmWord1* friendWindow() const { return m_friendWindow; }
     frmNames* namesWindow() const { return m_namesWindow; }
@@ -126,6 +131,7 @@ private:
     AnswerPanel* m_answerPanel = nullptr;
     SidePanel* m_sidePanel = nullptr;
     SessionPanel* m_sessionPanel = nullptr;
+    AgainLabels* m_again = nullptr;
     QLabel* m_lblGame = nullptr;
     QWidget* m_shpTheme = nullptr;
     QLabel* m_lblThemeCaption = nullptr;
@@ -151,6 +157,8 @@ private:
     QTimer* m_tmrMenu = nullptr;
     QTimer* m_tmrNames = nullptr;
     QTimer* m_tmrRebote = nullptr;
+    QTimer* m_tmrFore = nullptr;
+    QTimer* m_tmrGift = nullptr;
 };
 
 } // namespace quillora

@@ -1,0 +1,150 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "models/frmQlvs/QlvsModel.h"
+#include "storage/ConfigFile.h"
+
+#include "support/Fakes.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+namespace quillora {
+namespace {
+
+using Key = QlvsModel::WindowKey;
+
+class Survival : public ::testing::Test {
+protected:
+    Survival() {
+        shared.currentSession().Archivo = (folder.path() / kMainConfigName).string();
+        shared.settings.supervivencia = true;
+    }
+    // "ABCDEFGHIJ": ten letters, `shown` of them guessed, then eight misses.
+    void loseWithShown(int shown) {
+        model.round().startPhrase("ABCDEFGHIJ", 1, "ANIMAL");
+        for (int i = 0; i < shown; ++i) {
+            model.round().guess(static_cast<char32_t>(U'A' + i));
+        }
+        for (char32_t miss : std::u32string_view(U"KLMNOPQR")) {
+            model.round().guess(miss);
+        }
+        ASSERT_TRUE(model.round().state().over);
+    }
+    void countToTheEnd() {
+        while (model.scoreTimerRunning()) {
+            model.tickScore();
+        }
+    }
+
+    TempFolder folder{"quillora-survival"};
+    SharedState shared;
+    ScriptedDialogs dialogs;
+    QueuedRandom random;
+    QlvsModel model{shared, dialogs, random};
+};
+
+TEST_F(Survival, TheLastPointsLostLeaveNoPointsAndJugarRefuses) {
+    shared.survivalPoints = 300;
+    model.scoring().showAccount();
+    loseWithShown(4); // worth 600
+    EXPECT_EQ(shared.survivalPoints, 0);
+    EXPECT_FALSE(model.againShown()) << "not while the score still counts";
+    countToTheEnd();
+    EXPECT_EQ(model.scoring().scoreLabel(), "Sin puntos");
+    EXPECT_TRUE(model.againShown());
+    EXPECT_TRUE(model.pulseTimerRunning());
+
+    model.eMenuNew();
+    EXPECT_EQ(model.playPressed(), GameStart::Nothing);
+    ASSERT_FALSE(dialogs.shown.empty());
+    EXPECT_EQ(dialogs.shown.back().text,
+              "Reinicia el juego o consigue puntos para volver a jugar en este modo.");
+    EXPECT_EQ(dialogs.shown.back().title, "No puedes jugar sin puntos");
+
+    model.againGetPoints();
+    EXPECT_FALSE(shared.settings.supervivencia);
+    EXPECT_TRUE(model.reopenRequested());
+}
+
+TEST_F(Survival, TheTransferDrainsTheNormalScoreTenThenOneAtATime) {
+    shared.settings.supervivencia = false;
+    shared.survivalPoints = 0;
+    shared.normalPoints = 2500;
+    int resets = 0;
+    model.scoring().onStatisticsReset = [&resets] { ++resets; };
+    ASSERT_TRUE(model.giftOffered());
+    model.startGift();
+    EXPECT_EQ(shared.survivalPoints, 2500);
+    EXPECT_EQ(resets, 1);
+    EXPECT_FALSE(model.giftOffered()) << "one transfer at a time";
+
+    std::vector<double> steps;
+    double before = shared.normalPoints;
+    while (model.giftTimerRunning()) {
+        model.tickGift();
+        if (shared.normalPoints != before) {
+            steps.push_back(before - shared.normalPoints);
+            EXPECT_FALSE(model.scoring().playEnabled());
+        }
+        before = shared.normalPoints;
+    }
+    ASSERT_EQ(steps.size(), 286U);
+    EXPECT_EQ(std::count(steps.begin(), steps.begin() + 246, 10.0), 246);
+    EXPECT_EQ(std::count(steps.begin() + 246, steps.end(), 1.0), 40);
+    EXPECT_EQ(shared.normalPoints, 0);
+    EXPECT_TRUE(model.scoring().playEnabled());
+
+    // With survival points left there is nothing to offer.
+    shared.normalPoints = 100;
+    EXPECT_FALSE(model.giftOffered());
+}
+
+TEST_F(Survival, SwitchingSavesReopensAndIsToldOnce) {
+    shared.settings.supervivencia = false;
+    model.keyTyped(Key::F5);
+    EXPECT_TRUE(dialogs.shown.empty()) << "F5 out of survival mode does nothing";
+    EXPECT_FALSE(model.reopenRequested());
+
+    model.toggleSurvival();
+    EXPECT_TRUE(model.reopenRequested());
+    const auto saved = readConfigLines(shared.currentSession().Archivo);
+    ASSERT_TRUE(saved);
+    EXPECT_EQ((*saved)[12], "1") << "line 13 keeps the mode";
+
+    QlvsModel reopened{shared, dialogs, random};
+    reopened.load();
+    EXPECT_EQ(reopened.windowTitle(), "Quillora Vesta | Supervivencia");
+    reopened.tickAnnounce();
+    reopened.tickAnnounce();
+    ASSERT_EQ(dialogs.shown.size(), 1U);
+    EXPECT_EQ(dialogs.shown.back().text, "El modo supervivencia se ha activado.");
+
+    dialogs.answer({false, true});
+    reopened.keyTyped(Key::F5);
+    EXPECT_TRUE(shared.settings.supervivencia) << "Cancel stays";
+    reopened.keyTyped(Key::F5);
+    EXPECT_EQ(dialogs.shown.back().text, "Está apunto de salirse del modo supervivencia.");
+    EXPECT_FALSE(shared.settings.supervivencia);
+    EXPECT_TRUE(reopened.reopenRequested());
+}
+
+TEST_F(Survival, TheScorePulsesAtFiveHundredOrLess) {
+    for (const auto& [points, pulses] :
+         std::vector<std::pair<double, bool>>{{501, false}, {500, true}, {0, true}}) {
+        shared.survivalPoints = points;
+        model.scoring().showAccount();
+        EXPECT_EQ(model.pulseTimerRunning(), pulses) << points;
+    }
+    std::vector<int> levels;
+    for (int tick = 0; tick < 40; ++tick) {
+        model.tickPulse();
+        levels.push_back(model.scoreTextColour().red);
+    }
+    EXPECT_EQ(*std::min_element(levels.begin(), levels.end()), 70);
+    EXPECT_EQ(*std::max_element(levels.begin(), levels.end()), 250);
+    EXPECT_EQ(levels[17], 70) << "down by 10 a tick from 250";
+    EXPECT_EQ(levels[18], 80);
+}
+
+} // namespace
+} // namespace quillora
