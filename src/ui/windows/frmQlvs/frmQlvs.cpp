@@ -18,6 +18,7 @@
 #include "windows/frmQlvs/SessionPanel.h"
 #include "windows/frmQlvs/SidePanel.h"
 #include "windows/frmQlvs/StrikeStrip.h"
+#include "windows/frmQlvs/ThemeBox.h"
 #include "windows/frmWord1/frmWord1.h"
 #include "windows/frmWord2/frmWord2.h"
 
@@ -43,10 +44,6 @@ QRect twipRect(int left, int top, int width, int height) {
 
 // Where the board's own controls sit, in twips.
 constexpr int kStatusLeft = 3000, kStatusTop = 300, kStatusWidth = 5040, kStatusHeight = 720;
-constexpr int kThemeLeft = 8160, kThemeTop = 300, kThemeWidth = 3135, kThemeHeight = 720;
-// Without a score to show, the theme box and the JUGAR panel trade corners:
-// JUGAR beside the status, the theme under the phrase beside the strikes.
-constexpr int kCompactThemeLeft = 8910, kCompactThemeTop = 3540, kCompactThemeWidth = 2385;
 constexpr int kCounterLeft = 10200, kCounterTop = 1050, kCounterWidth = 1095, kCounterHeight = 360;
 constexpr int kQueEsLeft = 240, kQueEsTop = 4380, kQueEsWidth = 2520, kQueEsHeight = 360;
 constexpr int kAutoLeft = 2610, kAutoTop = 345, kAutoSize = 330;
@@ -157,26 +154,7 @@ void frmQlvs::buildControls() {
     m_lblGame->setAlignment(Qt::AlignCenter);
     m_lblGame->setFont(Fonts::display(18));
 
-    m_shpTheme = new QWidget(this);
-    m_shpTheme->setObjectName(QStringLiteral("shpTheme"));
-    m_shpTheme->setAttribute(Qt::WA_StyledBackground);
-    m_lblThemeCaption = new QLabel(QStringLiteral("Tema"), m_shpTheme);
-    m_lblThemeCaption->setGeometry(0, 0, px(kThemeWidth), px(kThemeHeight));
-    m_lblThemeCaption->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    m_lblThemeCaption->setFont(Fonts::display(7));
-    m_lblTheme = new QLabel(m_shpTheme);
-    m_lblTheme->setGeometry(px(60), px(210), px(kThemeWidth - 120), px(kThemeHeight - 240));
-    m_lblTheme->setAlignment(Qt::AlignCenter);
-    m_lblTheme->setFont(Fonts::display(11));
-    // Its entries come with the themes list and the tips; until then greyed.
-    m_lblTheme->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(m_lblTheme, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
-        auto* menu = new QMenu(this);
-        menu->setAttribute(Qt::WA_DeleteOnClose);
-        menu->addAction(QStringLiteral("Temas seleccionados"))->setEnabled(false);
-        menu->addAction(QStringLiteral("Dame un consejo"))->setEnabled(false);
-        menu->popup(m_lblTheme->mapToGlobal(at));
-    });
+    m_themeBox = new ThemeBox(m_model, this);
 
     m_lblCont = new QLabel(QStringLiteral("XX/YY"), this);
     m_lblCont->setGeometry(twipRect(kCounterLeft, kCounterTop, kCounterWidth, kCounterHeight));
@@ -240,9 +218,7 @@ void frmQlvs::paintPanels() {
                                   .arg(css(lamp.light))
                                   .arg(px(90));
     m_lblGame->setStyleSheet(lampPanel);
-    m_shpTheme->setStyleSheet(QStringLiteral("#shpTheme { %1 }"
-                                             "QLabel { color: white; background: transparent; }")
-                                  .arg(lampPanel));
+    m_themeBox->paint(lampPanel);
     m_lblCont->setStyleSheet(
         QStringLiteral("color: %1; background: transparent;").arg(css(lamp.dark)));
     m_strikes->paint(lampPanel, css(lamp.dark));
@@ -281,14 +257,7 @@ void frmQlvs::syncView() {
     paintPanels();
 
     m_lblGame->setText(qs(round.status()));
-    const bool compact = m_model.compactLayout();
-    const int themeWidth = compact ? kCompactThemeWidth : kThemeWidth;
-    m_shpTheme->setGeometry(twipRect(compact ? kCompactThemeLeft : kThemeLeft,
-                                     compact ? kCompactThemeTop : kThemeTop, themeWidth,
-                                     kThemeHeight));
-    m_lblThemeCaption->resize(px(themeWidth), px(kThemeHeight));
-    m_lblTheme->resize(px(themeWidth - 120), m_lblTheme->height());
-    m_lblTheme->setText(qs(round.themeLabel()));
+    m_themeBox->sync();
     m_lblCont->setText(qs(round.board().counterText()));
     m_lblCont->setVisible(round.counterVisible());
     m_lblQueEs->setVisible(round.queEsEsoVisible());
@@ -575,6 +544,9 @@ void frmQlvs::dropEvent(QDropEvent* event) {
 
 // --- the panels' controls, for the tests ----------------------------------------------
 
+QLabel* frmQlvs::themeLabel() const {
+    return m_themeBox->themeLabel();
+}
 QLabel* frmQlvs::strikeLabel(int slot) const {
     return m_strikes->strikeLabel(slot);
 }

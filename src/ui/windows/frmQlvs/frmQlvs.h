@@ -27,6 +27,7 @@ class ScorePanel;
 class SessionPanel;
 class SidePanel;
 class StrikeStrip;
+class ThemeBox;
 class frmNames;
 class frmWord1;
 class frmWord2;
@@ -65,7 +66,7 @@ public:
     // For the tests: the controls a player sees.
     QLabel* statusLabel() const { return m_lblGame; }
     QLabel* counterLabel() const { return m_lblCont; }
-    QLabel* themeLabel() const { return m_lblTheme; }
+    QLabel* themeLabel() const;
     QLabel* strikeLabel(int slot) const;
     QLabel* quitLabel() const;
     QPushButton* playButton() const;
@@ -133,9 +134,7 @@ private:
     SessionPanel* m_sessionPanel = nullptr;
     AgainLabels* m_again = nullptr;
     QLabel* m_lblGame = nullptr;
-    QWidget* m_shpTheme = nullptr;
-    QLabel* m_lblThemeCaption = nullptr;
-    QLabel* m_lblTheme = nullptr;
+    ThemeBox* m_themeBox = nullptr;
     QLabel* m_lblCont = nullptr;
     QLabel* m_lblQueEs = nullptr;
     QPushButton* m_cmdCopy = nullptr;

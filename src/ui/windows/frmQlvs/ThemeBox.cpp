@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/frmQlvs/ThemeBox.h"
+
+#include "look/Twips.h"
+#include "models/frmQlvs/QlvsModel.h"
+#include "platform/Fonts.h"
+#include "windows/QtColour.h"
+
+#include <QLabel>
+#include <QMenu>
+
+namespace quillora {
+
+namespace {
+constexpr int kLeft = 8160, kTop = 300, kWidth = 3135, kHeight = 720;
+// Without a score to show, the theme box and the JUGAR panel trade corners:
+// JUGAR beside the status, the theme under the phrase beside the strikes.
+constexpr int kCompactLeft = 8910, kCompactTop = 3540, kCompactWidth = 2385;
+constexpr int kLabelMargin = 60, kLabelTop = 210;
+} // namespace
+
+ThemeBox::ThemeBox(const QlvsModel& model, QWidget* board) : QWidget(board), m_model(model) {
+    setObjectName(QStringLiteral("shpTheme"));
+    setAttribute(Qt::WA_StyledBackground);
+    m_lblCaption = new QLabel(QStringLiteral("Tema"), this);
+    m_lblCaption->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    m_lblCaption->setFont(Fonts::display(7));
+    m_lblTheme = new QLabel(this);
+    m_lblTheme->setAlignment(Qt::AlignCenter);
+    m_lblTheme->setFont(Fonts::display(11));
+    // Its entries come with the themes list and the tips; until then greyed.
+    m_lblTheme->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_lblTheme, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
+        auto* menu = new QMenu(this);
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        menu->addAction(QStringLiteral("Temas seleccionados"))->setEnabled(false);
+        menu->addAction(QStringLiteral("Dame un consejo"))->setEnabled(false);
+        menu->popup(m_lblTheme->mapToGlobal(at));
+    });
+}
+
+void ThemeBox::paint(const QString& lampPanel) {
+    setStyleSheet(QStringLiteral("#shpTheme { %1 }"
+                                 "QLabel { color: white; background: transparent; }")
+                      .arg(lampPanel));
+}
+
+void ThemeBox::sync() {
+    const bool compact = m_model.compactLayout();
+    const int width = compact ? kCompactWidth : kWidth;
+    setGeometry(px(compact ? kCompactLeft : kLeft), px(compact ? kCompactTop : kTop), px(width),
+                px(kHeight));
+    m_lblCaption->setGeometry(0, 0, px(width), px(kHeight));
+    m_lblTheme->setGeometry(px(kLabelMargin), px(kLabelTop), px(width - 2 * kLabelMargin),
+                            px(kHeight - kLabelTop - 30));
+    m_lblTheme->setText(qs(m_model.round().themeLabel()));
+}
+
+} // namespace quillora

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+
+namespace quillora {
+
+class QlvsModel;
+
+// The box that names the theme of the game (shpTheme, with lblTheme in it).
+class ThemeBox final : public QWidget {
+public:
+    ThemeBox(const QlvsModel& model, QWidget* board);
+
+    void sync();
+    void paint(const QString& lampPanel);
+
+    QLabel* themeLabel() const { return m_lblTheme; }
+
+private:
+    const QlvsModel& m_model;
+    QLabel* m_lblCaption = nullptr;
+    QLabel* m_lblTheme = nullptr;
+};
+
+} // namespace quillora
