@@ -114,6 +114,8 @@ public:
     bool lampTimerRunning() const { return m_lampTimerRunning; }
     // tmrSusp: the dots of "JUGANDO".
     void tickStatus();
+    // The dots only move while a game is played: no other caption animates.
+    bool statusTimerRunning() const { return m_status.rfind("JUGANDO", 0) == 0; }
     PendingSound& pendingSound() { return m_sound; }
 
     // --- what the board shows ---------------------------------------------------

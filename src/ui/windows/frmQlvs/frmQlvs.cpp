@@ -79,7 +79,6 @@ void frmQlvs::buildTimers() {
         m_model.round().tickStatus();
         m_lblGame->setText(qs(m_model.round().status()));
     });
-    m_tmrSusp->start();
     m_tmrStrike = timer(QlvsModel::kLampTickMs, [this] {
         m_model.round().tickLamp();
         sync();
@@ -119,6 +118,9 @@ void frmQlvs::buildTimers() {
             move(x(), top);
         }
         fitFrame();
+        // Once the top is right and the news told, the watch rests until
+        // the window moves again.
+        m_tmrRebote->stop();
         m_model.tickAnnounce();
     });
     m_tmrRebote->start();
@@ -354,6 +356,7 @@ void frmQlvs::syncTimers() {
             timer->stop();
         }
     };
+    follow(m_tmrSusp, m_model.round().statusTimerRunning());
     follow(m_tmrStrike, m_model.round().lampTimerRunning());
     follow(m_tmrSound, m_model.round().pendingSound().timerRunning());
     follow(m_tmrOpen, m_model.openTimerRunning());
@@ -499,6 +502,13 @@ void frmQlvs::mousePressEvent(QMouseEvent* event) {
         return;
     }
     QWidget::mousePressEvent(event);
+}
+
+void frmQlvs::moveEvent(QMoveEvent* event) {
+    QWidget::moveEvent(event);
+    if (m_tmrRebote && !m_tmrRebote->isActive()) {
+        m_tmrRebote->start();
+    }
 }
 
 void frmQlvs::showEvent(QShowEvent* event) {
