@@ -37,7 +37,7 @@ QMenu* buildBoardPopup(QlvsModel& model, QWidget* board, const std::function<voi
     entry("Bloquear", [&model] { model.eBlueScreen(); });
     if (model.scoring().pointsCount()) {
         entry(settings.supervivencia ? "Modo normal" : "Modo supervivencia", nullptr, false);
-        entry("Estadísticas", nullptr, false);
+        entry("Estadísticas", [&model] { model.eStat(); });
     }
     if (model.deleteShown()) {
         entry("Eliminar sesión", [&model] { model.deleteSession(); });

@@ -16,6 +16,7 @@
 #include "windows/frmQlvs/ScorePanel.h"
 #include "windows/frmQlvs/SessionPanel.h"
 #include "windows/frmQlvs/SidePanel.h"
+#include "windows/frmQlvs/StatsPanel.h"
 #include "windows/frmQlvs/StrikeStrip.h"
 #include "windows/frmWord1/frmWord1.h"
 #include "windows/frmWord2/frmWord2.h"
@@ -107,6 +108,11 @@ void frmQlvs::buildTimers() {
         m_model.panel().tickList();
         sync();
     });
+    m_tmrStat = timer(StatsPanelModel::kTickMs, [this] {
+        m_model.stats().tick();
+        m_statsPanel->sync();
+        syncTimers();
+    });
     m_tmrOpen = timer(QlvsModel::kOpenTickMs, [this] {
         m_model.tickOpen();
         sync();
@@ -138,6 +144,7 @@ void frmQlvs::buildControls() {
     m_gallows = new GallowsView(m_model.round().figure(), this);
     m_phrase = new PhraseView(m_model, this);
     m_sidePanel = new SidePanel(m_model.side(), this);
+    m_statsPanel = new StatsPanel(m_model.stats(), changed, this);
 
     m_lblGame = new QLabel(this);
     m_lblGame->setGeometry(twipRect(kStatusLeft, kStatusTop, kStatusWidth, kStatusHeight));
@@ -253,6 +260,7 @@ void frmQlvs::paintPanels() {
             .arg(css(shade)));
     m_answerPanel->paint(css(game));
     m_sidePanel->paint(css(game));
+    m_statsPanel->paint(css(game), css(shade));
 }
 
 void frmQlvs::sync() {
@@ -282,6 +290,7 @@ void frmQlvs::syncView() {
     m_answerPanel->sync();
     m_scorePanel->sync();
     m_sidePanel->sync();
+    m_statsPanel->sync();
 
     setWindowTitle(qs(m_model.windowTitle()));
     const bool buttonHidden = m_model.shared().settings.sinBotonJugar;
@@ -364,6 +373,7 @@ void frmQlvs::syncTimers() {
     follow(m_tmrScore, m_model.scoreTimerRunning());
     follow(m_tmrKey, m_model.panel().animating());
     follow(m_tmrMenu, m_model.panel().listSliding());
+    follow(m_tmrStat, m_model.stats().animating());
 }
 
 void frmQlvs::playPressed() {

@@ -25,6 +25,7 @@ class PlayPanel;
 class ScorePanel;
 class SessionPanel;
 class SidePanel;
+class StatsPanel;
 class StrikeStrip;
 class frmNames;
 class frmWord1;
@@ -79,6 +80,7 @@ public:
     QLabel* autoMarker() const { return m_lblAuto; }
     SessionPanel* sessionPanel() const { return m_sessionPanel; }
     SidePanel* sidePanel() const { return m_sidePanel; }
+    StatsPanel* statsPanel() const { return m_statsPanel; }
     frmWord2* themeWindow() const { return m_themeWindow; }
     frmWord1* friendWindow() const { return m_friendWindow; }
     frmNames* namesWindow() const { return m_namesWindow; }
@@ -126,6 +128,7 @@ private:
     AnswerPanel* m_answerPanel = nullptr;
     SidePanel* m_sidePanel = nullptr;
     SessionPanel* m_sessionPanel = nullptr;
+    StatsPanel* m_statsPanel = nullptr;
     QLabel* m_lblGame = nullptr;
     QWidget* m_shpTheme = nullptr;
     QLabel* m_lblThemeCaption = nullptr;
@@ -151,6 +154,7 @@ private:
     QTimer* m_tmrMenu = nullptr;
     QTimer* m_tmrNames = nullptr;
     QTimer* m_tmrRebote = nullptr;
+    QTimer* m_tmrStat = nullptr;
 };
 
 } // namespace quillora
