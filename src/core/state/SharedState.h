@@ -3,6 +3,7 @@
 #pragma once
 
 #include "look/Colour.h"
+#include "scoring/UserStats.h"
 #include "state/PlayerRoster.h"
 #include "state/Settings.h"
 #include "state/UserSession.h"
@@ -32,6 +33,9 @@ struct SessionSlot {
     std::string previousThemeName;
     // "Turno libre".
     bool freeTurn = false;
+    // Kept in memory only: a restart of the board or a change of user leaves
+    // them, the end of the program forgets them.
+    UserStats stats;
 };
 
 // What every window of the game reads and writes: the options of the current

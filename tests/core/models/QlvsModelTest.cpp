@@ -2,12 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "models/frmQlvs/QlvsModel.h"
 #include "models/frmQlvs/SessionPanelModel.h"
+#include "models/frmQlvs/StatsPanelModel.h"
 
 #include "storage/ConfigFile.h"
 #include "support/Fakes.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
 
 namespace quillora {
 namespace {
@@ -254,6 +258,105 @@ TEST_F(SessionPanelTest, TheSessionListSlidesDownAndStops) {
     EXPECT_LT(panel.listTop(), 600);
     panel.toggleList(3);
     EXPECT_FALSE(panel.listShown());
+}
+
+// --- the statistics panel -------------------------------------------------------------
+
+TEST(StatsPanelModel, AveragesRoundDownAndWaitForAGame) {
+    using Row = StatsPanelModel::Row;
+    SharedState shared;
+    StatsPanelModel panel{shared};
+    UserStats& stats = shared.current().stats;
+    panel.open();
+    for (const bool survival : {false, true}) {
+        EXPECT_EQ(panel.value(Row::AveragePoints, survival), "0");
+        EXPECT_EQ(panel.value(Row::AverageErrors, survival), "0");
+    }
+    EXPECT_EQ(panel.value(Row::Points, true), "1000");
+
+    struct Case {
+        const char* label;
+        double normalPoints;
+        double survivalPoints;
+        const char* normalAverage;
+        const char* survivalAverage;
+    };
+    // Two games in each column from here on: a loss and a win.
+    stats.countLoss(8, false);
+    stats.countWin(200, 1, false);
+    stats.countLoss(8, true);
+    stats.countWin(300, 0, true);
+    for (const Case& c : {Case{"gain over 1000", 400, 1400, "200", "200"},
+                          Case{"below 1000", -800, 900, "-400", "-50"},
+                          Case{"down, not towards 0", -601, 999, "-301", "-1"},
+                          Case{"up to a whole", 401, 1001, "200", "0"}}) {
+        shared.normalPoints = c.normalPoints;
+        shared.survivalPoints = c.survivalPoints;
+        panel.open();
+        EXPECT_EQ(panel.value(Row::AveragePoints, false), c.normalAverage) << c.label;
+        EXPECT_EQ(panel.value(Row::AveragePoints, true), c.survivalAverage) << c.label;
+    }
+    EXPECT_EQ(panel.value(0), "401") << "points read like the score";
+    const std::vector<std::string> survival(
+        {"1001", "8", "2", "4", "0", "300", "300"}); // points, errors, games, averages, records
+    for (int i = 0; i < 7; ++i) {
+        EXPECT_EQ(panel.value(StatsPanelModel::kSurvivalColumn + i), survival[i]) << i;
+    }
+
+    stats.reset();
+    shared.normalPoints = -5000;
+    panel.open();
+    EXPECT_EQ(panel.value(Row::Games, false), "0");
+    EXPECT_EQ(panel.value(Row::Best, false), "0");
+    EXPECT_EQ(panel.value(Row::AveragePoints, false), "200") << "no games: the last text stays";
+    EXPECT_EQ(panel.value(Row::AverageErrors, true), "4");
+}
+
+TEST(StatsPanelModel, UnrollsToItsFullHeightAndRollsUpOutOfSight) {
+    SharedState shared;
+    StatsPanelModel panel{shared};
+    EXPECT_FALSE(panel.shown());
+    panel.open();
+    EXPECT_TRUE(panel.shown());
+    std::vector<int> heights;
+    while (panel.animating() && heights.size() < 100) {
+        EXPECT_FALSE(panel.valuesShown()) << "the values wait for the full height";
+        panel.tick();
+        heights.push_back(panel.height());
+    }
+    ASSERT_EQ(heights.size(), 23U);
+    EXPECT_EQ(heights.front(), 255);
+    EXPECT_EQ(heights[21], 4035);
+    EXPECT_EQ(heights.back(), 4215);
+    EXPECT_TRUE(panel.valuesShown());
+
+    panel.close();
+    EXPECT_FALSE(panel.valuesShown()) << "the values go first";
+    int ticks = 0;
+    while (panel.animating() && ticks < 100) {
+        EXPECT_TRUE(panel.shown());
+        panel.tick();
+        ++ticks;
+    }
+    EXPECT_EQ(ticks, 23);
+    EXPECT_FALSE(panel.shown());
+    EXPECT_EQ(panel.height(), StatsPanelModel::kRestHeight);
+
+    // Opened again halfway up, it still comes to rest at the full height.
+    panel.open();
+    for (int tick = 0; tick < 12; ++tick) {
+        panel.tick();
+    }
+    panel.close();
+    panel.tick();
+    panel.open();
+    while (panel.animating()) {
+        panel.tick();
+    }
+    EXPECT_EQ(panel.height(), 4215);
+    panel.close();
+    panel.close();
+    EXPECT_TRUE(panel.animating()) << "a second close is the same close";
 }
 
 } // namespace

@@ -70,12 +70,15 @@ TEST_F(Survival, TheTransferDrainsTheNormalScoreTenThenOneAtATime) {
     shared.settings.supervivencia = false;
     shared.survivalPoints = 0;
     shared.normalPoints = 2500;
-    int resets = 0;
-    model.scoring().onStatisticsReset = [&resets] { ++resets; };
+    shared.current().stats.countWin(300, 2, false);
+    shared.current().stats.countLoss(8, true);
     ASSERT_TRUE(model.giftOffered());
     model.startGift();
     EXPECT_EQ(shared.survivalPoints, 2500);
-    EXPECT_EQ(resets, 1);
+    for (bool survival : {false, true}) {
+        const UserStats::Counters& c = shared.current().stats.of(survival);
+        EXPECT_EQ(c.games + c.errors + c.best + c.worst, 0) << "both records start afresh";
+    }
     EXPECT_FALSE(model.giftOffered()) << "one transfer at a time";
 
     std::vector<double> steps;

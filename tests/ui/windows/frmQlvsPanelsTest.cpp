@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "look/Twips.h"
 #include "platform/Fonts.h"
 #include "ports/Random.h"
 #include "storage/ConfigFile.h"
@@ -9,6 +10,7 @@
 #include "windows/frmQlvs/PhraseView.h"
 #include "windows/frmQlvs/SessionPanel.h"
 #include "windows/frmQlvs/SidePanel.h"
+#include "windows/frmQlvs/StatsPanel.h"
 
 #include <QDragEnterEvent>
 #include <QHelpEvent>
@@ -198,6 +200,72 @@ TEST_F(BoardPanels, EveryTextAndTooltipIsTheGamesOwn) {
     const QFont letters = window->phraseView()->cellFont();
     EXPECT_TRUE(letters.bold()) << letters.toString().toStdString();
     EXPECT_EQ(letters.family(), Fonts::displayFamily());
+}
+
+TEST_F(BoardPanels, EstadisticasUnrollsTheCountsAndEscRollsThemUp) {
+    auto play = [this](const QString& letters) {
+        window->model().eMenuNew();
+        window->model().round().startPhrase("CASA", 1, "ANIMAL");
+        type(letters);
+        while (window->model().scoreTimerRunning()) {
+            window->model().tickScore();
+        }
+    };
+    play("bcas");     // 200 points with one strike
+    play("bdefghij"); // a loss of 1000
+    StatsPanel* panel = window->statsPanel();
+    auto settle = [this] {
+        while (window->model().stats().animating()) {
+            window->model().stats().tick();
+        }
+        window->sync();
+    };
+
+    QMenu* menu = window->buildPopup();
+    QAction* entry = nullptr;
+    for (QAction* a : menu->actions()) {
+        if (a->text() == QStringLiteral("Estadísticas")) {
+            entry = a;
+        }
+    }
+    ASSERT_NE(entry, nullptr);
+    ASSERT_TRUE(entry->isEnabled());
+    entry->trigger();
+    delete menu;
+    EXPECT_TRUE(panel->isVisible());
+    EXPECT_FALSE(panel->valuesFrame()->isVisible()) << "the values come at the full height";
+    settle();
+    ASSERT_TRUE(panel->valuesFrame()->isVisible());
+    EXPECT_EQ(panel->height(), px(4215));
+    const QStringList shown{"-800", "9", "2", "4", "-400", "200", "200",
+                            "1000", "0", "0", "0", "0",    "0",   "0"};
+    for (int i = 0; i < 14; ++i) {
+        EXPECT_EQ(panel->valueLabel(i)->text(), shown[i]) << i;
+    }
+    QStringList tips;
+    for (const QLabel* l : panel->findChildren<QLabel*>()) {
+        if (!l->toolTip().isEmpty()) {
+            tips << l->toolTip();
+        }
+    }
+    EXPECT_EQ(tips,
+              (QStringList{" Total de puntos.  ", " Total de errores. ", " Total de partidas. ",
+                           " Promedio de puntos. ", " Promedio de errores. ",
+                           QStringLiteral(" Máximo de puntos en una partida. "),
+                           " Minimo de puntos en una partida. "}));
+
+    QTest::keyClick(window.get(), Qt::Key_Escape);
+    EXPECT_FALSE(panel->valuesFrame()->isVisible());
+    EXPECT_TRUE(panel->isVisible()) << "it rolls up, it does not vanish";
+    settle();
+    EXPECT_FALSE(panel->isVisible());
+
+    window->model().eStat();
+    settle();
+    QTest::mouseClick(panel->closeLabel(), Qt::LeftButton);
+    EXPECT_EQ(panel->closeLabel()->text(), " Cerrar ");
+    settle();
+    EXPECT_FALSE(panel->isVisible());
 }
 
 // A clock that fails once, as the board opens: with no file yet, the

@@ -18,7 +18,20 @@ constexpr int kPlaying = 0;
 QlvsModel::QlvsModel(SharedState& shared, Dialogs& dialogs, Random& random, RoundEvents* events)
     : m_shared(shared), m_dialogs(dialogs), m_outer(events ? *events : m_noEvents),
       m_round(shared, dialogs, random, this), m_scoring(shared, dialogs),
-      m_sessions(shared, dialogs, random), m_panel(shared), m_random(random) {}
+      m_sessions(shared, dialogs, random), m_panel(shared), m_stats(shared), m_random(random) {
+    // Scoring calls these only when points count. A loss is counted before
+    // its points, under the same trap, so a full counter earns the gift.
+    m_scoring.onWinStatistics = [this](int points) {
+        m_shared.current().stats.countWin(points, m_round.state().strikeCount,
+                                          m_shared.settings.supervivencia);
+    };
+    m_scoring.onLossStatistics = [this] {
+        m_shared.current().stats.countLoss(m_round.state().strikeCount,
+                                           m_shared.settings.supervivencia);
+    };
+    // Points moved into survival start both records afresh.
+    m_scoring.onStatisticsReset = [this] { m_shared.current().stats.reset(); };
+}
 
 void QlvsModel::load() {
     // Each step stands alone: one that fails leaves a board that still plays.
@@ -58,6 +71,11 @@ void QlvsModel::load() {
 
 std::string QlvsModel::windowTitle() const {
     return m_loadFailed ? m_scoring.title() + " | Error al cargar datos" : m_scoring.title();
+}
+
+void QlvsModel::eWinClose() {
+    m_side.eWinClose();
+    m_stats.close();
 }
 
 void QlvsModel::correctionAsked(bool asking) {

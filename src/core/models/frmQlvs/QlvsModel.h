@@ -5,6 +5,7 @@
 #include "look/BoardLook.h"
 #include "models/frmQlvs/SessionPanelModel.h"
 #include "models/frmQlvs/SidePanelModel.h"
+#include "models/frmQlvs/StatsPanelModel.h"
 #include "players/Players.h"
 #include "round/Round.h"
 #include "scoring/Points.h"
@@ -141,7 +142,13 @@ public:
     // --- side panels --------------------------------------------------------------
     SidePanelModel& side() { return m_side; }
     const SidePanelModel& side() const { return m_side; }
-    void eWinClose() { m_side.eWinClose(); }
+    // Esc and the clicks that put the side panels away roll the statistics
+    // up as well.
+    void eWinClose();
+    StatsPanelModel& stats() { return m_stats; }
+    const StatsPanelModel& stats() const { return m_stats; }
+    // "Estadísticas".
+    void eStat() { m_stats.open(); }
 
     // --- menu entries --------------------------------------------------------------
     void eMenuNew() { m_round.eMenuNew(); }
@@ -252,6 +259,7 @@ private:
     Sessions m_sessions;
     SessionPanelModel m_panel;
     SidePanelModel m_side;
+    StatsPanelModel m_stats;
     char32_t m_deadKey = 0;
     bool m_reopen = false;
     // The pulse's grey level, and whether it is on its way down.

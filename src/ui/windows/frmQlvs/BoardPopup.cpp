@@ -38,7 +38,7 @@ QMenu* buildBoardPopup(QlvsModel& model, QWidget* board, const std::function<voi
     if (model.scoring().pointsCount()) {
         entry(settings.supervivencia ? "Modo normal" : "Modo supervivencia",
               [&model] { model.toggleSurvival(); });
-        entry("Estadísticas", nullptr, false);
+        entry("Estadísticas", [&model] { model.eStat(); });
     }
     if (model.deleteShown()) {
         entry("Eliminar sesión", [&model] { model.deleteSession(); });

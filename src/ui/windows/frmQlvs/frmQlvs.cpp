@@ -17,6 +17,7 @@
 #include "windows/frmQlvs/ScorePanel.h"
 #include "windows/frmQlvs/SessionPanel.h"
 #include "windows/frmQlvs/SidePanel.h"
+#include "windows/frmQlvs/StatsPanel.h"
 #include "windows/frmQlvs/StrikeStrip.h"
 #include "windows/frmQlvs/ThemeBox.h"
 #include "windows/frmWord1/frmWord1.h"
@@ -104,6 +105,11 @@ void frmQlvs::buildTimers() {
         m_model.panel().tickList();
         sync();
     });
+    m_tmrStat = timer(StatsPanelModel::kTickMs, [this] {
+        m_model.stats().tick();
+        m_statsPanel->sync();
+        syncTimers();
+    });
     m_tmrOpen = timer(QlvsModel::kOpenTickMs, [this] {
         m_model.tickOpen();
         sync();
@@ -150,6 +156,7 @@ void frmQlvs::buildControls() {
     m_gallows = new GallowsView(m_model.round().figure(), this);
     m_phrase = new PhraseView(m_model, this);
     m_sidePanel = new SidePanel(m_model.side(), this);
+    m_statsPanel = new StatsPanel(m_model.stats(), changed, this);
 
     m_lblGame = new QLabel(this);
     m_lblGame->setGeometry(twipRect(kStatusLeft, kStatusTop, kStatusWidth, kStatusHeight));
@@ -246,6 +253,7 @@ void frmQlvs::paintPanels() {
     m_answerPanel->paint(css(game));
     m_again->paint(css(game));
     m_sidePanel->paint(css(game));
+    m_statsPanel->paint(css(game), css(shade));
 }
 
 void frmQlvs::sync() {
@@ -269,6 +277,7 @@ void frmQlvs::syncView() {
     m_scorePanel->sync();
     m_sidePanel->sync();
     m_again->sync();
+    m_statsPanel->sync();
 
     setWindowTitle(qs(m_model.windowTitle()));
     const bool buttonHidden = m_model.shared().settings.sinBotonJugar;
@@ -366,6 +375,7 @@ void frmQlvs::syncTimers() {
     follow(m_tmrMenu, m_model.panel().listSliding());
     follow(m_tmrFore, m_model.pulseTimerRunning());
     follow(m_tmrGift, m_model.giftTimerRunning());
+    follow(m_tmrStat, m_model.stats().animating());
 }
 
 void frmQlvs::playPressed() {

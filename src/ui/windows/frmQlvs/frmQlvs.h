@@ -26,6 +26,7 @@ class PlayPanel;
 class ScorePanel;
 class SessionPanel;
 class SidePanel;
+class StatsPanel;
 class StrikeStrip;
 class ThemeBox;
 class frmNames;
@@ -85,6 +86,7 @@ public:
     SessionPanel* sessionPanel() const { return m_sessionPanel; }
     SidePanel* sidePanel() const { return m_sidePanel; }
     AgainLabels* againLabels() const { return m_again; }
+    StatsPanel* statsPanel() const { return m_statsPanel; }
     frmWord2* themeWindow() const { return m_themeWindow; }
     frmWord1* friendWindow() const { return m_friendWindow; }
     frmNames* namesWindow() const { return m_namesWindow; }
@@ -134,6 +136,7 @@ private:
     SidePanel* m_sidePanel = nullptr;
     SessionPanel* m_sessionPanel = nullptr;
     AgainLabels* m_again = nullptr;
+    StatsPanel* m_statsPanel = nullptr;
     QLabel* m_lblGame = nullptr;
     ThemeBox* m_themeBox = nullptr;
     QLabel* m_lblCont = nullptr;
@@ -159,6 +162,7 @@ private:
     QTimer* m_tmrRebote = nullptr;
     QTimer* m_tmrFore = nullptr;
     QTimer* m_tmrGift = nullptr;
+    QTimer* m_tmrStat = nullptr;
 };
 
 } // namespace quillora

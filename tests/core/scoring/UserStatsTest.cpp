@@ -1,0 +1,159 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "scoring/UserStats.h"
+
+#include "models/frmInicio/InicioModel.h"
+#include "models/frmQlvs/QlvsModel.h"
+#include "support/Fakes.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <vector>
+
+namespace quillora {
+namespace {
+
+using Counters = UserStats::Counters;
+
+void expectCounters(const Counters& c, Counters want, const char* label) {
+    EXPECT_EQ(c.errors, want.errors) << label;
+    EXPECT_EQ(c.games, want.games) << label;
+    EXPECT_EQ(c.best, want.best) << label;
+    EXPECT_EQ(c.worst, want.worst) << label;
+}
+
+TEST(UserStats, WinsAndLossesAreCountedPerModeAndTheRecordsKeepTheExtremes) {
+    struct Step {
+        const char* label;
+        bool win;
+        int points;
+        int strikes;
+        bool survival;
+        Counters normal;
+        Counters survivalAfter;
+    };
+    const std::vector<Step> steps{
+        {"first win", true, 450, 3, false, {3, 1, 450, 450}, {}},
+        {"a lower win", true, 300, 1, false, {4, 2, 450, 300}, {}},
+        {"a loss", false, 0, 8, false, {12, 3, 450, 300}, {}},
+        {"a win between", true, 400, 0, false, {12, 4, 450, 300}, {}},
+        {"survival apart", true, 500, 2, true, {12, 4, 450, 300}, {2, 1, 500, 500}},
+        {"survival loss", false, 0, 8, true, {12, 4, 450, 300}, {10, 2, 500, 500}},
+        {"a higher win", true, 900, 0, true, {12, 4, 450, 300}, {10, 3, 900, 500}},
+    };
+    UserStats stats;
+    for (const Step& s : steps) {
+        if (s.win) {
+            stats.countWin(s.points, s.strikes, s.survival);
+        } else {
+            stats.countLoss(s.strikes, s.survival);
+        }
+        expectCounters(stats.normal(), s.normal, s.label);
+        expectCounters(stats.survival(), s.survivalAfter, s.label);
+    }
+    stats.reset();
+    expectCounters(stats.normal(), {}, "reset");
+    expectCounters(stats.survival(), {}, "reset");
+}
+
+TEST(UserStats, AFullCounterStopsOnAWinAndFailsALossWithNothingCounted) {
+    UserStats stats;
+    stats.countWin(100, 32760, false);
+    stats.countWin(100, 8, false);
+    expectCounters(stats.normal(), {32767, 2, 100, 100}, "errors stop at the top");
+    EXPECT_THROW(stats.countLoss(8, false), std::overflow_error);
+    expectCounters(stats.normal(), {32767, 2, 100, 100}, "a failed loss counts nothing");
+    EXPECT_NO_THROW(stats.countLoss(8, true)) << "the other column is not full";
+
+    for (int game = 0; game < 32767; ++game) {
+        stats.countWin(50, 0, true);
+    }
+    EXPECT_EQ(stats.survival().games, 32767) << "games stop at the top, never wrap";
+    EXPECT_EQ(stats.survival().worst, 50);
+    EXPECT_THROW(stats.countLoss(0, true), std::overflow_error) << "no room for one more game";
+}
+
+// --- what the board counts ----------------------------------------------------------------
+
+class BoardStatistics : public ::testing::Test {
+protected:
+    BoardStatistics() {
+        shared.dataFolder = temp.path();
+        InicioLoad(shared);
+    }
+    // CASA: four letters, so a win is worth 400 / (1 + strikes).
+    void play(QlvsModel& board, const char32_t* letters) {
+        board.eMenuNew();
+        board.round().startPhrase("CASA", 1, "ANIMAL");
+        for (const char32_t* c = letters; *c; ++c) {
+            board.keyTyped(QlvsModel::WindowKey::Character, *c);
+        }
+        while (board.scoreTimerRunning()) {
+            board.tickScore();
+        }
+    }
+    const Counters& normal() const { return shared.current().stats.normal(); }
+
+    TempFolder temp{"quillora-stats"};
+    SharedState shared;
+    ScriptedDialogs dialogs;
+    QueuedRandom random;
+    QlvsModel board{shared, dialogs, random};
+};
+
+TEST_F(BoardStatistics, OnlyGamesWhosePointsCountAreCountedInTheModeInPlay) {
+    play(board, U"bcas");
+    expectCounters(normal(), {1, 1, 200, 200}, "a win with one strike");
+    play(board, U"bdefghij");
+    expectCounters(normal(), {9, 2, 200, 200}, "a loss");
+    EXPECT_EQ(shared.normalPoints, -800);
+
+    shared.settings.supervivencia = true;
+    play(board, U"cas");
+    expectCounters(normal(), {9, 2, 200, 200}, "survival leaves normal alone");
+    expectCounters(shared.current().stats.survival(), {0, 1, 400, 400}, "survival win");
+
+    shared.settings.supervivencia = false;
+    shared.multiplayer = true;
+    play(board, U"bcas");
+    shared.multiplayer = false;
+    shared.settings.sistemaPuntos = false;
+    play(board, U"bdefghij");
+    expectCounters(normal(), {9, 2, 200, 200}, "with a friend or without points");
+}
+
+TEST_F(BoardStatistics, ALossThatWouldOverflowItsCounterIsMadeUpWithTheGift) {
+    shared.current().stats.countWin(100, 32760, false);
+    play(board, U"bdefghij");
+    ASSERT_EQ(dialogs.shown.size(), 1U);
+    EXPECT_EQ(shared.normalPoints, 1500);
+    expectCounters(normal(), {32760, 1, 100, 100}, "the loss went uncounted");
+}
+
+TEST_F(BoardStatistics, TheCountsStayWithTheirUserAcrossASwitchAndANewBoard) {
+    play(board, U"cas");
+    random.queue({0.5});
+    std::string shown;
+    board.addSession("Ana", shown);
+    ASSERT_EQ(shared.currentSlot, 1);
+    play(board, U"bdefghij");
+
+    QlvsModel next{shared, dialogs, random};
+    next.stats().open();
+    EXPECT_EQ(next.stats().value(StatsPanelModel::Games, false), "1");
+    EXPECT_EQ(next.stats().value(StatsPanelModel::Errors, false), "8");
+    EXPECT_EQ(next.stats().value(StatsPanelModel::Best, false), "0");
+
+    next.switchSession(0);
+    ASSERT_EQ(shared.currentSlot, 0);
+    QlvsModel main{shared, dialogs, random};
+    main.stats().open();
+    EXPECT_EQ(main.stats().value(StatsPanelModel::Games, false), "1");
+    EXPECT_EQ(main.stats().value(StatsPanelModel::Best, false), "400");
+    EXPECT_EQ(main.stats().value(StatsPanelModel::Errors, false), "0");
+}
+
+} // namespace
+} // namespace quillora
