@@ -115,6 +115,9 @@ public:
     // tmrSusp: the dots of "JUGANDO".
     void tickStatus();
     PendingSound& pendingSound() { return m_sound; }
+    // The countdown ran out: every strike left is taken and the game is lost
+    // just as at the eighth strike.
+    void timeUp();
 
     // --- what the board shows ---------------------------------------------------
     const PhraseBoard& board() const { return m_board; }
@@ -146,6 +149,8 @@ private:
     void BotonFigura();
     void BotonWin();
     void Comparar();
+    // A death that does not come from a wrong letter takes every strike left.
+    void fillEmptySlots();
     void endRound(const std::string& caption);
     void closeAnswerBox();
     void showDigitPanel(bool shown) { m_digitPanelVisible = shown; }

@@ -18,6 +18,7 @@ class QTimer;
 namespace quillora {
 
 class AnswerPanel;
+class CountdownLabel;
 class GallowsView;
 class KeyboardView;
 class PhraseView;
@@ -61,6 +62,8 @@ public:
     // For the tests: the controls a player sees.
     QLabel* statusLabel() const { return m_lblGame; }
     QLabel* counterLabel() const { return m_lblCont; }
+    QLabel* timeLabel() const;
+    QTimer* countdownTimer() const { return m_tmrOver; }
     QLabel* themeLabel() const { return m_lblTheme; }
     QLabel* strikeLabel(int slot) const;
     QLabel* quitLabel() const;
@@ -131,6 +134,7 @@ private:
     QLabel* m_lblThemeCaption = nullptr;
     QLabel* m_lblTheme = nullptr;
     QLabel* m_lblCont = nullptr;
+    CountdownLabel* m_lblTime = nullptr;
     QLabel* m_lblQueEs = nullptr;
     QPushButton* m_cmdCopy = nullptr;
     QLabel* m_lblAuto = nullptr;
@@ -147,6 +151,7 @@ private:
     QTimer* m_tmrOpen = nullptr;
     QTimer* m_tmrTop = nullptr;
     QTimer* m_tmrScore = nullptr;
+    QTimer* m_tmrOver = nullptr;
     QTimer* m_tmrKey = nullptr;
     QTimer* m_tmrMenu = nullptr;
     QTimer* m_tmrNames = nullptr;
