@@ -463,6 +463,11 @@ bool Round::cmdOk() {
     if (!m_dialogs.yesNo("¿Está seguro?, morirá si se equivoca.")) {
         return false;
     }
+    // The clock keeps running behind the question and may have ended the
+    // game meanwhile: an answer to a lost game changes nothing.
+    if (!inPlay()) {
+        return true;
+    }
     Comparar();
     return true;
 }
@@ -476,16 +481,31 @@ void Round::Comparar() {
         m_board.revealAll();
         BotonWin();
     } else {
-        for (auto& slot : m_state.strikeSlots) {
-            if (slot.empty()) {
-                slot = " ";
-            }
-        }
+        fillEmptySlots();
         requestSound(kSoundLost);
         m_state.strikeCount = kDeathStrikes;
         BotonFigura();
     }
     closeAnswerBox();
+}
+
+void Round::fillEmptySlots() {
+    for (auto& slot : m_state.strikeSlots) {
+        if (slot.empty()) {
+            slot = " ";
+        }
+    }
+}
+
+void Round::timeUp() {
+    if (!inPlay()) {
+        return;
+    }
+    fillEmptySlots();
+    requestSound(kSoundLost);
+    m_events.countdownStopped();
+    m_state.strikeCount = kDeathStrikes;
+    BotonFigura();
 }
 
 // --- the strike correction --------------------------------------------------------------

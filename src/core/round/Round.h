@@ -117,6 +117,9 @@ public:
     // The dots only move while a game is played: no other caption animates.
     bool statusTimerRunning() const { return m_status.rfind("JUGANDO", 0) == 0; }
     PendingSound& pendingSound() { return m_sound; }
+    // The countdown ran out: every strike left is taken and the game is lost
+    // just as at the eighth strike.
+    void timeUp();
 
     // --- what the board shows ---------------------------------------------------
     const PhraseBoard& board() const { return m_board; }
@@ -148,6 +151,8 @@ private:
     void BotonFigura();
     void BotonWin();
     void Comparar();
+    // A death that does not come from a wrong letter takes every strike left.
+    void fillEmptySlots();
     void endRound(const std::string& caption);
     void closeAnswerBox();
     void showDigitPanel(bool shown) { m_digitPanelVisible = shown; }

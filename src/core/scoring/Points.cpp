@@ -85,8 +85,12 @@ bool Scoring::pointsCount() const {
     return m_shared.settings.sistemaPuntos && !m_shared.multiplayer && m_shared.playerCount <= 1;
 }
 
+bool Scoring::severalPlayers() const {
+    return m_shared.multiplayer || m_shared.playerCount > 1;
+}
+
 void Scoring::refreshTitle() {
-    m_title = eTitle(m_shared.settings, m_shared.multiplayer || m_shared.playerCount > 1);
+    m_title = eTitle(m_shared.settings, severalPlayers());
 }
 
 void Scoring::showAccount() {

@@ -39,6 +39,8 @@ public:
     double accountInUse() const;
     // One player with the points system on.
     bool pointsCount() const;
+    // With a friend or more the title tells no modes and no clock runs.
+    bool severalPlayers() const;
 
     void refreshTitle();
     // The label shows the account in use (a new game, the board's opening).

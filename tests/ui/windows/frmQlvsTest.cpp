@@ -9,6 +9,7 @@
 
 #include <QLineEdit>
 #include <QMimeData>
+#include <QTimer>
 
 #include <fstream>
 
@@ -179,6 +180,32 @@ TEST_F(BoardWindow, OnlyTheCloseBoxEndsTheGame) {
     window->onClose = [&closes] { ++closes; };
     window->close();
     EXPECT_EQ(closes, 1);
+}
+
+TEST_F(BoardWindow, TheClockShowsOnlyWhileItCountsAndItsTimerFollowsTheModel) {
+    EXPECT_FALSE(window->timeLabel()->isVisible());
+    shared.settings.contratiempo = 2;
+    ASSERT_TRUE(ConfSave(shared, dialogs)); // the board takes it from the file
+    SetUpBoard();
+    EXPECT_EQ(window->timeLabel()->toolTip(),
+              QStringLiteral(" Segundos para que se acabe la partida del juego. "));
+    EXPECT_FALSE(window->countdownTimer()->isActive());
+    startVaca();
+    EXPECT_TRUE(window->timeLabel()->isVisible());
+    EXPECT_EQ(window->timeLabel()->text(), "20");
+    EXPECT_EQ(window->countdownTimer()->interval(), 1000);
+    ASSERT_TRUE(window->countdownTimer()->isActive());
+
+    // One real timeout, without the wait: the timer reaches the model and
+    // the label shows what the model counted.
+    window->countdownTimer()->setInterval(0);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window->timeLabel()->text(), "19");
+
+    type("vac");
+    EXPECT_EQ(window->statusLabel()->text(), QStringLiteral("¡VICTORIA!"));
+    EXPECT_FALSE(window->timeLabel()->isVisible());
+    EXPECT_FALSE(window->countdownTimer()->isActive());
 }
 
 TEST_F(BoardWindow, FriendsStartWithTheirNamesThenOneOfThemWritesThePhrase) {

@@ -11,6 +11,7 @@
 namespace quillora {
 
 namespace {
+constexpr int kSoundWarning = 1;
 constexpr int kSoundNewPhrase = 2;
 constexpr int kPlaying = 0;
 } // namespace
@@ -80,8 +81,10 @@ void QlvsModel::eWinClose() {
 
 void QlvsModel::correctionAsked(bool asking) {
     if (asking) {
+        m_countdown.pause();
         m_side.showEmpty();
     } else {
+        m_countdown.resume();
         m_side.eWinClose();
     }
     m_outer.correctionAsked(asking);
@@ -131,6 +134,8 @@ void QlvsModel::nextTurn() {
 }
 
 void QlvsModel::phraseLaid() {
+    m_countdown.start(m_round.board().letterTotal(), m_shared.settings.contratiempo,
+                      !m_scoring.severalPlayers());
     openKeyboard();
     // With sounds off nothing waits for the opening sound: the score settles
     // at once.
@@ -138,6 +143,11 @@ void QlvsModel::phraseLaid() {
         m_scoring.startCounting();
     }
     m_outer.phraseLaid();
+}
+
+void QlvsModel::countdownStopped() {
+    m_countdown.stop();
+    m_outer.countdownStopped();
 }
 
 void QlvsModel::roundWon() {
@@ -428,6 +438,19 @@ void QlvsModel::tickSound() {
         m_scoring.startCounting();
     }
     m_round.pendingSound().tick();
+}
+
+void QlvsModel::tickCountdown() {
+    switch (m_countdown.tick()) {
+    case Countdown::Tick::Warning:
+        m_round.pendingSound().request(kSoundWarning, m_shared.settings.sonidos);
+        break;
+    case Countdown::Tick::TimeUp:
+        m_round.timeUp();
+        break;
+    case Countdown::Tick::Nothing:
+        break;
+    }
 }
 
 void QlvsModel::tickScore() {

@@ -8,6 +8,7 @@
 #include "models/frmQlvs/StatsPanelModel.h"
 #include "players/Players.h"
 #include "round/Round.h"
+#include "scoring/Countdown.h"
 #include "scoring/Points.h"
 #include "state/SharedState.h"
 #include "storage/Sessions.h"
@@ -17,8 +18,8 @@
 
 namespace quillora {
 
-// The board window's own state beside the game: the score, the sessions and
-// their panel, the keyboard's faces under the mouse, the strike-correction
+// The board window's own state beside the game: the score, the countdown,
+// the sessions and their panel, the keyboard's faces under the mouse, the strike-correction
 // label, the keyboard's opening and which of the window's timers run. The
 // widget draws this and the round it holds.
 class QlvsModel final : private RoundEvents {
@@ -209,6 +210,12 @@ public:
         return topTwips < kMinTopTwips ? kMinTopTwips : topTwips;
     }
     bool scoreTimerRunning() const { return m_scoring.counting(); }
+    // tmrOver: one second of countdown mode gone.
+    void tickCountdown();
+    bool countdownTimerRunning() const { return m_countdown.running(); }
+    const Countdown& countdown() const { return m_countdown; }
+    // White while time is plenty, the game colour when it runs short.
+    Rgb countdownColour() const { return m_countdown.urgent() ? gameColour() : kWhite; }
 
     // --- the keyboard's opening (tmrOpen) ----------------------------------------------
     void openKeyboard();
@@ -241,7 +248,7 @@ private:
     void phraseLaid() override;
     void roundWon() override;
     void roundLost() override;
-    void countdownStopped() override { m_outer.countdownStopped(); }
+    void countdownStopped() override;
     void correctionAsked(bool asking) override;
     void settingsChanged() override;
     void titleChanged() override { m_scoring.refreshTitle(); }
@@ -256,6 +263,7 @@ private:
     RoundEvents& m_outer;
     Round m_round;
     Scoring m_scoring;
+    Countdown m_countdown;
     Sessions m_sessions;
     SessionPanelModel m_panel;
     SidePanelModel m_side;

@@ -10,6 +10,7 @@
 #include "windows/frmQlvs/AnswerPanel.h"
 #include "windows/frmQlvs/BoardKeys.h"
 #include "windows/frmQlvs/BoardPopup.h"
+#include "windows/frmQlvs/CountdownLabel.h"
 #include "windows/frmQlvs/GallowsView.h"
 #include "windows/frmQlvs/KeyboardView.h"
 #include "windows/frmQlvs/PhraseView.h"
@@ -87,6 +88,10 @@ void frmQlvs::buildTimers() {
     m_tmrSound = timer(PendingSound::kTickMs, [this] {
         m_model.tickSound();
         syncTimers();
+    });
+    m_tmrOver = timer(Countdown::kTickMs, [this] {
+        m_model.tickCountdown();
+        sync();
     });
     m_tmrScore = timer(QlvsModel::kScoreTickMs, [this] {
         m_model.tickScore();
@@ -171,6 +176,7 @@ void frmQlvs::buildControls() {
     m_lblCont->setFont(Fonts::display(12));
     m_lblCont->setToolTip(QStringLiteral(" Letras reveladas. "));
     m_lblCont->installEventFilter(this);
+    m_lblTime = new CountdownLabel(m_model, this);
 
     m_strikes = new StrikeStrip(m_model, changed, this);
     m_playPanel = new PlayPanel(
@@ -270,6 +276,7 @@ void frmQlvs::syncView() {
     m_themeBox->sync();
     m_lblCont->setText(qs(round.board().counterText()));
     m_lblCont->setVisible(round.counterVisible());
+    m_lblTime->sync();
     m_lblQueEs->setVisible(round.queEsEsoVisible());
     m_strikes->sync();
     m_playPanel->sync();
@@ -371,6 +378,7 @@ void frmQlvs::syncTimers() {
     follow(m_tmrOpen, m_model.openTimerRunning());
     follow(m_tmrTop, m_model.topTimerRunning() && m_shownOnce);
     follow(m_tmrScore, m_model.scoreTimerRunning());
+    follow(m_tmrOver, m_model.countdownTimerRunning());
     follow(m_tmrKey, m_model.panel().animating());
     follow(m_tmrMenu, m_model.panel().listSliding());
     follow(m_tmrFore, m_model.pulseTimerRunning());
@@ -566,6 +574,9 @@ void frmQlvs::dropEvent(QDropEvent* event) {
 
 QLabel* frmQlvs::themeLabel() const {
     return m_themeBox->themeLabel();
+}
+QLabel* frmQlvs::timeLabel() const {
+    return m_lblTime;
 }
 QLabel* frmQlvs::strikeLabel(int slot) const {
     return m_strikes->strikeLabel(slot);

@@ -19,6 +19,7 @@ namespace quillora {
 
 class AgainLabels;
 class AnswerPanel;
+class CountdownLabel;
 class GallowsView;
 class KeyboardView;
 class PhraseView;
@@ -68,6 +69,8 @@ public:
     QLabel* statusLabel() const { return m_lblGame; }
     QLabel* counterLabel() const { return m_lblCont; }
     QLabel* themeLabel() const;
+    QLabel* timeLabel() const;
+    QTimer* countdownTimer() const { return m_tmrOver; }
     QLabel* strikeLabel(int slot) const;
     QLabel* quitLabel() const;
     QPushButton* playButton() const;
@@ -140,6 +143,7 @@ private:
     QLabel* m_lblGame = nullptr;
     ThemeBox* m_themeBox = nullptr;
     QLabel* m_lblCont = nullptr;
+    CountdownLabel* m_lblTime = nullptr;
     QLabel* m_lblQueEs = nullptr;
     QPushButton* m_cmdCopy = nullptr;
     QLabel* m_lblAuto = nullptr;
@@ -156,6 +160,7 @@ private:
     QTimer* m_tmrOpen = nullptr;
     QTimer* m_tmrTop = nullptr;
     QTimer* m_tmrScore = nullptr;
+    QTimer* m_tmrOver = nullptr;
     QTimer* m_tmrKey = nullptr;
     QTimer* m_tmrMenu = nullptr;
     QTimer* m_tmrNames = nullptr;
