@@ -570,46 +570,4 @@ void frmQlvs::dropEvent(QDropEvent* event) {
     sync();
 }
 
-// --- the panels' controls, for the tests ----------------------------------------------
-
-QLabel* frmQlvs::themeLabel() const {
-    return m_themeBox->themeLabel();
-}
-QLabel* frmQlvs::timeLabel() const {
-    return m_lblTime;
-}
-QLabel* frmQlvs::strikeLabel(int slot) const {
-    return m_strikes->strikeLabel(slot);
-}
-QLabel* frmQlvs::quitLabel() const {
-    return m_strikes->quitLabel();
-}
-QPushButton* frmQlvs::playButton() const {
-    return m_playPanel->playButton();
-}
-QLabel* frmQlvs::restoreLabel() const {
-    return m_playPanel->restoreLabel();
-}
-QMenu* frmQlvs::buildPlayMenu() {
-    return m_playPanel->buildPlayMenu();
-}
-QLineEdit* frmQlvs::answerBox() const {
-    return m_answerPanel->answerBox();
-}
-QPushButton* frmQlvs::answerOkButton() const {
-    return m_answerPanel->okButton();
-}
-QLabel* frmQlvs::scoreLabel() const {
-    return m_scorePanel->scoreLabel();
-}
-QWidget* frmQlvs::scoreFrame() const {
-    return m_scorePanel->scoreFrame();
-}
-QLabel* frmQlvs::playerLabel() const {
-    return m_scorePanel->playerLabel();
-}
-QMenu* frmQlvs::buildTurnMenu() {
-    return m_scorePanel->buildTurnMenu();
-}
-
 } // namespace quillora

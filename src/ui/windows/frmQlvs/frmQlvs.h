@@ -3,7 +3,13 @@
 #pragma once
 
 #include "models/frmQlvs/QlvsModel.h"
+#include "windows/frmQlvs/AnswerPanel.h"
 #include "windows/frmQlvs/BoardDialogs.h"
+#include "windows/frmQlvs/CountdownLabel.h"
+#include "windows/frmQlvs/PlayPanel.h"
+#include "windows/frmQlvs/ScorePanel.h"
+#include "windows/frmQlvs/StrikeStrip.h"
+#include "windows/frmQlvs/ThemeBox.h"
 
 #include <QWidget>
 
@@ -18,18 +24,12 @@ class QTimer;
 namespace quillora {
 
 class AgainLabels;
-class AnswerPanel;
-class CountdownLabel;
 class GallowsView;
 class KeyboardView;
 class PhraseView;
-class PlayPanel;
-class ScorePanel;
 class SessionPanel;
 class SidePanel;
 class StatsPanel;
-class StrikeStrip;
-class ThemeBox;
 class frmNames;
 class frmWord1;
 class frmWord2;
@@ -68,23 +68,23 @@ public:
     // For the tests: the controls a player sees.
     QLabel* statusLabel() const { return m_lblGame; }
     QLabel* counterLabel() const { return m_lblCont; }
-    QLabel* themeLabel() const;
-    QLabel* timeLabel() const;
+    QLabel* themeLabel() const { return m_themeBox->themeLabel(); }
+    QLabel* timeLabel() const { return m_lblTime; }
     QTimer* countdownTimer() const { return m_tmrOver; }
-    QLabel* strikeLabel(int slot) const;
-    QLabel* quitLabel() const;
-    QPushButton* playButton() const;
+    QLabel* strikeLabel(int slot) const { return m_strikes->strikeLabel(slot); }
+    QLabel* quitLabel() const { return m_strikes->quitLabel(); }
+    QPushButton* playButton() const { return m_playPanel->playButton(); }
     QPushButton* smallPlayButton() const { return m_cmdCopy; }
-    QLabel* restoreLabel() const;
-    QMenu* buildPlayMenu();
-    QLineEdit* answerBox() const;
-    QPushButton* answerOkButton() const;
+    QLabel* restoreLabel() const { return m_playPanel->restoreLabel(); }
+    QMenu* buildPlayMenu() { return m_playPanel->buildPlayMenu(); }
+    QLineEdit* answerBox() const { return m_answerPanel->answerBox(); }
+    QPushButton* answerOkButton() const { return m_answerPanel->okButton(); }
     KeyboardView* keyboard() const { return m_keyboard; }
     PhraseView* phraseView() const { return m_phrase; }
-    QLabel* scoreLabel() const;
-    QWidget* scoreFrame() const;
-    QLabel* playerLabel() const;
-    QMenu* buildTurnMenu();
+    QLabel* scoreLabel() const { return m_scorePanel->scoreLabel(); }
+    QWidget* scoreFrame() const { return m_scorePanel->scoreFrame(); }
+    QLabel* playerLabel() const { return m_scorePanel->playerLabel(); }
+    QMenu* buildTurnMenu() { return m_scorePanel->buildTurnMenu(); }
     QLabel* autoMarker() const { return m_lblAuto; }
     SessionPanel* sessionPanel() const { return m_sessionPanel; }
     SidePanel* sidePanel() const { return m_sidePanel; }
