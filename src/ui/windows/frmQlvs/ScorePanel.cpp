@@ -6,6 +6,7 @@
 #include "models/frmQlvs/QlvsModel.h"
 #include "platform/Fonts.h"
 #include "windows/QtColour.h"
+#include "windows/RoundedLabel.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -24,9 +25,8 @@ ScorePanel::ScorePanel(QlvsModel& model, std::function<void()> changed, std::fun
     : QWidget(board), m_model(model), m_changed(std::move(changed)), m_names(std::move(names)) {
     setGeometry(px(kLeft), px(kTop), px(kWidth), px(kHeight));
 
-    m_frmeScore = new QWidget(this);
+    m_frmeScore = new RoundedLabel(this);
     m_frmeScore->setObjectName(QStringLiteral("frmeScore"));
-    m_frmeScore->setAttribute(Qt::WA_StyledBackground);
     m_frmeScore->setGeometry(0, 0, px(kWidth), px(kHeight));
     auto* caption = new QLabel(QStringLiteral(" Puntos "), m_frmeScore);
     caption->setGeometry(0, px(15), px(kWidth), px(kCaptionHeight));
@@ -44,9 +44,8 @@ ScorePanel::ScorePanel(QlvsModel& model, std::function<void()> changed, std::fun
         }
     });
 
-    m_frmePlayer = new QWidget(this);
+    m_frmePlayer = new RoundedLabel(this);
     m_frmePlayer->setObjectName(QStringLiteral("frmePlayer"));
-    m_frmePlayer->setAttribute(Qt::WA_StyledBackground);
     m_frmePlayer->setGeometry(0, 0, px(kWidth), px(kHeight));
     m_lblPlayer1 = new QLabel(m_frmePlayer);
     m_lblPlayer1->setGeometry(0, 0, px(kWidth), px(kHeight));
@@ -59,11 +58,9 @@ ScorePanel::ScorePanel(QlvsModel& model, std::function<void()> changed, std::fun
             [this](const QPoint& at) { buildTurnMenu()->popup(m_lblPlayer1->mapToGlobal(at)); });
 }
 
-void ScorePanel::paint(const QString& scoreColour, const QString& playerColour) {
-    const QString frame = QStringLiteral("#%1 { background: %2; border-radius: %3px; }"
-                                         "QLabel { color: white; background: transparent; }");
-    m_frmeScore->setStyleSheet(frame.arg(QStringLiteral("frmeScore"), scoreColour).arg(px(90)));
-    m_frmePlayer->setStyleSheet(frame.arg(QStringLiteral("frmePlayer"), playerColour).arg(px(90)));
+void ScorePanel::paint(const QColor& scoreColour, const QColor& playerColour) {
+    m_frmeScore->setColours(scoreColour, Qt::white);
+    m_frmePlayer->setColours(playerColour, Qt::white);
 }
 
 void ScorePanel::sync() {
@@ -76,10 +73,13 @@ void ScorePanel::sync() {
 
 void ScorePanel::syncScore() {
     m_lblScore->setText(qs(m_model.scoring().scoreLabel()));
-    const QString colour = css(m_model.scoreTextColour());
-    if (m_lblScore->property("textColour").toString() != colour) {
-        m_lblScore->setProperty("textColour", colour);
-        m_lblScore->setStyleSheet(QStringLiteral("color: %1;").arg(colour));
+    // The pulse recolours the points ten times a second: a palette, not a
+    // style sheet, so only the label repaints.
+    const QColor colour = qc(m_model.scoreTextColour());
+    if (m_lblScore->palette().color(QPalette::WindowText) != colour) {
+        QPalette text = m_lblScore->palette();
+        text.setColor(QPalette::WindowText, colour);
+        m_lblScore->setPalette(text);
     }
 }
 

@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "windows/RoundedLabel.h"
+
 #include <QWidget>
 
 #include <functional>
 
+class QColor;
 class QLabel;
 class QMenu;
 
@@ -24,7 +27,7 @@ public:
     void sync();
     // The score's own sync, for its 1 ms counter.
     void syncScore();
-    void paint(const QString& scoreColour, const QString& playerColour);
+    void paint(const QColor& scoreColour, const QColor& playerColour);
 
     QWidget* scoreFrame() const { return m_frmeScore; }
     QLabel* scoreLabel() const { return m_lblScore; }
@@ -46,9 +49,9 @@ private:
     QlvsModel& m_model;
     std::function<void()> m_changed;
     std::function<void()> m_names;
-    QWidget* m_frmeScore = nullptr;
+    RoundedLabel* m_frmeScore = nullptr;
     QLabel* m_lblScore = nullptr;
-    QWidget* m_frmePlayer = nullptr;
+    RoundedLabel* m_frmePlayer = nullptr;
     QLabel* m_lblPlayer1 = nullptr;
 };
 

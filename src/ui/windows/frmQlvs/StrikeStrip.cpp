@@ -6,10 +6,12 @@
 #include "models/frmQlvs/QlvsModel.h"
 #include "platform/Fonts.h"
 #include "windows/QtColour.h"
+#include "windows/RoundedLabel.h"
 
 #include <QEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPainter>
 
 namespace quillora {
 
@@ -26,12 +28,10 @@ const std::array<const char*, RoundState::kSlots> kStrikeTips{
 
 StrikeStrip::StrikeStrip(QlvsModel& model, std::function<void()> changed, QWidget* board)
     : QWidget(board), m_model(model), m_changed(std::move(changed)) {
-    setObjectName(QStringLiteral("frmeStrikes"));
-    setAttribute(Qt::WA_StyledBackground);
     setGeometry(px(kLeft - kMargin), px(kTop - kMargin), px(kPitch * 7 + kWidth + 2 * kMargin),
                 px(kHeight + 2 * kMargin));
     for (int slot = 1; slot <= RoundState::kSlots; ++slot) {
-        auto* label = new QLabel(this);
+        auto* label = new RoundedLabel(this);
         label->setGeometry(px(kMargin + kPitch * (slot - 1)), px(kMargin), px(kWidth), px(kHeight));
         label->setAlignment(Qt::AlignCenter);
         label->setFont(Fonts::display(14));
@@ -46,14 +46,27 @@ StrikeStrip::StrikeStrip(QlvsModel& model, std::function<void()> changed, QWidge
     m_lblQuit->setCursor(Qt::PointingHandCursor);
     m_lblQuit->setMouseTracking(true);
     m_lblQuit->installEventFilter(this);
+    QPalette white = m_lblQuit->palette();
+    white.setColor(QPalette::WindowText, Qt::white);
+    m_lblQuit->setPalette(white);
 }
 
-void StrikeStrip::paint(const QString& lampPanel, const QString& lineColour) {
-    setStyleSheet(QStringLiteral("#frmeStrikes { background: transparent; border-top: 2px solid "
-                                 "%1; border-bottom: 2px solid %1; }"
-                                 "QLabel { %2 }"
-                                 "#lblQuit { color: white; background: transparent; }")
-                      .arg(lineColour, lampPanel));
+void StrikeStrip::paint(const QColor& lamp, const QColor& lines) {
+    for (RoundedLabel* label : m_lblStrike) {
+        label->setColours(lamp, Qt::white);
+    }
+    if (lines != m_lines) {
+        m_lines = lines;
+        update();
+    }
+}
+
+void StrikeStrip::paintEvent(QPaintEvent*) {
+    // The strip's rules above and below the marks.
+    QPainter p(this);
+    p.setPen(QPen(m_lines, 2));
+    p.drawLine(0, 1, width(), 1);
+    p.drawLine(0, height() - 1, width(), height() - 1);
 }
 
 void StrikeStrip::sync() {

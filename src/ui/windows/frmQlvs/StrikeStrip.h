@@ -4,12 +4,15 @@
 
 #include "round/RoundState.h"
 
+#include "windows/RoundedLabel.h"
+
 #include <QWidget>
 
 #include <array>
 #include <functional>
 
 class QLabel;
+class QColor;
 
 namespace quillora {
 
@@ -23,7 +26,7 @@ public:
 
     void sync();
     // The strip's lines and marks take the lamp of the moment.
-    void paint(const QString& lampPanel, const QString& lineColour);
+    void paint(const QColor& lamp, const QColor& lines);
 
     QLabel* strikeLabel(int slot) const { return m_lblStrike[static_cast<std::size_t>(slot - 1)]; }
     QLabel* quitLabel() const { return m_lblQuit; }
@@ -33,11 +36,13 @@ protected:
     // A click on a strike mark puts the side panels away, and is no click
     // on the board behind.
     void mousePressEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     QlvsModel& m_model;
     std::function<void()> m_changed;
-    std::array<QLabel*, RoundState::kSlots> m_lblStrike{};
+    std::array<RoundedLabel*, RoundState::kSlots> m_lblStrike{};
+    QColor m_lines;
     QLabel* m_lblQuit = nullptr;
 };
 

@@ -20,9 +20,8 @@ constexpr int kCompactLeft = 8910, kCompactTop = 3540, kCompactWidth = 2385;
 constexpr int kLabelMargin = 60, kLabelTop = 210;
 } // namespace
 
-ThemeBox::ThemeBox(const QlvsModel& model, QWidget* board) : QWidget(board), m_model(model) {
+ThemeBox::ThemeBox(const QlvsModel& model, QWidget* board) : RoundedLabel(board), m_model(model) {
     setObjectName(QStringLiteral("shpTheme"));
-    setAttribute(Qt::WA_StyledBackground);
     m_lblCaption = new QLabel(QStringLiteral("Tema"), this);
     m_lblCaption->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     m_lblCaption->setFont(Fonts::display(7));
@@ -38,12 +37,6 @@ ThemeBox::ThemeBox(const QlvsModel& model, QWidget* board) : QWidget(board), m_m
         menu->addAction(QStringLiteral("Dame un consejo"))->setEnabled(false);
         menu->popup(m_lblTheme->mapToGlobal(at));
     });
-}
-
-void ThemeBox::paint(const QString& lampPanel) {
-    setStyleSheet(QStringLiteral("#shpTheme { %1 }"
-                                 "QLabel { color: white; background: transparent; }")
-                      .arg(lampPanel));
 }
 
 void ThemeBox::sync() {

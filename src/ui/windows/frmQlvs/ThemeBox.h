@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QWidget>
+#include "windows/RoundedLabel.h"
 
 class QLabel;
 
@@ -11,12 +11,11 @@ namespace quillora {
 class QlvsModel;
 
 // The box that names the theme of the game (shpTheme, with lblTheme in it).
-class ThemeBox final : public QWidget {
+class ThemeBox final : public RoundedLabel {
 public:
     ThemeBox(const QlvsModel& model, QWidget* board);
 
     void sync();
-    void paint(const QString& lampPanel);
 
     QLabel* themeLabel() const { return m_lblTheme; }
 

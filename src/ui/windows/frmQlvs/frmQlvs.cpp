@@ -5,6 +5,7 @@
 #include "look/Twips.h"
 #include "platform/Fonts.h"
 #include "windows/QtColour.h"
+#include "windows/RoundedLabel.h"
 #include "windows/frmNames/frmNames.h"
 #include "windows/frmQlvs/AgainLabels.h"
 #include "windows/frmQlvs/AnswerPanel.h"
@@ -83,7 +84,9 @@ void frmQlvs::buildTimers() {
     });
     m_tmrStrike = timer(QlvsModel::kLampTickMs, [this] {
         m_model.round().tickLamp();
-        sync();
+        // The lamp going out changes the panels' colours and nothing else.
+        paintPanels();
+        syncTimers();
     });
     m_tmrSound = timer(PendingSound::kTickMs, [this] {
         m_model.tickSound();
@@ -91,7 +94,14 @@ void frmQlvs::buildTimers() {
     });
     m_tmrOver = timer(Countdown::kTickMs, [this] {
         m_model.tickCountdown();
-        sync();
+        // A second gone changes the clock alone; only time up is news for
+        // the whole board.
+        if (m_model.round().inPlay()) {
+            m_lblTime->sync();
+            syncTimers();
+        } else {
+            sync();
+        }
     });
     m_tmrScore = timer(QlvsModel::kScoreTickMs, [this] {
         m_model.tickScore();
@@ -163,7 +173,7 @@ void frmQlvs::buildControls() {
     m_sidePanel = new SidePanel(m_model.side(), this);
     m_statsPanel = new StatsPanel(m_model.stats(), changed, this);
 
-    m_lblGame = new QLabel(this);
+    m_lblGame = new RoundedLabel(this);
     m_lblGame->setGeometry(twipRect(kStatusLeft, kStatusTop, kStatusWidth, kStatusHeight));
     m_lblGame->setAlignment(Qt::AlignCenter);
     m_lblGame->setFont(Fonts::display(18));
@@ -217,27 +227,22 @@ void frmQlvs::paintPanels() {
     const Rgb game = m_model.gameColour();
     const Rgb shade = m_model.shade();
     const Rgb score = m_model.round().deathColours() ? kRedLamp : lamp.light;
-    // Style sheets are costly to apply: only a change of colour repaints.
-    const QString key =
-        css(lamp.light) + css(lamp.dark) + css(game) + css(score) + css(m_model.background());
-    if (key == property("paintedColours").toString()) {
+    // Style sheets are costly to apply, and the lamps flash after every
+    // letter: only the panels whose colour changed are painted again.
+    const QString lampKey = css(lamp.light) + css(lamp.dark) + css(score);
+    if (lampKey != property("lampColours").toString()) {
+        setProperty("lampColours", lampKey);
+        paintLampPanels(lamp, score);
+    }
+    const QString gameKey = css(game) + css(m_model.background());
+    if (gameKey == property("gameColours").toString()) {
         return;
     }
-    setProperty("paintedColours", key);
+    setProperty("gameColours", gameKey);
 
     QPalette windowPalette = palette();
     windowPalette.setColor(QPalette::Window, qc(m_model.background()));
     setPalette(windowPalette);
-
-    const QString lampPanel = QStringLiteral("background: %1; color: white; border-radius: %2px;")
-                                  .arg(css(lamp.light))
-                                  .arg(px(90));
-    m_lblGame->setStyleSheet(lampPanel);
-    m_themeBox->paint(lampPanel);
-    m_lblCont->setStyleSheet(
-        QStringLiteral("color: %1; background: transparent;").arg(css(lamp.dark)));
-    m_strikes->paint(lampPanel, css(lamp.dark));
-    m_scorePanel->paint(css(score), css(lamp.light));
     m_cmdCopy->setStyleSheet(
         QStringLiteral("QPushButton { background: %1; color: white; border: none;"
                        " border-radius: 4px; } QPushButton:disabled { background: %2; }")
@@ -260,6 +265,16 @@ void frmQlvs::paintPanels() {
     m_again->paint(css(game));
     m_sidePanel->paint(css(game));
     m_statsPanel->paint(css(game), css(shade));
+}
+
+void frmQlvs::paintLampPanels(const LampColours& lamp, Rgb score) {
+    m_lblGame->setColours(qc(lamp.light), Qt::white);
+    m_themeBox->setColours(qc(lamp.light), Qt::white);
+    QPalette counter = m_lblCont->palette();
+    counter.setColor(QPalette::WindowText, qc(lamp.dark));
+    m_lblCont->setPalette(counter);
+    m_strikes->paint(qc(lamp.light), qc(lamp.dark));
+    m_scorePanel->paint(qc(score), qc(lamp.light));
 }
 
 void frmQlvs::sync() {

@@ -28,6 +28,7 @@ class GallowsView;
 class KeyboardView;
 class PhraseView;
 class SessionPanel;
+class RoundedLabel;
 class SidePanel;
 class StatsPanel;
 class frmNames;
@@ -116,6 +117,7 @@ private:
     void buildControls();
     void buildTimers();
     void paintPanels();
+    void paintLampPanels(const LampColours& lamp, Rgb score);
     void syncView();
     void syncTimers();
     void fitFrame();
@@ -140,7 +142,7 @@ private:
     SessionPanel* m_sessionPanel = nullptr;
     AgainLabels* m_again = nullptr;
     StatsPanel* m_statsPanel = nullptr;
-    QLabel* m_lblGame = nullptr;
+    RoundedLabel* m_lblGame = nullptr;
     ThemeBox* m_themeBox = nullptr;
     QLabel* m_lblCont = nullptr;
     CountdownLabel* m_lblTime = nullptr;
