@@ -7,6 +7,7 @@
 #include "platform/Fonts.h"
 #include "windows/QtColour.h"
 
+#include <QFontMetrics>
 #include <QLabel>
 #include <QMenu>
 
@@ -18,6 +19,8 @@ constexpr int kLeft = 8160, kTop = 300, kWidth = 3135, kHeight = 720;
 // JUGAR beside the status, the theme under the phrase beside the strikes.
 constexpr int kCompactLeft = 8910, kCompactTop = 3540, kCompactWidth = 2385;
 constexpr int kLabelMargin = 60, kLabelTop = 210;
+constexpr double kThemePoints = 11;
+constexpr int kSmallestPixels = 8;
 } // namespace
 
 ThemeBox::ThemeBox(const QlvsModel& model, QWidget* board) : RoundedLabel(board), m_model(model) {
@@ -27,7 +30,7 @@ ThemeBox::ThemeBox(const QlvsModel& model, QWidget* board) : RoundedLabel(board)
     m_lblCaption->setFont(Fonts::display(7));
     m_lblTheme = new QLabel(this);
     m_lblTheme->setAlignment(Qt::AlignCenter);
-    m_lblTheme->setFont(Fonts::display(11));
+    m_lblTheme->setFont(Fonts::display(kThemePoints));
     // Its entries come with the themes list and the tips; until then greyed.
     m_lblTheme->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(m_lblTheme, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
@@ -47,7 +50,19 @@ void ThemeBox::sync() {
     m_lblCaption->setGeometry(0, 0, px(width), px(kHeight));
     m_lblTheme->setGeometry(px(kLabelMargin), px(kLabelTop), px(width - 2 * kLabelMargin),
                             px(kHeight - kLabelTop - 30));
-    m_lblTheme->setText(qs(m_model.round().themeLabel()));
+    const QString theme = qs(m_model.round().themeLabel());
+    if (theme == m_lblTheme->text() && width == m_fittedWidth) {
+        return;
+    }
+    // Long theme names step down in size until they fit the box.
+    QFont font = Fonts::display(kThemePoints);
+    while (font.pixelSize() > kSmallestPixels &&
+           QFontMetrics(font).horizontalAdvance(theme) > m_lblTheme->width()) {
+        font.setPixelSize(font.pixelSize() - 1);
+    }
+    m_lblTheme->setFont(font);
+    m_lblTheme->setText(theme);
+    m_fittedWidth = width;
 }
 
 } // namespace quillora

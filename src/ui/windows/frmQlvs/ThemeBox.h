@@ -23,6 +23,7 @@ private:
     const QlvsModel& m_model;
     QLabel* m_lblCaption = nullptr;
     QLabel* m_lblTheme = nullptr;
+    int m_fittedWidth = 0;
 };
 
 } // namespace quillora
