@@ -120,6 +120,8 @@ void Scoring::startGift() {
         onStatisticsReset();
     }
     m_gifting = true;
+    // JUGAR waits from the first moment of the transfer, not its first tick.
+    m_playEnabled = false;
 }
 
 void Scoring::tickGift() {

@@ -80,6 +80,7 @@ TEST_F(Survival, TheTransferDrainsTheNormalScoreTenThenOneAtATime) {
         EXPECT_EQ(c.games + c.errors + c.best + c.worst, 0) << "both records start afresh";
     }
     EXPECT_FALSE(model.giftOffered()) << "one transfer at a time";
+    EXPECT_FALSE(model.scoring().playEnabled()) << "JUGAR waits from the start";
 
     std::vector<double> steps;
     double before = shared.normalPoints;
