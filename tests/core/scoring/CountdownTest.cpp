@@ -2,11 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "scoring/Countdown.h"
 
-#include "models/frmQlvs/QlvsModel.h"
-#include "support/Fakes.h"
-#include "support/TempFolder.h"
-
-#include <gtest/gtest.h>
+#include "support/BoardModel.h"
 
 #include <string>
 #include <vector>
@@ -15,20 +11,13 @@ namespace quillora {
 namespace {
 
 // Countdown mode played on the board's model: whole games run in ticks.
-class CountdownGame : public ::testing::Test {
+class CountdownGame : public BoardModel {
 protected:
-    CountdownGame() { shared.currentSession().Archivo = (temp.path() / kMainConfigName).string(); }
-
     // A new game of `phrase` with the countdown option set to `mode`.
     void start(const std::string& phrase, int mode) {
         shared.settings.contratiempo = mode;
         model.eMenuNew();
         model.round().startPhrase(phrase, 1, "ANIMAL");
-    }
-    void guess(std::u32string_view letters) {
-        for (char32_t c : letters) {
-            model.round().guess(c);
-        }
     }
     // Ticks the clock down to `seconds` left.
     void runTo(int seconds) {
@@ -38,14 +27,6 @@ protected:
         ASSERT_EQ(clock().seconds(), seconds);
     }
     const Countdown& clock() const { return model.countdown(); }
-    const RoundState& st() const { return model.round().state(); }
-
-    TempFolder temp{"quillora-countdown"};
-    SharedState shared;
-    ScriptedDialogs dialogs;
-    QueuedRandom random;
-    RecordingEvents events;
-    QlvsModel model{shared, dialogs, random, &events};
 };
 
 TEST_F(CountdownGame, OnlyOnePlayerInModeOneOrTwoGetsAClockOfSecondsPerLetter) {
@@ -144,9 +125,7 @@ TEST_F(CountdownGame, RunningOutOfTimeCostsWhatTheEighthStrikeCosts) {
         const std::string tail = " | -" + std::to_string(c.cost);
         EXPECT_EQ(model.scoring().title().substr(model.scoring().title().size() - tail.size()),
                   tail);
-        while (model.scoreTimerRunning()) {
-            model.tickScore();
-        }
+        countScore();
         EXPECT_EQ(model.scoring().scoreText(), std::to_string(-c.cost));
         EXPECT_EQ(st().strikeCount, 0) << "the count ends as after any death";
     }
