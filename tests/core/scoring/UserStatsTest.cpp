@@ -86,7 +86,7 @@ protected:
     const Counters& normal() const { return shared.current().stats.normal(); }
 };
 
-TEST_F(BoardStatistics, OnlyGamesWhosePointsCountAreCountedInTheModeInPlay) {
+TEST_F(BoardStatistics, GamesAreCountedInTheModeInPlay) {
     play(U"bcas");
     expectCounters(normal(), {1, 1, 200, 200}, "a win with one strike");
     play(U"bdefghij");
@@ -97,14 +97,6 @@ TEST_F(BoardStatistics, OnlyGamesWhosePointsCountAreCountedInTheModeInPlay) {
     play(U"cas");
     expectCounters(normal(), {9, 2, 200, 200}, "survival leaves normal alone");
     expectCounters(shared.current().stats.survival(), {0, 1, 400, 400}, "survival win");
-
-    shared.settings.supervivencia = false;
-    shared.multiplayer = true;
-    play(U"bcas");
-    shared.multiplayer = false;
-    shared.settings.sistemaPuntos = false;
-    play(U"bdefghij");
-    expectCounters(normal(), {9, 2, 200, 200}, "with a friend or without points");
 }
 
 TEST_F(BoardStatistics, ALossThatWouldOverflowItsCounterIsMadeUpWithTheGift) {
