@@ -1,12 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "models/frmQlvs/QlvsModel.h"
 #include "models/frmQlvs/SessionPanelModel.h"
 #include "models/frmQlvs/StatsPanelModel.h"
 
 #include "storage/ConfigFile.h"
-#include "support/Fakes.h"
-#include "support/TempFolder.h"
+#include "support/BoardModel.h"
 
 #include <gtest/gtest.h>
 
@@ -18,14 +16,9 @@ namespace {
 
 using Key = QlvsModel::WindowKey;
 
-class QlvsModelTest : public ::testing::Test {
+class QlvsModelTest : public BoardModel {
 protected:
     void start() { model.round().startPhrase("CASA", 1, "ANIMAL"); }
-
-    SharedState shared;
-    ScriptedDialogs dialogs;
-    QueuedRandom random;
-    QlvsModel model{shared, dialogs, random};
 };
 
 TEST_F(QlvsModelTest, QuitLabelOffersTheCorrectionAndDeleteUsesIt) {
@@ -87,17 +80,6 @@ TEST_F(QlvsModelTest, ALockedBoardOrAnOpenSessionPanelLetsNoShortcutThrough) {
     EXPECT_FALSE(model.smallPlayEnabled());
 }
 
-TEST_F(QlvsModelTest, TheCorrectionIsAskedOverAnEmptySidePanel) {
-    start();
-    model.keyTyped(Key::Character, U'b');
-    bool panelDuringQuestion = false;
-    dialogs.onAsk = [&] { panelDuringQuestion = model.side().shown(); };
-    dialogs.answer({false});
-    model.keyTyped(Key::Delete);
-    EXPECT_TRUE(panelDuringQuestion);
-    EXPECT_EQ(model.side().content(), SidePanelModel::Content::None) << "put away after";
-}
-
 TEST_F(QlvsModelTest, TheWindowNeverRisesAboveSixtyTwips) {
     EXPECT_EQ(QlvsModel::tickRebote(-300), 60);
     EXPECT_EQ(QlvsModel::tickRebote(59), 60);
@@ -151,20 +133,15 @@ TEST_F(QlvsModelTest, KeyboardGrowsSixtyTwipsATickAndLampsFollowTheRound) {
     EXPECT_EQ(model.lampColours().dark, model.shade());
 }
 
-TEST(QlvsModelKeyboard, AKeptKeyboardIsThereAtOnceAndOnlyASlidingOneClimbs) {
-    SharedState shared;
-    ScriptedDialogs dialogs;
-    QueuedRandom random;
-    TempFolder folder("quillora-keyboard");
-    shared.currentSession().Archivo = (folder.path() / "QuilloraVS5.txt").string();
+TEST_F(QlvsModelTest, AKeptKeyboardIsThereAtOnceAndOnlyASlidingOneClimbs) {
     shared.settings.tecladoPermanente = true;
     ASSERT_TRUE(ConfSave(shared, dialogs)); // the board takes it from the file
-    QlvsModel model{shared, dialogs, random};
-    model.load();
-    EXPECT_TRUE(model.keyboardShown());
-    EXPECT_EQ(model.heightTwips(), QlvsModel::kBaseHeightTwips + QlvsModel::kKeyboardExtraTwips);
-    EXPECT_EQ(model.openingDropTwips(), 120);
-    EXPECT_FALSE(model.topTimerRunning()) << "no climb on every opening of the board";
+    QlvsModel kept{shared, dialogs, random};
+    kept.load();
+    EXPECT_TRUE(kept.keyboardShown());
+    EXPECT_EQ(kept.heightTwips(), QlvsModel::kBaseHeightTwips + QlvsModel::kKeyboardExtraTwips);
+    EXPECT_EQ(kept.openingDropTwips(), 120);
+    EXPECT_FALSE(kept.topTimerRunning()) << "no climb on every opening of the board";
 
     // A keyboard that slides out while the option is on climbs 600 twips.
     shared.settings.tecladoPermanente = false;

@@ -2,33 +2,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "scoring/Countdown.h"
 
-#include "models/frmQlvs/QlvsModel.h"
-#include "support/Fakes.h"
-#include "support/TempFolder.h"
-
-#include <gtest/gtest.h>
+#include "support/BoardModel.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace quillora {
 namespace {
 
 // Countdown mode played on the board's model: whole games run in ticks.
-class CountdownGame : public ::testing::Test {
+class CountdownGame : public BoardModel {
 protected:
-    CountdownGame() { shared.currentSession().Archivo = (temp.path() / kMainConfigName).string(); }
-
     // A new game of `phrase` with the countdown option set to `mode`.
     void start(const std::string& phrase, int mode) {
         shared.settings.contratiempo = mode;
         model.eMenuNew();
         model.round().startPhrase(phrase, 1, "ANIMAL");
-    }
-    void guess(std::u32string_view letters) {
-        for (char32_t c : letters) {
-            model.round().guess(c);
-        }
     }
     // Ticks the clock down to `seconds` left.
     void runTo(int seconds) {
@@ -38,14 +28,6 @@ protected:
         ASSERT_EQ(clock().seconds(), seconds);
     }
     const Countdown& clock() const { return model.countdown(); }
-    const RoundState& st() const { return model.round().state(); }
-
-    TempFolder temp{"quillora-countdown"};
-    SharedState shared;
-    ScriptedDialogs dialogs;
-    QueuedRandom random;
-    RecordingEvents events;
-    QlvsModel model{shared, dialogs, random, &events};
 };
 
 TEST_F(CountdownGame, OnlyOnePlayerInModeOneOrTwoGetsAClockOfSecondsPerLetter) {
@@ -119,35 +101,24 @@ TEST_F(CountdownGame, WarnsOnceAtTenInTheGameColourThenTimeTakesEveryStrikeLeft)
     EXPECT_EQ(events.lost, 1) << "a stray tick after the end loses nothing more";
 }
 
+// MURC shows 4 of 10 letters: the eighth strike would cost 600, or 1200 doubled.
 TEST_F(CountdownGame, RunningOutOfTimeCostsWhatTheEighthStrikeCosts) {
-    struct Case {
-        bool byTime;
-        bool doublePenalties;
-        int cost;
-    };
-    for (const Case& c : std::vector<Case>{
-             {false, false, 600}, {true, false, 600}, {false, true, 1200}, {true, true, 1200}}) {
-        SCOPED_TRACE(std::string(c.byTime ? "time" : "strikes") +
-                     (c.doublePenalties ? ", double penalties" : ""));
-        shared.settings.masPuntosNegativos = c.doublePenalties;
+    for (const auto& [doublePenalties, cost] :
+         std::vector<std::pair<bool, int>>{{false, 600}, {true, 1200}}) {
+        SCOPED_TRACE(cost);
+        shared.settings.masPuntosNegativos = doublePenalties;
         shared.normalPoints = 0;
         model.scoring().showAccount();
         start("MURCIELAGO", 1);
         guess(U"MURC");
-        if (c.byTime) {
-            runTo(0);
-        } else {
-            guess(U"BDFHJKNP");
-        }
+        runTo(0);
         ASSERT_TRUE(st().over);
-        EXPECT_EQ(shared.normalPoints, -c.cost);
-        const std::string tail = " | -" + std::to_string(c.cost);
+        EXPECT_EQ(shared.normalPoints, -cost);
+        const std::string tail = " | -" + std::to_string(cost);
         EXPECT_EQ(model.scoring().title().substr(model.scoring().title().size() - tail.size()),
                   tail);
-        while (model.scoreTimerRunning()) {
-            model.tickScore();
-        }
-        EXPECT_EQ(model.scoring().scoreText(), std::to_string(-c.cost));
+        countScore();
+        EXPECT_EQ(model.scoring().scoreText(), std::to_string(-cost));
         EXPECT_EQ(st().strikeCount, 0) << "the count ends as after any death";
     }
 }

@@ -1,46 +1,26 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "models/frmQlvs/QlvsModel.h"
 #include "storage/ConfigFile.h"
+#include "support/BoardModel.h"
 
-#include "support/Fakes.h"
-#include "support/TempFolder.h"
-
-#include <gtest/gtest.h>
+#include <algorithm>
+#include <vector>
 
 namespace quillora {
 namespace {
 
 using Key = QlvsModel::WindowKey;
 
-class Survival : public ::testing::Test {
+class Survival : public BoardModel {
 protected:
-    Survival() {
-        shared.currentSession().Archivo = (folder.path() / kMainConfigName).string();
-        shared.settings.supervivencia = true;
-    }
+    Survival() { shared.settings.supervivencia = true; }
     // "ABCDEFGHIJ": ten letters, `shown` of them guessed, then eight misses.
     void loseWithShown(int shown) {
         model.round().startPhrase("ABCDEFGHIJ", 1, "ANIMAL");
-        for (int i = 0; i < shown; ++i) {
-            model.round().guess(static_cast<char32_t>(U'A' + i));
-        }
-        for (char32_t miss : std::u32string_view(U"KLMNOPQR")) {
-            model.round().guess(miss);
-        }
-        ASSERT_TRUE(model.round().state().over);
+        guess(std::u32string_view(U"ABCDEFGHIJ").substr(0, static_cast<std::size_t>(shown)));
+        guess(U"KLMNOPQR");
+        ASSERT_TRUE(st().over);
     }
-    void countToTheEnd() {
-        while (model.scoreTimerRunning()) {
-            model.tickScore();
-        }
-    }
-
-    TempFolder folder{"quillora-survival"};
-    SharedState shared;
-    ScriptedDialogs dialogs;
-    QueuedRandom random;
-    QlvsModel model{shared, dialogs, random};
 };
 
 TEST_F(Survival, TheLastPointsLostLeaveNoPointsAndJugarRefuses) {
@@ -49,7 +29,7 @@ TEST_F(Survival, TheLastPointsLostLeaveNoPointsAndJugarRefuses) {
     loseWithShown(4); // worth 600
     EXPECT_EQ(shared.survivalPoints, 0);
     EXPECT_FALSE(model.againShown()) << "not while the score still counts";
-    countToTheEnd();
+    countScore();
     EXPECT_EQ(model.scoring().scoreLabel(), "Sin puntos");
     EXPECT_TRUE(model.againShown());
     EXPECT_TRUE(model.pulseTimerRunning());

@@ -3,9 +3,7 @@
 #include "scoring/UserStats.h"
 
 #include "models/frmInicio/InicioModel.h"
-#include "models/frmQlvs/QlvsModel.h"
-#include "support/Fakes.h"
-#include "support/TempFolder.h"
+#include "support/BoardModel.h"
 
 #include <gtest/gtest.h>
 
@@ -77,68 +75,45 @@ TEST(UserStats, AFullCounterStopsOnAWinAndFailsALossWithNothingCounted) {
 
 // --- what the board counts ----------------------------------------------------------------
 
-class BoardStatistics : public ::testing::Test {
+class BoardStatistics : public BoardModel {
 protected:
     BoardStatistics() {
         shared.dataFolder = temp.path();
         InicioLoad(shared);
     }
     // CASA: four letters, so a win is worth 400 / (1 + strikes).
-    void play(QlvsModel& board, const char32_t* letters) {
-        board.eMenuNew();
-        board.round().startPhrase("CASA", 1, "ANIMAL");
-        for (const char32_t* c = letters; *c; ++c) {
-            board.keyTyped(QlvsModel::WindowKey::Character, *c);
-        }
-        while (board.scoreTimerRunning()) {
-            board.tickScore();
-        }
-    }
+    void play(std::u32string_view letters) { BoardModel::play("CASA", letters); }
     const Counters& normal() const { return shared.current().stats.normal(); }
-
-    TempFolder temp{"quillora-stats"};
-    SharedState shared;
-    ScriptedDialogs dialogs;
-    QueuedRandom random;
-    QlvsModel board{shared, dialogs, random};
 };
 
-TEST_F(BoardStatistics, OnlyGamesWhosePointsCountAreCountedInTheModeInPlay) {
-    play(board, U"bcas");
+TEST_F(BoardStatistics, GamesAreCountedInTheModeInPlay) {
+    play(U"bcas");
     expectCounters(normal(), {1, 1, 200, 200}, "a win with one strike");
-    play(board, U"bdefghij");
+    play(U"bdefghij");
     expectCounters(normal(), {9, 2, 200, 200}, "a loss");
     EXPECT_EQ(shared.normalPoints, -800);
 
     shared.settings.supervivencia = true;
-    play(board, U"cas");
+    play(U"cas");
     expectCounters(normal(), {9, 2, 200, 200}, "survival leaves normal alone");
     expectCounters(shared.current().stats.survival(), {0, 1, 400, 400}, "survival win");
-
-    shared.settings.supervivencia = false;
-    shared.multiplayer = true;
-    play(board, U"bcas");
-    shared.multiplayer = false;
-    shared.settings.sistemaPuntos = false;
-    play(board, U"bdefghij");
-    expectCounters(normal(), {9, 2, 200, 200}, "with a friend or without points");
 }
 
 TEST_F(BoardStatistics, ALossThatWouldOverflowItsCounterIsMadeUpWithTheGift) {
     shared.current().stats.countWin(100, 32760, false);
-    play(board, U"bdefghij");
+    play(U"bdefghij");
     ASSERT_EQ(dialogs.shown.size(), 1U);
     EXPECT_EQ(shared.normalPoints, 1500);
     expectCounters(normal(), {32760, 1, 100, 100}, "the loss went uncounted");
 }
 
 TEST_F(BoardStatistics, TheCountsStayWithTheirUserAcrossASwitchAndANewBoard) {
-    play(board, U"cas");
+    play(U"cas");
     random.queue({0.5});
     std::string shown;
-    board.addSession("Ana", shown);
+    model.addSession("Ana", shown);
     ASSERT_EQ(shared.currentSlot, 1);
-    play(board, U"bdefghij");
+    play(U"bdefghij");
 
     QlvsModel next{shared, dialogs, random};
     next.stats().open();

@@ -74,11 +74,9 @@ TEST_F(BoardWindow, TheAnswerBoxFiltersItsKeysAndAsksBeforeComparing) {
     type(QStringLiteral(" @vá"), box);
     EXPECT_EQ(box->text(), "v");
     type("aca", box);
-    dialogs.answer({false, true});
+    dialogs.answer({true});
     QTest::keyClick(box, Qt::Key_Return);
-    EXPECT_TRUE(box->isVisible()) << "No keeps the box open";
-    EXPECT_EQ(box->text(), "VACA");
-    QTest::keyClick(box, Qt::Key_Return);
+    EXPECT_EQ(dialogs.shown.back().text, "¿Está seguro?, morirá si se equivoca.");
     EXPECT_FALSE(box->isVisible());
     EXPECT_EQ(window->statusLabel()->text(), QStringLiteral("¡VICTORIA!"));
 }
@@ -110,25 +108,6 @@ TEST_F(BoardWindow, AWinCountsItsPointsUpAndSavesTheOptions) {
     const auto saved = readConfigLines(shared.currentSession().Archivo);
     ASSERT_TRUE(saved) << "the end of a game writes the options";
     EXPECT_EQ(saved->size(), 20U);
-}
-
-TEST_F(BoardWindow, ShortcutsReachTheirRoutines) {
-    QTest::keyClick(window.get(), Qt::Key_A, Qt::ControlModifier);
-    EXPECT_TRUE(shared.settings.fraseAutomatica);
-    EXPECT_TRUE(window->autoMarker()->isVisible());
-    QTest::keyClick(window.get(), Qt::Key_A, Qt::ControlModifier);
-    EXPECT_FALSE(window->autoMarker()->isVisible());
-
-    startVaca();
-    type("bdefg"); // five strikes with points: no new game
-    QTest::keyClick(window.get(), Qt::Key_F2);
-    EXPECT_EQ(dialogs.shown.back().text, "Tienes bastantes errores, termina el juego.");
-    EXPECT_EQ(window->playButton()->text(), "NUEVA PARTIDA");
-
-    QTest::keyClick(window.get(), Qt::Key_F4);
-    EXPECT_TRUE(window->model().panel().shown());
-    type("z");
-    EXPECT_EQ(strike(6), "") << "no guesses behind the session panel";
 }
 
 TEST_F(BoardWindow, F3RestartsOnOkAndHandsOverOnceTheEventIsOver) {

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "models/frmQlvs/QlvsModel.h"
+#include "support/Fakes.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+
+namespace quillora {
+
+// A board's model saving to a folder of its own, and the ways a test plays it.
+class BoardModel : public ::testing::Test {
+protected:
+    BoardModel() { shared.currentSession().Archivo = (temp.path() / kMainConfigName).string(); }
+
+    // A game from the menu, `letters` typed on the board, its points counted out.
+    void play(const std::string& phrase, std::u32string_view letters) {
+        model.eMenuNew();
+        model.round().startPhrase(phrase, 1, "ANIMAL");
+        for (const char32_t c : letters) {
+            model.keyTyped(QlvsModel::WindowKey::Character, c);
+        }
+        countScore();
+    }
+    void guess(std::u32string_view letters) {
+        for (const char32_t c : letters) {
+            model.round().guess(c);
+        }
+    }
+    void countScore() {
+        while (model.scoreTimerRunning()) {
+            model.tickScore();
+        }
+    }
+    const RoundState& st() const { return model.round().state(); }
+
+    TempFolder temp{"quillora-model"};
+    SharedState shared;
+    ScriptedDialogs dialogs;
+    QueuedRandom random;
+    RecordingEvents events;
+    QlvsModel model{shared, dialogs, random, &events};
+};
+
+} // namespace quillora
