@@ -33,6 +33,17 @@ public:
         return round.cmdOk();
     }
     const RoundState& st() const { return round.state(); }
+    void restart(const std::string& phrase = "CASA") {
+        round.eMenuNew();
+        start(phrase);
+    }
+    // Asks for a correction, answering the question if one comes.
+    void correct(bool yes = true) {
+        if (round.correctionOffered()) {
+            dialogs.answer({yes});
+        }
+        round.eBackStrike();
+    }
     const ScriptedDialogs::Shown& lastShown() const { return dialogs.shown.back(); }
 
     SharedState shared;
@@ -196,8 +207,7 @@ TEST_F(RoundTest, HalfBonusOnlyWhenFewerThanHalfRevealed) {
         {"ABC", U"", "abc", true}};
     for (const auto& [phrase, hits, typed, bonus] : answers) {
         SCOPED_TRACE(phrase + " " + typed);
-        round.eMenuNew();
-        start(phrase);
+        restart(phrase);
         guessAll(hits);
         guessAll(U"XYZW");
         EXPECT_TRUE(answer(typed));
@@ -226,105 +236,77 @@ TEST_F(RoundTest, WrongWholeAnswerFillsTheEmptySlotsAndKills) {
     EXPECT_EQ(events.lost, 0) << "a friend's game scores nothing";
 }
 
-TEST_F(RoundTest, TheCorrectionIsOfferedOnlyForAMissInAGameUnderWay) {
-    const auto refused = [this](const char* why) {
-        SCOPED_TRACE(why);
-        const int strikes = st().strikeCount;
-        const std::size_t shownBefore = dialogs.shown.size();
-        EXPECT_FALSE(round.correctionOffered());
-        round.eBackStrike();
-        EXPECT_EQ(st().strikeCount, strikes);
-        EXPECT_EQ(dialogs.shown.size(), shownBefore);
+TEST_F(RoundTest, ACorrectionTakesBackTheLastMissOfAGameUnderWayOnceAGame) {
+    EXPECT_NE(Round::correctionQuestion(1).find(" 1 oportunidad para"), std::string::npos);
+    struct Row {
+        const char* why;
+        int left;
+        std::u32string played; // '*' takes a correction on the way
+        bool yes;
+        int strikes;
+        std::size_t boxes;
+        std::u32string tried;
+        int leftAfter;
+        std::u32string then;
+        int strikesThen;
     };
-    start();
-    guessAll(U"A");
-    refused("no strikes");
-    guessAll(U"BC");
-    refused("the last guess was a hit");
-    guessAll(U"D");
-    ASSERT_TRUE(round.correctionOffered());
-    dialogs.answer({true});
-    round.eBackStrike();
-    guessAll(U"E");
-    refused("one a game");
-    guessAll(U"FGHIJKL");
-    ASSERT_TRUE(st().over);
-    refused("the game is over");
+    const std::vector<Row> rows{
+        {"no strikes", 3, U"A", true, 0, 0, U"A", 3, U"", 0},
+        {"the last guess was a hit", 3, U"ABC", true, 1, 0, U"ABC", 3, U"", 1},
+        {"one a game", 3, U"ABCD*E", true, 2, 0, U"ABCE", 2, U"", 2},
+        {"the game is over", 3, U"BDEFGHIJ", true, 8, 0, U"BDEFGHIJ", 3, U"", 8},
+        {"none left", 0, U"B", true, 1, 0, U"B", 0, U"", 1},
+        {"answered no", 3, U"B", false, 1, 1, U"B", 3, U"", 1},
+        {"the last miss, told of", 3, U"BDEFG", true, 4, 2, U"BDEF", 2, U"", 4},
+        {"a repeat clears the hit and goes, not the miss", 3, U"BAA", true, 0, 2, U"B", 2, U"A", 0},
+        {"two left afterwards: told", 3, U"BDEFGHI", true, 6, 2, U"BDEFGH", 2, U"IJ", 8},
+        {"one left afterwards", 2, U"BDEFGHI", true, 6, 1, U"BDEFGH", 1, U"IJ", 8},
+        {"none left afterwards", 1, U"BDEFGHI", true, 6, 1, U"BDEFGH", 0, U"IJ", 8}};
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.why);
+        shared.correctionsLeft = row.left;
+        restart();
+        for (char32_t c : row.played) {
+            c == U'*' ? correct() : round.guess(c);
+        }
+        dialogs.shown.clear();
+        EXPECT_EQ(round.correctionOffered(), row.boxes > 0);
+        correct(row.yes);
+        EXPECT_EQ(st().strikeCount, row.strikes);
+        EXPECT_EQ(dialogs.shown.size(), row.boxes);
+        EXPECT_EQ(round.board().triedLetters(), row.tried);
+        EXPECT_EQ(shared.correctionsLeft, row.leftAfter);
+        EXPECT_EQ(round.correctionOffered(), row.boxes > 0 && !row.yes);
+        // The figure is drawn again for the strikes left.
+        EXPECT_EQ(round.figure().faceText(), row.strikes == 8 ? "x x" : "- -");
+        EXPECT_EQ(round.figure().visible(Figure::LeftLeg), row.strikes >= 5);
+        EXPECT_EQ(st().manyErrors, row.strikes >= 5 && row.strikes < 8);
+        guessAll(row.then);
+        EXPECT_EQ(st().strikeCount, row.strikesThen);
+        EXPECT_TRUE(row.strikesThen == 8 || st().slot(row.strikesThen + 1).empty());
+        EXPECT_EQ(st().over, row.strikesThen == 8);
+    }
 
-    round.eMenuNew();
-    shared.correctionsLeft = 0;
-    start();
-    guessAll(U"B");
-    refused("none left");
-}
-
-TEST_F(RoundTest, CorrectionTakesBackTheLastStrike) {
-    start();
+    // The last miss taken back, looked at closely.
+    shared.correctionsLeft = 3;
+    restart();
     guessAll(U"BDEFG");
-    ASSERT_TRUE(st().manyErrors && round.figure().visible(Figure::LeftLeg));
-    dialogs.answer({true});
-    round.eBackStrike();
+    dialogs.shown.clear();
+    events.panelShown.clear();
+    correct();
     EXPECT_EQ(dialogs.shown.at(0).text,
               "La corrección de strikes es muy limitado, sólo tienes 3 oportunidades para "
               "corregir en todo el juego. ¿Deseas usar una?");
-    EXPECT_EQ(st().strikeCount, 4);
-    EXPECT_EQ(shared.correctionsLeft, 2);
-    EXPECT_EQ(round.board().triedLetters(), U"BDEF");
     EXPECT_TRUE(round.board().keyVisible(keyIndexOf(U'G')));
     EXPECT_FALSE(round.board().keyVisible(keyIndexOf(U'F')));
-    EXPECT_EQ(st().slot(4), "F");
-    EXPECT_TRUE(st().slot(5).empty());
-    EXPECT_FALSE(round.figure().visible(Figure::LeftLeg));
+    EXPECT_TRUE(st().slot(4) == "F" && st().slot(5).empty());
     EXPECT_TRUE(round.figure().visible(Figure::RightArm));
-    EXPECT_FALSE(st().manyErrors);
     EXPECT_EQ(events.panelShown, (std::vector<bool>{true, false}));
-    ASSERT_EQ(dialogs.shown.size(), 2u);
-    EXPECT_EQ(dialogs.shown[1].icon, Dialogs::Icon::Information);
+    EXPECT_EQ(dialogs.shown.at(1).icon, Dialogs::Icon::Information);
     EXPECT_EQ(dialogs.shown[1].text,
               "Has usado una de tus correcciones, para usar otra tienes que jugar otra partida.");
-
     round.guess(U'G');
-    EXPECT_EQ(st().slot(5), "G");
-    EXPECT_EQ(st().strikeCount, 5);
-}
-
-TEST_F(RoundTest, ALetterHandedBackByACorrectionIsNotCountedTwice) {
-    start();
-    guessAll(U"BAA"); // the repeat clears the hit, so the correction is offered
-    dialogs.answer({true});
-    round.eBackStrike();
-    ASSERT_EQ(round.board().triedLetters(), U"B") << "the correction drops the A, not the miss";
-    round.guess(U'A');
-    EXPECT_EQ(round.board().revealedCount(), 2);
-    EXPECT_FALSE(st().over);
-}
-
-TEST_F(RoundTest, CorrectionNoticeOnlyWhenTwoAreLeftAfterwards) {
-    EXPECT_NE(Round::correctionQuestion(1).find(" 1 oportunidad para"), std::string::npos);
-    for (const int before : {3, 2, 1}) {
-        round.eMenuNew();
-        shared.correctionsLeft = before;
-        start();
-        guessAll(U"BDEFGHI");
-        dialogs.shown.clear();
-        dialogs.answer({true});
-        round.eBackStrike();
-        EXPECT_EQ(dialogs.shown.size(), before == 3 ? 2u : 1u) << before;
-        EXPECT_EQ(shared.correctionsLeft, before - 1);
-        EXPECT_EQ(st().strikeCount, 6);
-        EXPECT_EQ(round.figure().faceText(), "- -");
-        guessAll(U"IJ");
-        ASSERT_TRUE(st().over);
-    }
-
-    round.eMenuNew();
-    shared.correctionsLeft = 3;
-    start();
-    guessAll(U"B");
-    dialogs.answer({false});
-    round.eBackStrike();
-    EXPECT_EQ(st().strikeCount, 1);
-    EXPECT_TRUE(round.correctionOffered());
+    EXPECT_TRUE(st().slot(5) == "G" && st().strikeCount == 5);
 }
 
 TEST_F(RoundTest, LeavingIsRefusedWithManyErrorsAndAskedDuringPlay) {

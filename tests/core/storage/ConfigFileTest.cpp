@@ -28,9 +28,15 @@ const std::string kNines(400, '9');
 
 // Twenty lines as another copy of the game would write them, each line a
 // value no other line holds, so a line read into the wrong option shows.
-std::vector<std::string> fileLines() {
-    return {"fondo.jpg", "C:\\Fotos", "2", "1", "0",   "1", "0", "1",   "1", "1",
-            "12",        "1",         "0", "1", "Ana", "1", "0", "255", "0", "1"};
+// `changed` puts other text on some lines, counted from 1.
+std::vector<std::string> fileLines(const std::map<int, std::string>& changed = {}) {
+    std::vector<std::string> lines{"fondo.jpg", "C:\\Fotos", "2", "1",   "0", "1", "0",
+                                   "1",         "1",         "1", "12",  "1", "0", "1",
+                                   "Ana",       "1",         "0", "255", "0", "1"};
+    for (const auto& [line, text] : changed) {
+        lines.at(static_cast<std::size_t>(line - 1)) = text;
+    }
+    return lines;
 }
 
 // The lines joined as a file holds them.
@@ -139,10 +145,8 @@ TEST_F(ConfigFileTest, EachLineTakesItsBounds) {
         {14, "-1", 0},    {14, "x", 0},     {18, "", blue},    {18, "255", 255}, {18, "abc", 0},
         {18, "-1", blue}, {18, over, blue}, {18, kNines, blue}};
     for (const auto& [line, text, expected] : table) {
-        auto lines = fileLines();
-        lines[static_cast<std::size_t>(line - 1)] = text;
         shared.settings.tema = 33;
-        write(lines);
+        write(fileLines({{line, text}}));
         load();
         const Settings& s = shared.settings;
         const std::map<int, int> read{{3, s.estilo},
@@ -168,18 +172,12 @@ TEST_F(ConfigFileTest, AShortOldFileLoadsWithDefaultsAndSavesTwentyLines) {
 }
 
 TEST_F(ConfigFileTest, SavingWritesEveryLineFromTheLiveOptions) {
-    auto lines = fileLines();
-    lines[3] = "2"; // a flag of 2
-    lines[14] = ""; // no name
-    write(lines);
+    write(fileLines({{4, "2"}, {15, ""}})); // a flag of 2, no name
     load();
     shared.themeChosen = false;
     ASSERT_TRUE(ConfSave(shared, dialogs));
-    auto expected = fileLines();
-    expected[3] = "1";
-    expected[8] = "0"; // the automatic phrase needs a chosen theme
-    expected[14] = "Quillora VS";
-    EXPECT_EQ(savedLines(), expected);
+    // The automatic phrase needs a chosen theme.
+    EXPECT_EQ(savedLines(), fileLines({{4, "1"}, {9, "0"}, {15, "Quillora VS"}}));
     EXPECT_EQ(shared.settings.nombre, "Quillora VS");
 
     shared.themeChosen = true;
@@ -356,9 +354,7 @@ TEST_F(ConfigFileTest, AnUnreadableFileIsCopiedAsideWithoutWritingOverAnEarlierC
     EXPECT_FALSE(fs::exists(folder / "QuilloraVS5.txt.bak3"));
 
     // Twenty lines and then more: copied as well, since the save drops the rest.
-    auto lines = fileLines();
-    lines.push_back("notas");
-    write(lines);
+    writeRaw(joined(fileLines()) + "notas\r\n");
     load();
     ASSERT_TRUE(ConfSave(shared, dialogs));
     EXPECT_NE(slurp(folder / "QuilloraVS5.txt.bak3").find("\r\nnotas\r\n"), std::string::npos);
