@@ -1,11 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "models/frmInicio/InicioModel.h"
-#include "state/SharedState.h"
 #include "storage/ConfigFile.h"
 
-#include "support/Fakes.h"
-#include "support/TempFolder.h"
+#include "support/LoadedSession.h"
 
 #include <gtest/gtest.h>
 
@@ -66,10 +64,14 @@ TEST(StartScreen, TheLineRunsSixtyFiveTicksThenShowsTheMenuOrOffersTheFont) {
 
 TEST(StartScreen, APlainRestartResetsTheUserButASwitchKeepsThem) {
     SharedState shared;
-    shared.normalPoints = 300;
-    shared.survivalPoints = 50;
-    shared.sessions[0].playerNames[0] = "Ana";
-    shared.currentSession().corrections = "1";
+    // What an earlier user left behind.
+    const auto leftBehind = [&shared] {
+        shared.normalPoints = 300;
+        shared.survivalPoints = 50;
+        shared.sessions[0].playerNames[0] = "Ana";
+        shared.currentSession().corrections = "1";
+    };
+    leftBehind();
     InicioModel plain(shared, true);
     EXPECT_EQ(shared.normalPoints, 0);
     EXPECT_EQ(shared.survivalPoints, 1000);
@@ -77,12 +79,11 @@ TEST(StartScreen, APlainRestartResetsTheUserButASwitchKeepsThem) {
     EXPECT_EQ(shared.sessions[0].playerNames[0], "Jugador 1");
     EXPECT_EQ(shared.sessions[0].record.Archivo, shared.mainConfigPath().string());
 
-    shared.normalPoints = 300;
-    shared.sessions[0].playerNames[0] = "Ana";
-    shared.currentSession().corrections = "1";
+    leftBehind();
     shared.skipStartDefaults = true;
     InicioModel afterSwitch(shared, true);
     EXPECT_EQ(shared.normalPoints, 300);
+    EXPECT_EQ(shared.survivalPoints, 50);
     EXPECT_EQ(shared.sessions[0].playerNames[0], "Ana");
     EXPECT_EQ(shared.correctionsLeft, 1);
     EXPECT_FALSE(shared.skipStartDefaults) << "the flag is used once";
@@ -114,11 +115,10 @@ TEST(StartScreen, ClearsLeftoverTemporaryFilesOfTheGameAndNothingElse) {
                                         ".quillora--1.tmp",
                                         "QuilloraVS5.txt",
                                         "Ana.txt"};
-    for (const auto& name : leftovers) {
-        std::ofstream(at(name)) << "mitad";
-    }
-    for (const auto& name : kept) {
-        std::ofstream(at(name)) << "mitad";
+    for (const auto* names : {&leftovers, &kept}) {
+        for (const auto& name : *names) {
+            std::ofstream(at(name)) << "mitad";
+        }
     }
     fs::last_write_time(at(leftovers[2]), fs::file_time_type::clock::now() - std::chrono::hours(3));
     fs::create_directory(at(".quillora-" + std::to_string(gone) + "-1-5.tmp"));
@@ -157,12 +157,10 @@ std::vector<fs::path> filesBeside(const fs::path& file) {
 // land between two saves prove nothing, so the test also insists that some
 // of them caught a save under way.
 TEST(KilledSave, TheFileIsAlwaysWholeAndTheNextStartLeavesNoTemporaryFile) {
-    TempFolder folder("quillora-killed");
-    SharedState shared;
-    shared.dataFolder = folder.path();
-    InicioLoad(shared);
+    LoadedSession session("quillora-killed");
+    SharedState& shared = session.shared;
+    ScriptedDialogs& dialogs = session.dialogs;
     const fs::path file = shared.currentSession().Archivo;
-    ScriptedDialogs dialogs;
 
     // Long enough lines that a save takes a moment.
     shared.settings.fondo = std::string(3000, 'v');

@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include <optional>
+#include <tuple>
 #include <vector>
 
 namespace quillora {
@@ -22,12 +22,15 @@ using Key = MenuModel::Key;
 class MenuModelTest : public ::testing::Test {
 protected:
     MenuModelTest() {
-        // A way of playing left over from an earlier game, so a menu choice
-        // that forgets a field shows.
+        leaveAnEarlierGame();
+        shared.currentSession().Archivo = (temp.path() / kMainConfigName).string();
+    }
+    // A way of playing left over from an earlier game, so a menu choice that
+    // forgets a field shows.
+    void leaveAnEarlierGame() {
         shared.multiplayer = true;
         shared.playerCount = 6;
         shared.roster = PlayerRoster{6, 5, 4};
-        shared.currentSession().Archivo = (temp.path() / kMainConfigName).string();
     }
     void load(bool locked) {
         shared.locked = locked;
@@ -53,50 +56,32 @@ protected:
     MenuModel model{shared, dialogs};
 };
 
-// --- keys, in both states of the session -------------------------------------------
-
-struct KeyCase {
-    const char* name;
-    bool locked;
-    Key key;
-    char32_t character;
-    // Players of the game that starts; nothing when the menu stays.
-    std::optional<int> players;
-    bool optionsOpening;
-};
-
-class MenuKeys : public MenuModelTest, public ::testing::WithParamInterface<KeyCase> {};
-
-TEST_P(MenuKeys, StartTheRightGameOrNothing) {
-    const KeyCase& c = GetParam();
-    load(c.locked);
-    const Outcome outcome = model.keyTyped(c.key, c.character);
-    if (c.players) {
-        EXPECT_EQ(outcome, Outcome::OpenBoard);
-        expectRoster(*c.players > 1, *c.players);
-    } else {
-        EXPECT_EQ(outcome, Outcome::Stay);
-        expectRosterUntouched();
+TEST_F(MenuModelTest, KeysStartTheRightGameOrNothingInEitherState) {
+    // Locked, key, character, players of the game that starts (0: the menu
+    // stays), options opening.
+    const std::vector<std::tuple<bool, Key, char32_t, int, bool>> keys{
+        {false, Key::Character, U'1', 1, false}, {false, Key::Character, U'2', 2, false},
+        {false, Key::Character, U'9', 9, false}, {false, Key::Character, U'0', 0, true},
+        {false, Key::Character, U'a', 0, false}, {false, Key::Character, U'\u0663', 0, false},
+        {false, Key::Enter, 0, 0, false},        {false, Key::Other, 0, 0, false},
+        {true, Key::Character, U'1', 1, false},  {true, Key::Character, U'2', 0, false},
+        {true, Key::Character, U'0', 0, false},  {true, Key::Enter, 0, 0, false}};
+    for (const auto& [locked, key, character, players, optionsOpening] : keys) {
+        SCOPED_TRACE(::testing::Message() << locked << " U+" << std::hex << int(character));
+        leaveAnEarlierGame();
+        shared.locked = locked;
+        MenuModel menu{shared, dialogs};
+        menu.load();
+        EXPECT_EQ(menu.keyTyped(key, character), players ? Outcome::OpenBoard : Outcome::Stay);
+        if (players) {
+            expectRoster(players > 1, players);
+        } else {
+            expectRosterUntouched();
+        }
+        EXPECT_EQ(menu.inTimerRunning(), optionsOpening);
     }
-    EXPECT_EQ(model.inTimerRunning(), c.optionsOpening);
     EXPECT_TRUE(dialogs.shown.empty());
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Menu, MenuKeys,
-    ::testing::Values(KeyCase{"OneAlone", false, Key::Character, U'1', 1, false},
-                      KeyCase{"TwoWithAFriend", false, Key::Character, U'2', 2, false},
-                      KeyCase{"Nine", false, Key::Character, U'9', 9, false},
-                      KeyCase{"ZeroOpensOptions", false, Key::Character, U'0', {}, true},
-                      KeyCase{"Letter", false, Key::Character, U'a', {}, false},
-                      KeyCase{"ArabicDigit", false, Key::Character, U'\u0663', {}, false},
-                      KeyCase{"Enter", false, Key::Enter, 0, {}, false},
-                      KeyCase{"Other", false, Key::Other, 0, {}, false},
-                      KeyCase{"LockedOneContinues", true, Key::Character, U'1', 1, false},
-                      KeyCase{"LockedTwo", true, Key::Character, U'2', {}, false},
-                      KeyCase{"LockedZero", true, Key::Character, U'0', {}, false},
-                      KeyCase{"LockedEnter", true, Key::Enter, 0, {}, false}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(MenuModelTest, EscapeAsksInEitherStateAndOnlyYesQuits) {
     for (const bool locked : {false, true}) {
@@ -136,7 +121,6 @@ TEST_F(MenuModelTest, EachTileSetsUpItsWayOfPlayingWhereThePressBegan) {
 
 TEST_F(MenuModelTest, LockedSessionOffersOnlyToContinue) {
     load(true);
-    EXPECT_TRUE(model.locked());
     for (const Spot covered : {Spot::Friend, Spot::Several, Spot::Options, Spot::Lock}) {
         model.hover(covered);
         EXPECT_EQ(model.legend(), "BLOQUEADO");

@@ -52,7 +52,6 @@ TEST(PlayersTest, FreeTurnFreezesTheTurnAndKeepsItsCaption) {
 
 TEST(PlayersTest, AlonePlayerIsTheUserWithoutTurnMoves) {
     SharedState shared = players(0, 1);
-    EXPECT_FALSE(shared.multiplayer);
     EXPECT_EQ(shared.playerCount, 1);
     shared.settings.nombre.clear();
     const PlayerLabel label = ePlayerName(shared, "");

@@ -1,28 +1,30 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/Sessions.h"
-#include "models/frmInicio/InicioModel.h"
-#include "state/SharedState.h"
 
-#include "support/Fakes.h"
-#include "support/TempFolder.h"
+#include "support/LoadedSession.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <tuple>
 
 namespace quillora {
 namespace {
 
 namespace fs = std::filesystem;
 
-class SessionsTest : public ::testing::Test {
+// A session file as the game writes it, with `name` on line 15.
+std::string sessionFileNamed(const std::string& name, const std::string& end = "") {
+    return "\r\n\r\n1\r\n0\r\n0\r\n0\r\n0\r\n1\r\n0\r\n0\r\n5\r\n1\r\n0\r\n0\r\n" + name +
+           "\r\n0\r\n0\r\n15759390\r\n0\r\n0\r\n" + end;
+}
+
+class SessionsTest : public ::testing::Test, protected LoadedSession {
 protected:
-    void SetUp() override {
-        shared.dataFolder = folder;
-        InicioLoad(shared);
+    SessionsTest() : LoadedSession("quillora-sessions") {
         shared.currentSession().displayName = "Quillora VS";
     }
 
@@ -32,11 +34,12 @@ protected:
         EXPECT_TRUE(sessions.add(typed, false, shown));
         return shown;
     }
+    void expectTold(const std::string& text, Dialogs::Icon icon) const {
+        ASSERT_FALSE(dialogs.shown.empty());
+        EXPECT_EQ(dialogs.shown.back().text, text);
+        EXPECT_EQ(dialogs.shown.back().icon, icon);
+    }
 
-    TempFolder temp{"quillora-sessions"};
-    const fs::path& folder = temp.path();
-    SharedState shared;
-    ScriptedDialogs dialogs;
     QueuedRandom random;
     Sessions sessions{shared, dialogs, random};
 };
@@ -59,31 +62,29 @@ TEST_F(SessionsTest, AddingWithoutANameUsesTheSlotNumberAndWritesAFreshFile) {
 }
 
 TEST_F(SessionsTest, SwitchingBackRestoresWhatTheUserLeftAndTheLockStaysWithItsUser) {
+    const auto left = [this] {
+        return std::tuple{shared.normalPoints, shared.survivalPoints,  shared.settings.tema,
+                          shared.history,      shared.correctionsLeft, shared.locked,
+                          shared.key};
+    };
     shared.normalPoints = 450;
     shared.survivalPoints = 300;
     shared.settings.tema = 7;
     shared.history = "CASA\r\nPERRO";
     shared.correctionsLeft = 1;
+    const auto first = left();
     add("Ana");
     shared.normalPoints = -600;
     shared.correctionsLeft = 2;
     shared.key = "clave";
     shared.locked = true;
+    const auto second = left();
 
     ASSERT_TRUE(sessions.switchTo(0, false));
     EXPECT_TRUE(shared.skipStartDefaults);
-    EXPECT_EQ(shared.normalPoints, 450);
-    EXPECT_EQ(shared.survivalPoints, 300);
-    EXPECT_EQ(shared.settings.tema, 7);
-    EXPECT_EQ(shared.history, "CASA\r\nPERRO");
-    EXPECT_EQ(shared.correctionsLeft, 1);
-    EXPECT_FALSE(shared.locked);
-
+    EXPECT_EQ(left(), first);
     ASSERT_TRUE(sessions.switchTo(1, false));
-    EXPECT_EQ(shared.normalPoints, -600);
-    EXPECT_EQ(shared.correctionsLeft, 2);
-    EXPECT_TRUE(shared.locked);
-    EXPECT_EQ(shared.key, "clave");
+    EXPECT_EQ(left(), second);
 }
 
 TEST_F(SessionsTest, ChangesOfUserAreRefusedWithManyErrorsOrTheSameUser) {
@@ -91,11 +92,11 @@ TEST_F(SessionsTest, ChangesOfUserAreRefusedWithManyErrorsOrTheSameUser) {
     EXPECT_FALSE(sessions.add("Ana", true, shown));
     EXPECT_FALSE(sessions.addFromFiles({(folder / "x.txt").string()}, true));
     EXPECT_FALSE(sessions.switchTo(0, true));
+    EXPECT_EQ(dialogs.shown.size(), 3U);
     for (const auto& box : dialogs.shown) {
         EXPECT_EQ(box.text, "No se puede cambiar de sesión, termine la partida.");
         EXPECT_EQ(box.icon, Dialogs::Icon::Exclamation);
     }
-    EXPECT_EQ(dialogs.shown.size(), 3U);
     EXPECT_FALSE(sessions.switchTo(0, false));
     EXPECT_EQ(dialogs.shown.back().text, "Es el usuario actual, seleccione otro.");
     EXPECT_EQ(shared.currentSlot, 0);
@@ -109,8 +110,7 @@ TEST_F(SessionsTest, ThreeAddedSessionsAtMostAndDeletingMovesLaterOnesDown) {
     std::string shown;
     EXPECT_FALSE(sessions.add("Dora", false, shown));
     EXPECT_EQ(shared.currentSlot, 3);
-    EXPECT_EQ(dialogs.shown.back().text, "No se pueden agregar más sesiones.");
-    EXPECT_EQ(dialogs.shown.back().icon, Dialogs::Icon::Error);
+    expectTold("No se pueden agregar más sesiones.", Dialogs::Icon::Error);
     EXPECT_FALSE(fs::exists(folder / "Dora.txt"));
 
     ASSERT_TRUE(sessions.switchTo(1, false));
@@ -131,13 +131,11 @@ TEST_F(SessionsTest, ThreeAddedSessionsAtMostAndDeletingMovesLaterOnesDown) {
 
 TEST_F(SessionsTest, DroppedFilesBecomeSessionsAndOtherFilesAreLeftAlone) {
     const fs::path named = folder / "ana.txt";
-    std::ofstream(named, std::ios::binary)
-        << "\r\n\r\n1\r\n0\r\n0\r\n0\r\n0\r\n1\r\n0\r\n0\r\n5\r\n1\r\n0\r\n0\r\n"
-           "Ana\r\n0\r\n0\r\n15759390\r\n0\r\n0\r\n";
     const fs::path unnamed = folder / "vacio.txt";
-    std::ofstream(unnamed, std::ios::binary) << "1\r\n2\r\n";
     const fs::path picture = folder / "foto.jpg";
     const std::string pictureBytes("\xFF\xD8\xFF\xE0\0\x10JFIF\0", 11);
+    std::ofstream(named, std::ios::binary) << sessionFileNamed("Ana");
+    std::ofstream(unnamed, std::ios::binary) << "1\r\n2\r\n";
     std::ofstream(picture, std::ios::binary) << pictureBytes;
 
     random.queue({0.5});
@@ -157,10 +155,9 @@ TEST_F(SessionsTest, DroppedFilesBecomeSessionsAndOtherFilesAreLeftAlone) {
 
 TEST_F(SessionsTest, ADroppedFileEndingWithTheOldEndOfFileMarkBecomesASession) {
     const fs::path dropped = folder / "de-windows.txt";
-    std::ofstream(dropped, std::ios::binary)
-        << "\r\n\r\n1\r\n0\r\n0\r\n0\r\n0\r\n1\r\n0\r\n0\r\n5\r\n1\r\n0\r\n0\r\n"
-           "Mar\xED"
-           "a\r\n0\r\n0\r\n15759390\r\n0\r\n0\r\n\x1A";
+    std::ofstream(dropped, std::ios::binary) << sessionFileNamed("Mar\xED"
+                                                                 "a",
+                                                                 "\x1A");
     ASSERT_TRUE(sessions.addFromFiles({dropped.string()}, false));
     EXPECT_EQ(shared.currentSession().displayName, "María");
     EXPECT_EQ(shared.currentSession().Archivo, dropped.string());
@@ -180,9 +177,7 @@ TEST_F(SessionsTest, ANameWhoseFileCannotExistIsRefused) {
     for (const std::string& name : {std::string(252, 'a'), enyes}) {
         std::string shown = name;
         EXPECT_FALSE(sessions.add(name, false, shown));
-        ASSERT_FALSE(dialogs.shown.empty());
-        EXPECT_EQ(dialogs.shown.back().text, "El nombre es demasiado largo.");
-        EXPECT_EQ(dialogs.shown.back().icon, Dialogs::Icon::Exclamation);
+        expectTold("El nombre es demasiado largo.", Dialogs::Icon::Exclamation);
         EXPECT_EQ(shown, name) << "the box keeps what was typed, to be shortened";
         EXPECT_EQ(shared.currentSlot, 0);
         EXPECT_FALSE(shared.sessions[1].record.inUse());
