@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/AlsaSoundPlayer.h"
 #include "platform/Fonts.h"
 #include "platform/QtDialogs.h"
 #include "platform/QtWeb.h"
@@ -78,7 +79,7 @@ private:
         const QRect menuFrame = m_window ? m_window->frameGeometry() : QRect();
         const QPoint menuCentre =
             menuFrame.topLeft() + QPoint(menuFrame.width() / 2, menuFrame.height() / 2);
-        auto board = std::make_unique<quillora::frmQlvs>(m_shared, m_dialogs, m_random);
+        auto board = std::make_unique<quillora::frmQlvs>(m_shared, m_dialogs, m_random, m_sounds);
         board->onRestart = [this] { later([this] { start(); }); };
         board->onClose = [] { QCoreApplication::quit(); };
         board->onMenu = [this, window = board.get()] {
@@ -120,6 +121,7 @@ private:
     quillora::QtDialogs m_dialogs;
     quillora::ClockRandom m_random;
     quillora::QtWeb m_web;
+    quillora::AlsaSoundPlayer m_sounds;
     std::unique_ptr<QWidget> m_window;
     // What the window system's frame adds to a window of the game.
     QSize m_frame;

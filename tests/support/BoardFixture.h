@@ -34,7 +34,7 @@ protected:
     void SetUpBoard() {
         // No file yet: the theme is drawn, and a 0 reads as theme 1.
         random.queue({0.0});
-        window = std::make_unique<frmQlvs>(shared, dialogs, random);
+        window = std::make_unique<frmQlvs>(shared, dialogs, random, sounds);
         window->show();
         window->activateWindow();
         window->setFocus();
@@ -68,6 +68,7 @@ protected:
     SharedState shared;
     ScriptedDialogs dialogs;
     QueuedRandom random;
+    RecordingSounds sounds;
     std::unique_ptr<frmQlvs> window;
 };
 

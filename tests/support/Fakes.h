@@ -4,6 +4,7 @@
 
 #include "ports/Dialogs.h"
 #include "ports/Random.h"
+#include "ports/SoundPlayer.h"
 #include "ports/Web.h"
 #include "round/Round.h"
 
@@ -16,6 +17,33 @@
 #include <vector>
 
 namespace quillora {
+
+// A loudspeaker that keeps what it was asked to play; each sound ends when
+// the test says so, or at once when told to.
+class RecordingSounds : public SoundPlayer {
+public:
+    void load() override { ++loads; }
+    void play(int number, std::function<void()> ended) override {
+        played.push_back(number);
+        if (endAtOnce) {
+            ended();
+        } else {
+            waiting.push_back(std::move(ended));
+        }
+    }
+    void endAll() {
+        auto ends = std::move(waiting);
+        waiting.clear();
+        for (auto& end : ends) {
+            end();
+        }
+    }
+
+    int loads = 0;
+    bool endAtOnce = false;
+    std::vector<int> played;
+    std::vector<std::function<void()>> waiting;
+};
 
 // Answers questions from a script and keeps every box it was shown, so a test
 // can check both what the player was told and what the game did next.

@@ -40,6 +40,10 @@ CellLook ApplyLetterStyle(const Settings& s, int cell) {
     }
 }
 
+CellLook phraseLabelLook(const Settings& s, const CellLook& before) {
+    return s.estilo == 2 ? before : ApplyLetterStyle(s, 1);
+}
+
 Rgb missColour(const Settings& s, const Palette& palette) {
     return s.estilo == 2 ? kNearWhite : palette.redLamp;
 }

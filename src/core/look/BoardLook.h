@@ -21,6 +21,11 @@ struct CellLook {
 // The letter style and flags applied to cell 1..42 of the board.
 CellLook ApplyLetterStyle(const Settings& settings, int cell);
 
+// The label that holds the whole hidden phrase takes the cells' look,
+// except in "Colorido", whose colours belong to single cells: there it keeps
+// the look it had.
+CellLook phraseLabelLook(const Settings& settings, const CellLook& before);
+
 // Colour of the letters left unguessed at the death.
 Rgb missColour(const Settings& settings, const Palette& palette);
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "models/frmQlvs/QlvsModel.h"
 
+#include "look/Picture.h"
 #include "ports/Dialogs.h"
 #include "round/Keyboard.h"
 #include "storage/ConfigFile.h"
@@ -52,6 +53,8 @@ void QlvsModel::load() {
         clearForBoardLoad(m_shared);
         DataLoad(m_shared, m_random);
         ConfLoad(m_shared);
+        applyLetterStyle();
+        m_picture = m_shared.settings.fondo;
     });
     step([this] {
         m_scoring.refreshTitle();
@@ -134,6 +137,7 @@ void QlvsModel::nextTurn() {
 }
 
 void QlvsModel::phraseLaid() {
+    applyLetterStyle();
     m_countdown.start(m_round.board().letterTotal(), m_shared.settings.contratiempo,
                       !m_scoring.severalPlayers());
     openKeyboard();
@@ -423,7 +427,19 @@ void QlvsModel::dropFiles(const std::vector<std::string>& paths) {
     if (!dropsAccepted()) {
         return;
     }
-    sessionChanged(m_sessions.addFromFiles(paths, m_round.state().manyErrors));
+    // A picture becomes the background at once; the design window decides
+    // whether it is kept.
+    std::vector<std::string> others;
+    for (const std::string& path : paths) {
+        if (isPictureName(path)) {
+            m_picture = path;
+        } else {
+            others.push_back(path);
+        }
+    }
+    if (!others.empty()) {
+        sessionChanged(m_sessions.addFromFiles(others, m_round.state().manyErrors));
+    }
 }
 
 void QlvsModel::keyEntered(const std::string& typed) {
@@ -432,12 +448,15 @@ void QlvsModel::keyEntered(const std::string& typed) {
 
 // --- timers ----------------------------------------------------------------------------
 
-void QlvsModel::tickSound() {
-    // The score waits for the opening sound of a game before it settles.
-    if (m_round.pendingSound().number() == kSoundNewPhrase) {
+int QlvsModel::tickSound() {
+    return m_round.pendingSound().tick();
+}
+
+void QlvsModel::soundEnded(int number) {
+    // The score of a new game counts once its opening sound is over.
+    if (number == kSoundNewPhrase) {
         m_scoring.startCounting();
     }
-    m_round.pendingSound().tick();
 }
 
 void QlvsModel::tickCountdown() {

@@ -154,7 +154,11 @@ public:
     // --- menu entries --------------------------------------------------------------
     void eMenuNew() { m_round.eMenuNew(); }
     void eMenuAuto() { m_round.eMenuAuto(); }
+    // eSounds: the sound button, "Mostrar sonidos" and Ctrl+S.
     void toggleSounds();
+    const char* soundButtonTooltip() const {
+        return m_shared.settings.sonidos ? " Ocultar Sonidos " : " Mostrar Sonidos ";
+    }
     void toggleAnimation();
     // F3: asks first. The popup's "Reiniciar" restarts at once.
     void eReBoot();
@@ -203,7 +207,10 @@ public:
     void keyEntered(const std::string& typed);
 
     // --- timers ----------------------------------------------------------------------
-    void tickSound();
+    // tmrSound: the sound to play now, 1..6, or 0 for none. A new game's
+    // score waits for its opening sound, until soundEnded.
+    int tickSound();
+    void soundEnded(int number);
     void tickScore();
     // tmrRebote: the window's top, in twips, where it must be.
     static int tickRebote(int topTwips) {
@@ -239,6 +246,11 @@ public:
     CellLook cellLook(int cell) const { return ApplyLetterStyle(m_shared.settings, cell); }
     Rgb missColour() const { return quillora::missColour(m_shared.settings, m_shared.palette); }
     Rgb background() const { return windowBackground(m_shared.settings); }
+    const CellLook& phraseLabel() const { return m_phraseLabel; }
+    // The background picture shown now: the stored one, or one just dropped
+    // on the board, which is shown but not stored.
+    const std::string& backgroundPicture() const { return m_picture; }
+    bool pictureRealSize() const { return m_shared.settings.tamanoReal; }
 
 private:
     // The round's hand-overs pass through here: the window opens its keyboard
@@ -255,6 +267,7 @@ private:
     bool scoreCounting() const override { return m_scoring.counting(); }
 
     void sessionChanged(bool changed);
+    void applyLetterStyle() { m_phraseLabel = phraseLabelLook(m_shared.settings, m_phraseLabel); }
     void switchSurvival(bool on);
 
     SharedState& m_shared;
@@ -289,6 +302,8 @@ private:
     bool m_toMenu = false;
     int m_topSteps = 0;
     PlayerLabel m_player;
+    CellLook m_phraseLabel = ApplyLetterStyle(Settings{}, 1);
+    std::string m_picture;
 };
 
 } // namespace quillora

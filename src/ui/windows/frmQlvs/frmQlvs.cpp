@@ -4,6 +4,7 @@
 
 #include "look/Twips.h"
 #include "platform/Fonts.h"
+#include "ports/SoundPlayer.h"
 #include "windows/QtColour.h"
 #include "windows/RoundedLabel.h"
 #include "windows/frmNames/frmNames.h"
@@ -19,6 +20,7 @@
 #include "windows/frmQlvs/ScorePanel.h"
 #include "windows/frmQlvs/SessionPanel.h"
 #include "windows/frmQlvs/SidePanel.h"
+#include "windows/frmQlvs/SoundButton.h"
 #include "windows/frmQlvs/StatsPanel.h"
 #include "windows/frmQlvs/StrikeStrip.h"
 #include "windows/frmQlvs/ThemeBox.h"
@@ -34,6 +36,8 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMimeData>
+#include <QPainter>
+#include <QPointer>
 #include <QPushButton>
 #include <QTimer>
 
@@ -54,13 +58,15 @@ constexpr int kCopyLeft = 2130, kCopyTop = 3630, kCopyWidth = 780, kCopyHeight =
 
 } // namespace
 
-frmQlvs::frmQlvs(SharedState& shared, Dialogs& dialogs, Random& random, QWidget* parent)
+frmQlvs::frmQlvs(SharedState& shared, Dialogs& dialogs, Random& random, SoundPlayer& sounds,
+                 QWidget* parent)
     : QWidget(parent), m_boardDialogs(dialogs, [this] { drawNow(); }),
-      m_model(shared, m_boardDialogs, random) {
+      m_model(shared, m_boardDialogs, random), m_sounds(sounds) {
     setWindowTitle(QString::fromUtf8(kAppTitle.data(), static_cast<int>(kAppTitle.size())));
     setFocusPolicy(Qt::StrongFocus);
     setAutoFillBackground(true);
     setAcceptDrops(true);
+    m_sounds.load();
     m_model.load();
     buildControls();
     buildTimers();
@@ -89,7 +95,7 @@ void frmQlvs::buildTimers() {
         syncTimers();
     });
     m_tmrSound = timer(PendingSound::kTickMs, [this] {
-        m_model.tickSound();
+        playSound();
         syncTimers();
     });
     m_tmrOver = timer(Countdown::kTickMs, [this] {
@@ -218,6 +224,8 @@ void frmQlvs::buildControls() {
     m_lblAuto->setCursor(Qt::PointingHandCursor);
     m_lblAuto->installEventFilter(this);
 
+    m_cmdVoz = new SoundButton(m_model, changed, this);
+
     m_again = new AgainLabels(m_model, changed, this);
     m_sessionPanel = new SessionPanel(m_model, changed, this);
 }
@@ -309,6 +317,13 @@ void frmQlvs::syncView() {
     m_lblAuto->setVisible(round.autoMarkerVisible());
     m_lblAuto->setText(qs(round.autoMarkerCaption()));
     m_lblAuto->setToolTip(qs(round.autoMarkerTooltip()));
+    m_cmdVoz->sync();
+    if (m_imgFondo.follow(QString::fromStdString(m_model.backgroundPicture()),
+                          m_model.pictureRealSize(),
+                          QSize(px(QlvsModel::kWidthTwips), px(QlvsModel::kBaseHeightTwips)),
+                          devicePixelRatioF())) {
+        update();
+    }
 
     m_keyboard->setVisible(m_model.keyboardShown());
     m_keyboard->update();
@@ -399,6 +414,21 @@ void frmQlvs::syncTimers() {
     follow(m_tmrFore, m_model.pulseTimerRunning());
     follow(m_tmrGift, m_model.giftTimerRunning());
     follow(m_tmrStat, m_model.stats().animating());
+}
+
+void frmQlvs::playSound() {
+    const int number = m_model.tickSound();
+    if (number == 0) {
+        return;
+    }
+    // The sound plays on its own thread; its end comes back here, unless
+    // the board has gone in the meantime.
+    m_sounds.play(number, [board = QPointer<frmQlvs>(this), number] {
+        if (board) {
+            board->m_model.soundEnded(number);
+            board->syncTimers();
+        }
+    });
 }
 
 void frmQlvs::playPressed() {
@@ -550,6 +580,11 @@ void frmQlvs::showEvent(QShowEvent* event) {
         m_shownOnce = true;
         syncTimers();
     }
+}
+
+void frmQlvs::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    m_imgFondo.paint(p);
 }
 
 void frmQlvs::closeEvent(QCloseEvent* event) {

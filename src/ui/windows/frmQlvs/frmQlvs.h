@@ -4,6 +4,7 @@
 
 #include "models/frmQlvs/QlvsModel.h"
 #include "windows/frmQlvs/AnswerPanel.h"
+#include "windows/frmQlvs/BackgroundPicture.h"
 #include "windows/frmQlvs/BoardDialogs.h"
 #include "windows/frmQlvs/CountdownLabel.h"
 #include "windows/frmQlvs/PlayPanel.h"
@@ -28,6 +29,8 @@ class GallowsView;
 class KeyboardView;
 class PhraseView;
 class SessionPanel;
+class SoundButton;
+class SoundPlayer;
 class RoundedLabel;
 class SidePanel;
 class StatsPanel;
@@ -39,7 +42,8 @@ class frmWord2;
 // keys to its model, and brings the panels in step with the model after each.
 class frmQlvs final : public QWidget {
 public:
-    frmQlvs(SharedState& shared, Dialogs& dialogs, Random& random, QWidget* parent = nullptr);
+    frmQlvs(SharedState& shared, Dialogs& dialogs, Random& random, SoundPlayer& sounds,
+            QWidget* parent = nullptr);
     ~frmQlvs() override;
 
     QlvsModel& model() { return m_model; }
@@ -87,6 +91,8 @@ public:
     QLabel* playerLabel() const { return m_scorePanel->playerLabel(); }
     QMenu* buildTurnMenu() { return m_scorePanel->buildTurnMenu(); }
     QLabel* autoMarker() const { return m_lblAuto; }
+    SoundButton* soundButton() const { return m_cmdVoz; }
+    const BackgroundPicture& backgroundPicture() const { return m_imgFondo; }
     SessionPanel* sessionPanel() const { return m_sessionPanel; }
     SidePanel* sidePanel() const { return m_sidePanel; }
     AgainLabels* againLabels() const { return m_again; }
@@ -110,6 +116,7 @@ protected:
     void dropEvent(QDropEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
 
@@ -127,9 +134,12 @@ private:
     void playPressed();
     void handleStart(GameStart start);
     void followRestart();
+    void playSound();
 
     BoardDialogs m_boardDialogs;
     QlvsModel m_model;
+    SoundPlayer& m_sounds;
+    BackgroundPicture m_imgFondo;
 
     GallowsView* m_gallows = nullptr;
     PhraseView* m_phrase = nullptr;
@@ -149,6 +159,7 @@ private:
     QLabel* m_lblQueEs = nullptr;
     QPushButton* m_cmdCopy = nullptr;
     QLabel* m_lblAuto = nullptr;
+    SoundButton* m_cmdVoz = nullptr;
     frmWord2* m_themeWindow = nullptr;
     frmWord1* m_friendWindow = nullptr;
     frmNames* m_namesWindow = nullptr;

@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/SoundBank.h"
+#include "ports/SoundPlayer.h"
+
+#include <QObject>
+
+#include <condition_variable>
+#include <mutex>
+#include <string>
+#include <thread>
+
+namespace quillora {
+
+// Plays the game's sounds through an ALSA device ("default" reaches
+// PipeWire or PulseAudio on a desktop) on a thread of its own, so the board
+// keeps answering while a sound plays. No device, or a busy one, is
+// silence: the game never waits on the sound card.
+class AlsaSoundPlayer final : public SoundPlayer {
+public:
+    explicit AlsaSoundPlayer(std::string device = "default");
+    ~AlsaSoundPlayer() override;
+    AlsaSoundPlayer(const AlsaSoundPlayer&) = delete;
+    AlsaSoundPlayer& operator=(const AlsaSoundPlayer&) = delete;
+
+    void load() override;
+    void play(int number, std::function<void()> ended) override;
+
+    // Plays a decoded sound; what play() does once it has the number.
+    void playPcm(std::shared_ptr<const Pcm> pcm, std::function<void()> ended);
+
+private:
+    struct Request {
+        std::shared_ptr<const Pcm> pcm;
+        std::function<void()> ended;
+    };
+
+    void run();
+    // Plays one sound to its end; false when a newer request or the end of
+    // the program cut it short.
+    void playOne(const Pcm& pcm);
+    bool interrupted();
+    void tellEnded(std::function<void()> ended);
+
+    const std::string m_device;
+    SoundBank m_bank;
+    // Lives on the game's thread: the ends of sounds are told through it,
+    // and die with it.
+    QObject m_receiver;
+
+    std::mutex m_mutex;
+    std::condition_variable m_wake;
+    Request m_next;
+    bool m_hasNext = false;
+    bool m_quit = false;
+    std::thread m_worker;
+};
+
+} // namespace quillora
