@@ -112,12 +112,13 @@ void AlsaSoundPlayer::playOne(const Pcm& sound) {
     }
     snd_pcm_t* pcm = handle.pcm;
     if (snd_pcm_set_params(pcm, SND_PCM_FORMAT_S16, SND_PCM_ACCESS_RW_INTERLEAVED,
-                           static_cast<unsigned>(sound.channels),
-                           static_cast<unsigned>(sound.rate), 1, kLatencyMicroseconds) < 0) {
+                           static_cast<unsigned>(sound.channels), static_cast<unsigned>(sound.rate),
+                           1, kLatencyMicroseconds) < 0) {
         return;
     }
     const auto frames = static_cast<snd_pcm_uframes_t>(sound.frames());
-    const auto length = std::chrono::milliseconds(frames * 1000 / static_cast<unsigned>(sound.rate));
+    const auto length =
+        std::chrono::milliseconds(frames * 1000 / static_cast<unsigned>(sound.rate));
     const Clock::time_point giveUp = Clock::now() + length + kGrace;
 
     snd_pcm_uframes_t done = 0;
@@ -125,7 +126,8 @@ void AlsaSoundPlayer::playOne(const Pcm& sound) {
         if (Clock::now() > giveUp) {
             return;
         }
-        const std::int16_t* from = sound.samples.data() + done * static_cast<unsigned>(sound.channels);
+        const std::int16_t* from =
+            sound.samples.data() + done * static_cast<unsigned>(sound.channels);
         const snd_pcm_sframes_t written = snd_pcm_writei(pcm, from, frames - done);
         if (written == -EAGAIN || written == 0) {
             if (interrupted()) {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "look/BoardLook.h"
+#include "look/Picture.h"
 #include "round/Keyboard.h"
 #include "state/Settings.h"
 
@@ -50,6 +51,28 @@ TEST(BoardLookTest, CellLooksFollowStyleAndFlags) {
         const CellLook look = ApplyLetterStyle(settings, cell);
         EXPECT_EQ(Look(look.background, look.filled, look.letter, look.underline), expected)
             << "style " << settings.estilo << ", cell " << cell;
+    }
+}
+
+TEST(BoardLookTest, ThePhraseLabelFollowsTheCellsButKeepsItsLookInColorido) {
+    const CellLook sombra = phraseLabelLook(style(3, true, false, false), CellLook{});
+    EXPECT_EQ(sombra.background, kBlack);
+    EXPECT_EQ(sombra.letter, kWhite);
+    EXPECT_TRUE(sombra.filled);
+    const CellLook colorido = phraseLabelLook(style(2, true, false, false), sombra);
+    EXPECT_EQ(colorido.background, kBlack) << "Colorido leaves the label as it was";
+    const CellLook libre = phraseLabelLook(style(0, true, true, false), colorido);
+    EXPECT_EQ(libre.background, kWhite);
+    EXPECT_EQ(libre.letter, kWhite);
+    EXPECT_TRUE(libre.filled);
+}
+
+TEST(BoardLookTest, PicturesAreKnownByTheEndOfTheirName) {
+    for (const char* name : {"a.jpg", "/x/Playa.JPG", "b.jpeg", "c.gif", "d.bmp", "e.png"}) {
+        EXPECT_TRUE(isPictureName(name)) << name;
+    }
+    for (const char* name : {"", ".jpg", "/x/.png", "notas.txt", "jpg", "foto.jpg.txt", "a.pngx"}) {
+        EXPECT_FALSE(isPictureName(name)) << name;
     }
 }
 

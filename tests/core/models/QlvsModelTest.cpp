@@ -160,6 +160,51 @@ TEST_F(QlvsModelTest, AKeptKeyboardIsThereAtOnceAndOnlyASlidingOneClimbs) {
     EXPECT_EQ(climbed, 600);
 }
 
+TEST_F(QlvsModelTest, OnlyTheLastRequestPlaysAndANewGameCountsItsScoreAfterItsSound) {
+    shared.settings.sonidos = true;
+    start();
+    EXPECT_FALSE(model.scoreTimerRunning()) << "the score waits for the opening sound";
+    // A letter typed before the tick replaces the opening sound.
+    model.keyTyped(Key::Character, U'c');
+    EXPECT_TRUE(model.round().pendingSound().timerRunning());
+    EXPECT_EQ(model.tickSound(), 6);
+    EXPECT_EQ(model.tickSound(), 0) << "a played sound is gone";
+    EXPECT_FALSE(model.round().pendingSound().timerRunning());
+
+    start();
+    EXPECT_EQ(model.tickSound(), 2);
+    EXPECT_FALSE(model.scoreTimerRunning());
+    model.soundEnded(6);
+    EXPECT_FALSE(model.scoreTimerRunning()) << "only the opening sound lets the score go";
+    model.soundEnded(2);
+    EXPECT_TRUE(model.scoreTimerRunning());
+
+    // With sounds off a request is kept but nothing is armed, and the
+    // score counts at once.
+    countScore();
+    shared.settings.sonidos = false;
+    start();
+    EXPECT_TRUE(model.scoreTimerRunning());
+    EXPECT_EQ(model.round().pendingSound().number(), 2);
+    EXPECT_FALSE(model.round().pendingSound().timerRunning());
+}
+
+TEST_F(QlvsModelTest, ADroppedPictureIsShownNotStoredAndALockRefusesIt) {
+    shared.settings.fondo = "/home/ana/Imágenes/playa.jpg";
+    ASSERT_TRUE(ConfSave(shared, dialogs));
+    model.load();
+    EXPECT_EQ(model.backgroundPicture(), "/home/ana/Imágenes/playa.jpg");
+
+    model.dropFiles({"/tmp/notas.txt", "/tmp/Monte.PNG"});
+    EXPECT_EQ(model.backgroundPicture(), "/tmp/Monte.PNG");
+    EXPECT_EQ(shared.settings.fondo, "/home/ana/Imágenes/playa.jpg");
+    EXPECT_EQ(shared.currentSlot, 0) << "a missing text file adds no user";
+
+    shared.locked = true;
+    model.dropFiles({"/tmp/otra.gif"});
+    EXPECT_EQ(model.backgroundPicture(), "/tmp/Monte.PNG");
+}
+
 // --- the session panel ------------------------------------------------------------------
 
 class SessionPanelTest : public ::testing::Test {

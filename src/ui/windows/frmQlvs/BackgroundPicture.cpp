@@ -10,8 +10,7 @@
 namespace quillora {
 
 bool BackgroundPicture::follow(const QString& path, bool realSize, QSize area, qreal pixelRatio) {
-    if (path == m_path && realSize == m_realSize && area == m_area &&
-        pixelRatio == m_pixelRatio) {
+    if (path == m_path && realSize == m_realSize && area == m_area && pixelRatio == m_pixelRatio) {
         return false;
     }
     const bool wasShown = shown();

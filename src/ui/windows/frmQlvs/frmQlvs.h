@@ -76,6 +76,8 @@ public:
     QLabel* themeLabel() const { return m_themeBox->themeLabel(); }
     QLabel* timeLabel() const { return m_lblTime; }
     QTimer* countdownTimer() const { return m_tmrOver; }
+    QTimer* soundTimer() const { return m_tmrSound; }
+    QTimer* scoreTimer() const { return m_tmrScore; }
     QLabel* strikeLabel(int slot) const { return m_strikes->strikeLabel(slot); }
     QLabel* quitLabel() const { return m_strikes->quitLabel(); }
     QPushButton* playButton() const { return m_playPanel->playButton(); }
