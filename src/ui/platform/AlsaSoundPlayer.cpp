@@ -22,8 +22,11 @@ using Clock = std::chrono::steady_clock;
 
 // Short enough that a new sound cuts the old one without a noticeable gap,
 // long enough that a busy machine does not stutter.
-constexpr unsigned kLatencyMicroseconds = 60000;
-constexpr auto kPoll = std::chrono::milliseconds(10);
+constexpr unsigned kLatencyMicroseconds = 200000;
+constexpr int kPollMilliseconds = 10;
+constexpr auto kPoll = std::chrono::milliseconds(kPollMilliseconds);
+// A device left idle this long is closed until the next sound.
+constexpr auto kIdleClose = std::chrono::seconds(30);
 // However the sound card behaves, a sound gives up this long after it
 // should have ended.
 constexpr auto kGrace = std::chrono::seconds(2);
@@ -31,16 +34,6 @@ constexpr auto kGrace = std::chrono::seconds(2);
 // alsa-lib writes its complaints to stderr; a machine without a sound card
 // is normal for this game, so nothing is said.
 void quiet(const char*, int, const char*, int, const char*, ...) {}
-
-struct PcmHandle {
-    snd_pcm_t* pcm = nullptr;
-    ~PcmHandle() {
-        if (pcm) {
-            snd_pcm_drop(pcm);
-            snd_pcm_close(pcm);
-        }
-    }
-};
 
 } // namespace
 
@@ -91,19 +84,31 @@ void AlsaSoundPlayer::playPcm(std::shared_ptr<const Pcm> pcm, std::function<void
 void AlsaSoundPlayer::run() {
     std::unique_lock lock(m_mutex);
     while (true) {
-        m_wake.wait(lock, [this] { return m_quit || m_hasNext; });
+        // The device stays open between sounds, so the next one starts at
+        // once; after a long quiet it is handed back to the system.
+        if (!m_wake.wait_for(lock, kIdleClose, [this] { return m_quit || m_hasNext; })) {
+            closeDevice();
+            continue;
+        }
         if (m_quit) {
+            closeDevice();
             return;
         }
         Request request = std::move(m_next);
         m_hasNext = false;
         lock.unlock();
-        if (request.pcm) {
-            playOne(*request.pcm);
+        if (request.pcm && !playOne(*request.pcm)) {
+            // A device in trouble is opened afresh for the next sound.
+            closeDevice();
         }
         tellEnded(std::move(request.ended));
         lock.lock();
     }
+}
+
+bool AlsaSoundPlayer::cutShort() {
+    std::lock_guard lock(m_mutex);
+    return m_quit || m_hasNext;
 }
 
 bool AlsaSoundPlayer::interrupted() {
@@ -111,43 +116,71 @@ bool AlsaSoundPlayer::interrupted() {
     return m_wake.wait_for(lock, kPoll, [this] { return m_quit || m_hasNext; });
 }
 
-void AlsaSoundPlayer::playOne(const Pcm& sound) {
-    PcmHandle handle;
+bool AlsaSoundPlayer::openDevice(int channels, int rate) {
+    if (m_pcm && channels == m_channels && rate == m_rate) {
+        return snd_pcm_prepare(m_pcm) >= 0;
+    }
+    closeDevice();
     // Opened without blocking: a device held by another program fails at
     // once instead of holding the sound thread.
-    if (snd_pcm_open(&handle.pcm, m_device.c_str(), SND_PCM_STREAM_PLAYBACK, SND_PCM_NONBLOCK) <
-        0) {
-        handle.pcm = nullptr;
-        return;
+    if (snd_pcm_open(&m_pcm, m_device.c_str(), SND_PCM_STREAM_PLAYBACK, SND_PCM_NONBLOCK) < 0) {
+        m_pcm = nullptr;
+        return false;
     }
-    snd_pcm_t* pcm = handle.pcm;
-    if (snd_pcm_set_params(pcm, SND_PCM_FORMAT_S16, SND_PCM_ACCESS_RW_INTERLEAVED,
-                           static_cast<unsigned>(sound.channels), static_cast<unsigned>(sound.rate),
-                           1, kLatencyMicroseconds) < 0) {
-        return;
+    if (snd_pcm_set_params(m_pcm, SND_PCM_FORMAT_S16, SND_PCM_ACCESS_RW_INTERLEAVED,
+                           static_cast<unsigned>(channels), static_cast<unsigned>(rate), 1,
+                           kLatencyMicroseconds) < 0) {
+        closeDevice();
+        return false;
     }
+    m_channels = channels;
+    m_rate = rate;
+    return true;
+}
+
+void AlsaSoundPlayer::closeDevice() {
+    if (m_pcm) {
+        snd_pcm_drop(m_pcm);
+        snd_pcm_close(m_pcm);
+        m_pcm = nullptr;
+    }
+}
+
+bool AlsaSoundPlayer::playOne(const Pcm& sound) {
+    if (!openDevice(sound.channels, sound.rate)) {
+        return false;
+    }
+    snd_pcm_t* pcm = m_pcm;
+    // Whatever happens below, the sound is over for the card when this ends.
+    struct Stop {
+        snd_pcm_t* pcm;
+        ~Stop() { snd_pcm_drop(pcm); }
+    } stop{pcm};
+
     const auto frames = static_cast<snd_pcm_uframes_t>(sound.frames());
     const auto length =
         std::chrono::milliseconds(frames * 1000 / static_cast<unsigned>(sound.rate));
-    const Clock::time_point giveUp = Clock::now() + length + kGrace;
+    const Clock::time_point started = Clock::now();
+    const Clock::time_point giveUp = started + length + kGrace;
 
     snd_pcm_uframes_t done = 0;
     while (done < frames) {
         if (Clock::now() > giveUp) {
-            return;
+            return false;
         }
         const std::int16_t* from =
             sound.samples.data() + done * static_cast<unsigned>(sound.channels);
         const snd_pcm_sframes_t written = snd_pcm_writei(pcm, from, frames - done);
         if (written == -EAGAIN || written == 0) {
-            if (interrupted()) {
-                return;
+            snd_pcm_wait(pcm, kPollMilliseconds);
+            if (cutShort()) {
+                return true;
             }
             continue;
         }
         if (written < 0) {
             if (snd_pcm_recover(pcm, static_cast<int>(written), 1) < 0) {
-                return;
+                return false;
             }
             continue;
         }
@@ -157,13 +190,20 @@ void AlsaSoundPlayer::playOne(const Pcm& sound) {
     if (snd_pcm_state(pcm) == SND_PCM_STATE_PREPARED) {
         snd_pcm_start(pcm);
     }
-    // Let the tail play out, still ready to be cut by the next sound.
-    while (Clock::now() < giveUp && snd_pcm_state(pcm) == SND_PCM_STATE_RUNNING) {
+    // Let the tail play out, still ready to be cut by the next sound. A
+    // sound server may take the whole sound at once and report no delay
+    // while it is still playing it, so the clock has the last word.
+    const Clock::time_point heard =
+        started + length + std::chrono::microseconds(kLatencyMicroseconds);
+    while (Clock::now() < giveUp) {
         snd_pcm_sframes_t left = 0;
-        if (snd_pcm_delay(pcm, &left) < 0 || left <= 0 || interrupted()) {
-            return;
+        const bool cardDone = snd_pcm_state(pcm) != SND_PCM_STATE_RUNNING ||
+                              snd_pcm_delay(pcm, &left) < 0 || left <= 0;
+        if ((cardDone && Clock::now() >= heard) || interrupted()) {
+            return true;
         }
     }
+    return false;
 }
 
 void AlsaSoundPlayer::tellEnded(std::function<void()> ended) {

@@ -12,6 +12,9 @@
 #include <string>
 #include <thread>
 
+// alsa-lib's handle of an open device, as <alsa/asoundlib.h> names it.
+using snd_pcm_t = struct _snd_pcm;
+
 namespace quillora {
 
 // Plays the game's sounds through an ALSA device ("default" reaches
@@ -37,10 +40,16 @@ private:
         std::function<void()> ended;
     };
 
+    // The sound thread and what only it touches: the open device.
     void run();
-    // Plays one sound to its end; false when a newer request or the end of
-    // the program cut it short.
-    void playOne(const Pcm& pcm);
+    // Plays one sound to its end or until a newer request cuts it short;
+    // false when the device failed.
+    bool playOne(const Pcm& pcm);
+    bool openDevice(int channels, int rate);
+    void closeDevice();
+    // Whether a newer request or the end of the program is waiting; the
+    // second form first waits a moment for one.
+    bool cutShort();
     bool interrupted();
     void tellEnded(std::function<void()> ended);
 
@@ -56,6 +65,9 @@ private:
     bool m_hasNext = false;
     bool m_quit = false;
     std::thread m_worker;
+    snd_pcm_t* m_pcm = nullptr;
+    int m_channels = 0;
+    int m_rate = 0;
 };
 
 } // namespace quillora
