@@ -10,6 +10,8 @@
 #include "windows/frmNames/frmNames.h"
 #include "windows/frmQlvs/AgainLabels.h"
 #include "windows/frmQlvs/AnswerPanel.h"
+#include "windows/frmQlvs/AutoMarker.h"
+#include "windows/frmQlvs/BackgroundView.h"
 #include "windows/frmQlvs/BoardKeys.h"
 #include "windows/frmQlvs/BoardPopup.h"
 #include "windows/frmQlvs/CountdownLabel.h"
@@ -36,7 +38,6 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMimeData>
-#include <QPainter>
 #include <QPointer>
 #include <QPushButton>
 #include <QTimer>
@@ -53,7 +54,6 @@ QRect twipRect(int left, int top, int width, int height) {
 constexpr int kStatusLeft = 3000, kStatusTop = 300, kStatusWidth = 5040, kStatusHeight = 720;
 constexpr int kCounterLeft = 10200, kCounterTop = 1050, kCounterWidth = 1095, kCounterHeight = 360;
 constexpr int kQueEsLeft = 240, kQueEsTop = 4380, kQueEsWidth = 2520, kQueEsHeight = 360;
-constexpr int kAutoLeft = 2610, kAutoTop = 345, kAutoSize = 330;
 constexpr int kCopyLeft = 2130, kCopyTop = 3630, kCopyWidth = 780, kCopyHeight = 435;
 
 } // namespace
@@ -174,6 +174,7 @@ void frmQlvs::buildTimers() {
 
 void frmQlvs::buildControls() {
     auto changed = [this] { sync(); };
+    m_imgFondo = new BackgroundView(m_model, this);
     m_gallows = new GallowsView(m_model.round().figure(), this);
     m_phrase = new PhraseView(m_model, this);
     m_sidePanel = new SidePanel(m_model.side(), this);
@@ -217,12 +218,7 @@ void frmQlvs::buildControls() {
     m_scorePanel = new ScorePanel(
         m_model, changed, [this] { eNames(); }, this);
 
-    m_lblAuto = new QLabel(this);
-    m_lblAuto->setGeometry(twipRect(kAutoLeft, kAutoTop, kAutoSize, kAutoSize));
-    m_lblAuto->setAlignment(Qt::AlignCenter);
-    m_lblAuto->setFont(Fonts::display(9));
-    m_lblAuto->setCursor(Qt::PointingHandCursor);
-    m_lblAuto->installEventFilter(this);
+    m_lblAuto = new AutoMarker(m_model, changed, this);
 
     m_cmdVoz = new SoundButton(m_model, changed, this);
 
@@ -264,8 +260,6 @@ void frmQlvs::paintPanels() {
                            .arg(css(kGreenLamp)),
                        QStringLiteral("QLabel { border: 1px dashed %1; border-radius: 8px; }")
                            .arg(css(kPictureButtonBack)));
-    m_lblAuto->setStyleSheet(QStringLiteral("background: %1; color: %2; border-radius: 3px;")
-                                 .arg(css(kPictureButtonBack), css(kAutoMarkerText)));
     m_lblQueEs->setStyleSheet(
         QStringLiteral("color: %1; background: transparent; text-decoration: underline;")
             .arg(css(shade)));
@@ -314,16 +308,9 @@ void frmQlvs::syncView() {
     m_cmdCopy->setVisible(!buttonHidden);
     m_cmdCopy->setText(qs(round.playCaption()));
     m_cmdCopy->setEnabled(m_model.smallPlayEnabled());
-    m_lblAuto->setVisible(round.autoMarkerVisible());
-    m_lblAuto->setText(qs(round.autoMarkerCaption()));
-    m_lblAuto->setToolTip(qs(round.autoMarkerTooltip()));
+    m_lblAuto->sync();
     m_cmdVoz->sync();
-    if (m_imgFondo.follow(QString::fromStdString(m_model.backgroundPicture()),
-                          m_model.pictureRealSize(),
-                          QSize(px(QlvsModel::kWidthTwips), px(QlvsModel::kBaseHeightTwips)),
-                          devicePixelRatioF())) {
-        update();
-    }
+    m_imgFondo->sync();
 
     m_keyboard->setVisible(m_model.keyboardShown());
     m_keyboard->update();
@@ -513,19 +500,11 @@ bool frmQlvs::eventFilter(QObject* watched, QEvent* event) {
         m_strikes->sync();
         m_keyboard->update();
     }
-    if (watched == m_lblAuto && event->type() == QEvent::MouseButtonRelease) {
-        m_model.eMenuAuto();
-        sync();
-        return true;
-    }
     // The counter, like the score and the strikes, only puts the side
     // panels away.
-    if ((watched == m_lblAuto || watched == m_lblCont) &&
-        event->type() == QEvent::MouseButtonPress) {
-        if (watched == m_lblCont) {
-            m_model.eWinClose();
-            sync();
-        }
+    if (watched == m_lblCont && event->type() == QEvent::MouseButtonPress) {
+        m_model.eWinClose();
+        sync();
         return true;
     }
     return QWidget::eventFilter(watched, event);
@@ -580,11 +559,6 @@ void frmQlvs::showEvent(QShowEvent* event) {
         m_shownOnce = true;
         syncTimers();
     }
-}
-
-void frmQlvs::paintEvent(QPaintEvent*) {
-    QPainter p(this);
-    m_imgFondo.paint(p);
 }
 
 void frmQlvs::closeEvent(QCloseEvent* event) {

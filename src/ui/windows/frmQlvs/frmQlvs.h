@@ -4,7 +4,8 @@
 
 #include "models/frmQlvs/QlvsModel.h"
 #include "windows/frmQlvs/AnswerPanel.h"
-#include "windows/frmQlvs/BackgroundPicture.h"
+#include "windows/frmQlvs/AutoMarker.h"
+#include "windows/frmQlvs/BackgroundView.h"
 #include "windows/frmQlvs/BoardDialogs.h"
 #include "windows/frmQlvs/CountdownLabel.h"
 #include "windows/frmQlvs/PlayPanel.h"
@@ -94,7 +95,7 @@ public:
     QMenu* buildTurnMenu() { return m_scorePanel->buildTurnMenu(); }
     QLabel* autoMarker() const { return m_lblAuto; }
     SoundButton* soundButton() const { return m_cmdVoz; }
-    const BackgroundPicture& backgroundPicture() const { return m_imgFondo; }
+    const BackgroundPicture& backgroundPicture() const { return m_imgFondo->picture(); }
     SessionPanel* sessionPanel() const { return m_sessionPanel; }
     SidePanel* sidePanel() const { return m_sidePanel; }
     AgainLabels* againLabels() const { return m_again; }
@@ -118,7 +119,6 @@ protected:
     void dropEvent(QDropEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
 
@@ -141,7 +141,7 @@ private:
     BoardDialogs m_boardDialogs;
     QlvsModel m_model;
     SoundPlayer& m_sounds;
-    BackgroundPicture m_imgFondo;
+    BackgroundView* m_imgFondo = nullptr;
 
     GallowsView* m_gallows = nullptr;
     PhraseView* m_phrase = nullptr;
@@ -160,7 +160,7 @@ private:
     CountdownLabel* m_lblTime = nullptr;
     QLabel* m_lblQueEs = nullptr;
     QPushButton* m_cmdCopy = nullptr;
-    QLabel* m_lblAuto = nullptr;
+    AutoMarker* m_lblAuto = nullptr;
     SoundButton* m_cmdVoz = nullptr;
     frmWord2* m_themeWindow = nullptr;
     frmWord1* m_friendWindow = nullptr;
