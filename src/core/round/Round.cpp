@@ -4,6 +4,7 @@
 
 #include "ports/Dialogs.h"
 #include "ports/Random.h"
+#include "round/ThemeSelection.h"
 #include "state/SharedState.h"
 #include "words/Text.h"
 
@@ -129,12 +130,7 @@ GameStart Round::eGame() {
 }
 
 void Round::BotonTema() {
-    const auto& selected = m_shared.current().selectedThemes;
-    int marked = 0;
-    for (bool on : selected) {
-        marked += on ? 1 : 0;
-    }
-    m_randomTheme = marked > 1;
+    m_randomTheme = markedThemes(m_shared.current()) > 1;
     m_catalogue.ThemeLoad();
     m_word2ThemeLabel = m_randomTheme ? "????" : m_catalogue.themeName(m_shared.settings.tema);
 }
@@ -208,9 +204,7 @@ void Round::eMenuAuto() {
         switchAutoOn();
     } else {
         m_shared.settings.fraseAutomatica = false;
-        m_shared.tourPosition = 0;
-        const auto slot = static_cast<std::size_t>(m_shared.currentSlot);
-        m_shared.sessions[slot].selectedThemes = m_shared.sessions[slot].tourCopy;
+        endTour(m_shared);
     }
     m_autoCaption = "A";
     m_autoTooltip = " Desactivar la frase automática. ";
@@ -218,6 +212,20 @@ void Round::eMenuAuto() {
         m_events.titleChanged();
     }
     m_events.settingsChanged();
+}
+
+void Round::startTour() {
+    beginTour(m_shared);
+    switchAutoOn();
+    m_events.titleChanged();
+    showTourMarker();
+    m_events.settingsChanged();
+    DrawTourPhrase();
+}
+
+void Round::showTourMarker() {
+    m_autoCaption = "T";
+    m_autoTooltip = " Desactivar el tour temático. ";
 }
 
 void Round::startPhrase(const std::string& phrase, int theme, const std::string& themeLabel) {
@@ -402,6 +410,7 @@ void Round::endRound(const std::string& caption) {
     // none, and shows the catalogue's "no theme".
     m_catalogue.ThemeLoad();
     m_themeLabel = m_catalogue.themeName(m_gameTheme);
+    m_events.roundEnded(toUtf8(m_board.answerText()));
     advanceTour();
     m_queEsEsoVisible = true;
     m_state.manyErrors = false;
@@ -441,6 +450,7 @@ void Round::BotonRespuesta() {
         closeAnswerBox();
     } else {
         m_answerBoxOpen = true;
+        m_events.answerBoxOpened();
     }
 }
 

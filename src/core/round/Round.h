@@ -27,6 +27,11 @@ public:
     virtual void phraseLaid() {}
     virtual void roundWon() {}
     virtual void roundLost() {}
+    // Every game, won or lost, with or without points, ends with the text
+    // the player had to find.
+    virtual void roundEnded(const std::string& /*answerText*/) {}
+    // The answer box takes the place of the side panels.
+    virtual void answerBoxOpened() {}
     virtual void countdownStopped() {}
     virtual void correctionAsked(bool /*asking*/) {}
     // An option changed that the configuration file keeps.
@@ -72,6 +77,11 @@ public:
     // automatic phrase on.
     void eOk();
     void DrawTourPhrase();
+    // "Tour temático": the automatic phrase walks every theme from the
+    // first, and the first game of the tour starts at once.
+    void startTour();
+    // The automatic-phrase marker reads "T" while a tour runs.
+    void showTourMarker();
     void eMenuAuto();
     bool randomTheme() const { return m_randomTheme; }
     const std::string& word2ThemeLabel() const { return m_word2ThemeLabel; }

@@ -86,4 +86,18 @@ std::string formatNumber(double value) {
     return buffer;
 }
 
+std::string lowerCase(std::string_view utf8) {
+    std::u32string text = toU32(utf8);
+    for (char32_t& c : text) {
+        if ((c >= U'A' && c <= U'Z') || (c >= U'\u00C0' && c <= U'\u00DE' && c != U'\u00D7')) {
+            c += 0x20;
+        } else if (c == U'\u0152' || c == U'\u0160' || c == U'\u017D') {
+            c += 1;
+        } else if (c == U'\u0178') {
+            c = U'\u00FF';
+        }
+    }
+    return toUtf8(text);
+}
+
 } // namespace quillora

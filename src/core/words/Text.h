@@ -17,6 +17,10 @@ std::string toUtf8(char32_t ch);
 // Number of characters (code points) in a UTF-8 text.
 std::size_t charCount(std::string_view utf8);
 
+// The text in small letters: the capitals of the game's code page, "Ñ" and
+// the accented ones too; anything else stays.
+std::string lowerCase(std::string_view utf8);
+
 // A number as the game shows and stores it: whole numbers without a
 // fraction ("450", "-600"), others with the digits they need.
 std::string formatNumber(double value);

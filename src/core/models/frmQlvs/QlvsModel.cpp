@@ -20,7 +20,8 @@ constexpr int kPlaying = 0;
 QlvsModel::QlvsModel(SharedState& shared, Dialogs& dialogs, Random& random, RoundEvents* events)
     : m_shared(shared), m_dialogs(dialogs), m_outer(events ? *events : m_noEvents),
       m_round(shared, dialogs, random, this), m_scoring(shared, dialogs),
-      m_sessions(shared, dialogs, random), m_panel(shared), m_stats(shared), m_random(random) {
+      m_sessions(shared, dialogs, random), m_panel(shared), m_stats(shared), m_history(shared, dialogs),
+      m_themesPanel(shared), m_random(random) {
     // Scoring calls these only when points count. A loss is counted before
     // its points, under the same trap, so a full counter earns the gift.
     m_scoring.onWinStatistics = [this](int points) {
@@ -49,6 +50,7 @@ void QlvsModel::load() {
             m_panel.openLocked();
         }
     });
+    step([this] { m_history.load(); });
     step([this] {
         clearForBoardLoad(m_shared);
         DataLoad(m_shared, m_random);
@@ -63,6 +65,7 @@ void QlvsModel::load() {
     // A tour that is still running keeps the automatic phrase on.
     if (m_shared.tourPosition >= 1) {
         m_shared.settings.fraseAutomatica = true;
+        m_round.showTourMarker();
     }
     step([this] { ePlayerName(); });
     // A keyboard kept open is there at once; the climb that follows an
@@ -80,6 +83,21 @@ std::string QlvsModel::windowTitle() const {
 void QlvsModel::eWinClose() {
     m_side.eWinClose();
     m_stats.close();
+}
+
+void QlvsModel::ePlayed() {
+    if (m_side.showing(SidePanelModel::Content::History)) {
+        eWinClose();
+        return;
+    }
+    m_stats.close();
+    m_side.show(SidePanelModel::Content::History);
+}
+
+void QlvsModel::eOpenList() {
+    m_themesPanel.fill();
+    m_side.show(SidePanelModel::Content::Themes);
+    ConfSave(m_shared, m_dialogs);
 }
 
 void QlvsModel::correctionAsked(bool asking) {
@@ -220,6 +238,9 @@ GameStart QlvsModel::keyTyped(WindowKey key, char32_t character) {
     case WindowKey::Escape:
         eWinClose();
         break;
+    case WindowKey::History:
+        ePlayed();
+        break;
     // The windows and panels these open come with their own features.
     case WindowKey::F5:
         eSinSVivencia();
@@ -228,7 +249,6 @@ GameStart QlvsModel::keyTyped(WindowKey key, char32_t character) {
     case WindowKey::F1:
     case WindowKey::MenuKey:
     case WindowKey::Names:
-    case WindowKey::History:
     case WindowKey::Design:
     case WindowKey::Other:
         break;

@@ -3,9 +3,11 @@
 #pragma once
 
 #include "look/BoardLook.h"
+#include "models/frmQlvs/HistoryPanelModel.h"
 #include "models/frmQlvs/SessionPanelModel.h"
 #include "models/frmQlvs/SidePanelModel.h"
 #include "models/frmQlvs/StatsPanelModel.h"
+#include "models/frmQlvs/ThemesPanelModel.h"
 #include "players/Players.h"
 #include "round/Round.h"
 #include "scoring/Countdown.h"
@@ -150,6 +152,14 @@ public:
     const StatsPanelModel& stats() const { return m_stats; }
     // "Estadísticas".
     void eStat() { m_stats.open(); }
+    // "Historial" and Ctrl+H: the history comes up in place of the
+    // statistics, or goes away with the other side panels.
+    void ePlayed();
+    HistoryPanelModel& history() { return m_history; }
+    const HistoryPanelModel& history() const { return m_history; }
+    // "Temas seleccionados", from the theme label's menu.
+    void eOpenList();
+    const ThemesPanelModel& themesPanel() const { return m_themesPanel; }
 
     // --- menu entries --------------------------------------------------------------
     void eMenuNew() { m_round.eMenuNew(); }
@@ -260,6 +270,8 @@ private:
     void phraseLaid() override;
     void roundWon() override;
     void roundLost() override;
+    void roundEnded(const std::string& answerText) override { m_history.add(answerText); }
+    void answerBoxOpened() override { m_side.eWinClose(); }
     void countdownStopped() override;
     void correctionAsked(bool asking) override;
     void settingsChanged() override;
@@ -281,6 +293,8 @@ private:
     SessionPanelModel m_panel;
     SidePanelModel m_side;
     StatsPanelModel m_stats;
+    HistoryPanelModel m_history;
+    ThemesPanelModel m_themesPanel;
     char32_t m_deadKey = 0;
     bool m_reopen = false;
     // The pulse's grey level, and whether it is on its way down.

@@ -50,7 +50,7 @@ QMenu* buildBoardPopup(QlvsModel& model, QWidget* board, const std::function<voi
     check(entry("Estado animado", [&model] { model.toggleAnimation(); }), settings.animacion);
     menu->addSeparator();
     entry("Editar jugadores", names);
-    entry("Historial", nullptr, false);
+    entry("Historial", [&model] { model.ePlayed(); });
     entry("Cambiar diseño", nullptr, false);
     menu->addSeparator();
     entry("Ayuda", nullptr, false);

@@ -8,7 +8,7 @@
 namespace quillora {
 
 namespace {
-// Over the gallows, under the score.
+// Over the gallows, under the score, where the list panels stand.
 constexpr int kLeft = 120, kTop = 840, kWidth = 2760, kHeight = 3900;
 } // namespace
 
@@ -26,7 +26,7 @@ void SidePanel::paint(const QString& gameColour) {
 }
 
 void SidePanel::sync() {
-    setVisible(m_model.shown());
+    setVisible(m_model.showing(SidePanelModel::Content::Empty));
     if (isVisible()) {
         raise();
     }

@@ -8,8 +8,9 @@ namespace quillora {
 
 class SidePanelModel;
 
-// The panel beside the figure where the history, the selected themes and the
-// played phrase are shown; empty, it keeps the board still behind a question.
+// The empty panel beside the figure, where the history and the selected
+// themes stand when they are open: it keeps the board still behind a
+// question.
 class SidePanel final : public QWidget {
 public:
     SidePanel(const SidePanelModel& model, QWidget* board);

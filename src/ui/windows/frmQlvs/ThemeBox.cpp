@@ -23,7 +23,8 @@ constexpr double kThemePoints = 11;
 constexpr int kSmallestPixels = 8;
 } // namespace
 
-ThemeBox::ThemeBox(const QlvsModel& model, QWidget* board) : RoundedLabel(board), m_model(model) {
+ThemeBox::ThemeBox(QlvsModel& model, std::function<void()> changed, QWidget* board)
+    : RoundedLabel(board), m_model(model), m_changed(std::move(changed)) {
     setObjectName(QStringLiteral("shpTheme"));
     m_lblCaption = new QLabel(QStringLiteral("Tema"), this);
     m_lblCaption->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
@@ -31,15 +32,22 @@ ThemeBox::ThemeBox(const QlvsModel& model, QWidget* board) : RoundedLabel(board)
     m_lblTheme = new QLabel(this);
     m_lblTheme->setAlignment(Qt::AlignCenter);
     m_lblTheme->setFont(Fonts::display(kThemePoints));
-    // Its entries come with the themes list and the tips; until then greyed.
     m_lblTheme->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(m_lblTheme, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
-        auto* menu = new QMenu(this);
-        menu->setAttribute(Qt::WA_DeleteOnClose);
-        menu->addAction(QStringLiteral("Temas seleccionados"))->setEnabled(false);
-        menu->addAction(QStringLiteral("Dame un consejo"))->setEnabled(false);
-        menu->popup(m_lblTheme->mapToGlobal(at));
-    });
+    connect(m_lblTheme, &QWidget::customContextMenuRequested, this,
+            [this](const QPoint& at) { buildMenu()->popup(m_lblTheme->mapToGlobal(at)); });
+}
+
+QMenu* ThemeBox::buildMenu() {
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    connect(menu->addAction(QStringLiteral("Temas seleccionados")), &QAction::triggered, this,
+            [this] {
+                m_model.eOpenList();
+                m_changed();
+            });
+    // The tips come later; until then the entry is there, greyed.
+    menu->addAction(QStringLiteral("Dame un consejo"))->setEnabled(false);
+    return menu;
 }
 
 void ThemeBox::sync() {

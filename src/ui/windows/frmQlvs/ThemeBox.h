@@ -4,7 +4,10 @@
 
 #include "windows/RoundedLabel.h"
 
+#include <functional>
+
 class QLabel;
+class QMenu;
 
 namespace quillora {
 
@@ -13,14 +16,17 @@ class QlvsModel;
 // The box that names the theme of the game (shpTheme, with lblTheme in it).
 class ThemeBox final : public RoundedLabel {
 public:
-    ThemeBox(const QlvsModel& model, QWidget* board);
+    ThemeBox(QlvsModel& model, std::function<void()> changed, QWidget* board);
 
     void sync();
 
     QLabel* themeLabel() const { return m_lblTheme; }
+    // The theme label's own menu.
+    QMenu* buildMenu();
 
 private:
-    const QlvsModel& m_model;
+    QlvsModel& m_model;
+    std::function<void()> m_changed;
     QLabel* m_lblCaption = nullptr;
     QLabel* m_lblTheme = nullptr;
     int m_fittedWidth = 0;

@@ -16,6 +16,7 @@
 #include "windows/frmQlvs/BoardPopup.h"
 #include "windows/frmQlvs/CountdownLabel.h"
 #include "windows/frmQlvs/GallowsView.h"
+#include "windows/frmQlvs/HistoryPanel.h"
 #include "windows/frmQlvs/KeyboardView.h"
 #include "windows/frmQlvs/PhraseView.h"
 #include "windows/frmQlvs/PlayPanel.h"
@@ -26,6 +27,7 @@
 #include "windows/frmQlvs/StatsPanel.h"
 #include "windows/frmQlvs/StrikeStrip.h"
 #include "windows/frmQlvs/ThemeBox.h"
+#include "windows/frmQlvs/ThemesPanel.h"
 #include "windows/frmWord1/frmWord1.h"
 #include "windows/frmWord2/frmWord2.h"
 
@@ -179,13 +181,16 @@ void frmQlvs::buildControls() {
     m_phrase = new PhraseView(m_model, this);
     m_sidePanel = new SidePanel(m_model.side(), this);
     m_statsPanel = new StatsPanel(m_model.stats(), changed, this);
+    auto keys = [this](QKeyEvent* key) { return boardKey(key); };
+    m_historyPanel = new HistoryPanel(m_model, changed, keys, this);
+    m_themesPanel = new ThemesPanel(m_model, changed, keys, this);
 
     m_lblGame = new RoundedLabel(this);
     m_lblGame->setGeometry(twipRect(kStatusLeft, kStatusTop, kStatusWidth, kStatusHeight));
     m_lblGame->setAlignment(Qt::AlignCenter);
     m_lblGame->setFont(Fonts::display(18));
 
-    m_themeBox = new ThemeBox(m_model, this);
+    m_themeBox = new ThemeBox(m_model, changed, this);
 
     m_lblCont = new QLabel(QStringLiteral("XX/YY"), this);
     m_lblCont->setGeometry(twipRect(kCounterLeft, kCounterTop, kCounterWidth, kCounterHeight));
@@ -266,6 +271,8 @@ void frmQlvs::paintPanels() {
     m_answerPanel->paint(css(game));
     m_again->paint(css(game));
     m_sidePanel->paint(css(game));
+    m_historyPanel->paint(css(game), css(shade));
+    m_themesPanel->paint(css(game), css(shade));
     m_statsPanel->paint(css(game), css(shade));
 }
 
@@ -300,6 +307,8 @@ void frmQlvs::syncView() {
     m_answerPanel->sync();
     m_scorePanel->sync();
     m_sidePanel->sync();
+    m_historyPanel->sync();
+    m_themesPanel->sync();
     m_again->sync();
     m_statsPanel->sync();
 
@@ -444,7 +453,7 @@ void frmQlvs::handleStart(GameStart start) {
         m_friendWindow->open();
     } else if (start == GameStart::ThemeWindow && !m_themeWindow) {
         m_themeWindow = new frmWord2(
-            m_model.round(), m_model.shared().palette, [this] { sync(); }, this);
+            m_model, [this] { sync(); }, this);
         opened(m_themeWindow, m_themeWindow);
         m_themeWindow->open();
     }
@@ -471,13 +480,20 @@ bool frmQlvs::windowShortcut(QKeyEvent* event) {
     return true;
 }
 
-void frmQlvs::keyPressEvent(QKeyEvent* event) {
-    using WindowKey = QlvsModel::WindowKey;
+bool frmQlvs::boardKey(QKeyEvent* event) {
     if (windowShortcut(event)) {
-        return;
+        return true;
     }
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        handleStart(m_model.keyTyped(WindowKey::Enter));
+        handleStart(m_model.keyTyped(QlvsModel::WindowKey::Enter));
+        return true;
+    }
+    return false;
+}
+
+void frmQlvs::keyPressEvent(QKeyEvent* event) {
+    using WindowKey = QlvsModel::WindowKey;
+    if (boardKey(event)) {
         return;
     }
     if (const char32_t accent = deadAccent(event->key())) {

@@ -27,6 +27,7 @@ namespace quillora {
 
 class AgainLabels;
 class GallowsView;
+class HistoryPanel;
 class KeyboardView;
 class PhraseView;
 class SessionPanel;
@@ -35,6 +36,7 @@ class SoundPlayer;
 class RoundedLabel;
 class SidePanel;
 class StatsPanel;
+class ThemesPanel;
 class frmNames;
 class frmWord1;
 class frmWord2;
@@ -100,6 +102,9 @@ public:
     SidePanel* sidePanel() const { return m_sidePanel; }
     AgainLabels* againLabels() const { return m_again; }
     StatsPanel* statsPanel() const { return m_statsPanel; }
+    HistoryPanel* historyPanel() const { return m_historyPanel; }
+    ThemesPanel* themesPanel() const { return m_themesPanel; }
+    ThemeBox* themeBox() const { return m_themeBox; }
     frmWord2* themeWindow() const { return m_themeWindow; }
     frmWord1* friendWindow() const { return m_friendWindow; }
     frmNames* namesWindow() const { return m_namesWindow; }
@@ -110,6 +115,9 @@ public:
     // The board's shortcut table, which acts before the control with the
     // focus; true when the key was one of the board's.
     bool windowShortcut(QKeyEvent* event);
+    // The board's keys as a list of a side panel offers them: the shortcuts,
+    // and Enter for JUGAR.
+    bool boardKey(QKeyEvent* event);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -154,6 +162,8 @@ private:
     SessionPanel* m_sessionPanel = nullptr;
     AgainLabels* m_again = nullptr;
     StatsPanel* m_statsPanel = nullptr;
+    HistoryPanel* m_historyPanel = nullptr;
+    ThemesPanel* m_themesPanel = nullptr;
     RoundedLabel* m_lblGame = nullptr;
     ThemeBox* m_themeBox = nullptr;
     QLabel* m_lblCont = nullptr;

@@ -3,9 +3,10 @@
 #include "windows/frmWord2/frmWord2.h"
 
 #include "look/Twips.h"
+#include "models/frmQlvs/QlvsModel.h"
 #include "platform/Fonts.h"
-#include "round/Round.h"
 #include "windows/QtColour.h"
+#include "windows/frmList/frmList.h"
 
 #include <QKeyEvent>
 #include <QLabel>
@@ -21,9 +22,9 @@ constexpr int kHeightTwips = 2160;
 
 } // namespace
 
-frmWord2::frmWord2(Round& round, const Palette& palette, std::function<void()> accepted,
-                   QWidget* board)
-    : QDialog(board), m_round(round), m_accepted(std::move(accepted)) {
+frmWord2::frmWord2(QlvsModel& model, std::function<void()> changed, QWidget* board)
+    : QDialog(board), m_model(model), m_changed(std::move(changed)) {
+    const Palette& palette = model.shared().palette;
     setWindowTitle(QStringLiteral("EL TEMA ES:"));
     setModal(true);
     setFixedSize(px(kWidthTwips), px(kHeightTwips));
@@ -46,6 +47,8 @@ frmWord2::frmWord2(Round& round, const Palette& palette, std::function<void()> a
     m_lblTheme->setFont(Fonts::display(16));
     m_lblTheme->setToolTip(QStringLiteral(" Tema "));
     m_lblTheme->setWordWrap(true);
+    m_lblTheme->setCursor(Qt::PointingHandCursor);
+    m_lblTheme->installEventFilter(this);
 
     // The phrase travels in a box the player never sees.
     m_txtWord = new QLineEdit(this);
@@ -53,13 +56,11 @@ frmWord2::frmWord2(Round& round, const Palette& palette, std::function<void()> a
     m_txtWord->setMaxLength(42);
     m_txtWord->setToolTip(QStringLiteral("  Frase a jugar. "));
 
-    // The themes list comes with the theme selection; until then the
-    // button is there but cannot be used.
     m_cmdOther = new QPushButton(QStringLiteral(" Más temas  "), this);
     m_cmdOther->setGeometry(px(360), px(1440), px(2160), px(480));
     m_cmdOther->setFont(Fonts::display(10));
-    m_cmdOther->setEnabled(false);
     m_cmdOther->setAutoDefault(false);
+    connect(m_cmdOther, &QPushButton::clicked, this, &frmWord2::openThemesList);
 
     m_cmdOk = new QPushButton(QStringLiteral(" Aceptar "), this);
     m_cmdOk->setGeometry(px(kWidthTwips - 2520), px(1440), px(2160), px(480));
@@ -67,10 +68,9 @@ frmWord2::frmWord2(Round& round, const Palette& palette, std::function<void()> a
     m_cmdOk->setDefault(true);
     connect(m_cmdOk, &QPushButton::clicked, this, &frmWord2::eOk);
 
-    m_round.BotonTema();
-    m_round.eOther();
-    m_lblTheme->setText(QString::fromStdString(m_round.word2ThemeLabel()));
-    m_txtWord->setText(QString::fromStdString(m_round.drawnPhrase()));
+    m_model.round().BotonTema();
+    m_model.round().eOther();
+    showDraw();
 
     if (board) {
         const QRect b = board->frameGeometry();
@@ -84,15 +84,78 @@ void frmWord2::keyPressEvent(QKeyEvent* event) {
         eOk();
         return;
     }
+    // The plus key beside Enter opens the themes list too ("=" on layouts
+    // where that key types it).
+    if (event->key() == Qt::Key_Plus || event->key() == Qt::Key_Equal) {
+        openThemesList();
+        return;
+    }
     QDialog::keyPressEvent(event);
 }
 
+void frmWord2::showDraw() {
+    m_lblTheme->setText(qs(m_model.round().word2ThemeLabel()));
+    m_txtWord->setText(qs(m_model.round().drawnPhrase()));
+}
+
 void frmWord2::eOk() {
-    m_round.eOk();
+    m_model.round().eOk();
+    m_finished = true;
     accept();
-    if (m_accepted) {
-        m_accepted();
+    if (m_changed) {
+        m_changed();
     }
+}
+
+void frmWord2::openThemesList() {
+    if (m_list) {
+        return;
+    }
+    m_list = new frmList(
+        m_model.shared(), m_model.round(), m_model.dialogs(),
+        [this](ListModel::Outcome outcome) {
+            switch (outcome) {
+            case ListModel::Outcome::Accepted:
+                showDraw();
+                break;
+            case ListModel::Outcome::Play:
+                showDraw();
+                eOk();
+                break;
+            case ListModel::Outcome::Tour:
+                // The tour laid its first phrase itself: this window's draw
+                // is not played.
+                m_finished = true;
+                reject();
+                if (m_changed) {
+                    m_changed();
+                }
+                break;
+            case ListModel::Outcome::Stay:
+                break;
+            }
+        },
+        this);
+    m_list->setAttribute(Qt::WA_DeleteOnClose);
+    // The phrase window steps aside while the list is open, and comes back
+    // when the list closes without playing.
+    connect(m_list, &QObject::destroyed, this, [this] {
+        m_list = nullptr;
+        if (result() == QDialog::Rejected && !m_finished) {
+            show();
+            activateWindow();
+        }
+    });
+    m_list->open();
+    hide();
+}
+
+bool frmWord2::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_lblTheme && event->type() == QEvent::MouseButtonRelease) {
+        openThemesList();
+        return true;
+    }
+    return QDialog::eventFilter(watched, event);
 }
 
 } // namespace quillora

@@ -12,31 +12,41 @@ class QPushButton;
 
 namespace quillora {
 
-class Round;
-struct Palette;
+class QlvsModel;
+class frmList;
 
 // "EL TEMA ES:": the player who plays alone sees the theme of the drawn
-// phrase, never the phrase itself, and accepts it.
+// phrase, never the phrase itself, and accepts it or picks other themes.
 class frmWord2 final : public QDialog {
 public:
-    frmWord2(Round& round, const Palette& palette, std::function<void()> accepted, QWidget* board);
+    // `changed` runs whenever the board has something new to show: a phrase
+    // laid, or a tour started from the themes list.
+    frmWord2(QlvsModel& model, std::function<void()> changed, QWidget* board);
 
     QLabel* themeLabel() const { return m_lblTheme; }
     QPushButton* acceptButton() const { return m_cmdOk; }
     QPushButton* moreThemesButton() const { return m_cmdOther; }
+    frmList* themesList() const { return m_list; }
+    // " Más temas " and a click on the theme.
+    void openThemesList();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void showDraw();
     void eOk();
 
-    Round& m_round;
-    std::function<void()> m_accepted;
+    QlvsModel& m_model;
+    std::function<void()> m_changed;
     QLabel* m_lblTheme = nullptr;
     QPushButton* m_cmdOther = nullptr;
     QPushButton* m_cmdOk = nullptr;
     QLineEdit* m_txtWord = nullptr;
+    frmList* m_list = nullptr;
+    // A phrase was laid from here, or a tour took over: the window is done.
+    bool m_finished = false;
 };
 
 } // namespace quillora

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/frmQlvs/HistoryPanel.h"
+
+#include "models/frmQlvs/QlvsModel.h"
+
+#include <QKeyEvent>
+#include <QListWidget>
+#include <QMenu>
+
+namespace quillora {
+
+namespace {
+// In the history Enter and Alt+Backspace belong to the list: a player
+// walking the entries must not start a game or leave the board by mistake.
+bool listOwns(const QKeyEvent& key) {
+    const bool enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    const bool back = key.key() == Qt::Key_Backspace && key.modifiers() & Qt::AltModifier;
+    return enter || back;
+}
+} // namespace
+
+HistoryPanel::HistoryPanel(QlvsModel& model, std::function<void()> changed,
+                           std::function<bool(QKeyEvent*)> boardKeys, QWidget* board)
+    : SideListPanel(
+          QStringLiteral("frmeHistory"), QStringLiteral("Historial de frases y palabras:"),
+          [&model, changed] {
+              model.eWinClose();
+              changed();
+          },
+          [boardKeys](QKeyEvent* key) { return !listOwns(*key) && boardKeys(key); }, board),
+      m_model(model), m_changed(std::move(changed)) {
+    list()->setSelectionMode(QAbstractItemView::SingleSelection);
+    connect(list(), &QListWidget::itemDoubleClicked, this, [this] {
+        m_model.history().askToClear();
+        m_changed();
+    });
+    list()->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(list(), &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
+        if (QMenu* menu = buildSearchMenu()) {
+            menu->popup(list()->viewport()->mapToGlobal(at));
+        }
+    });
+}
+
+void HistoryPanel::sync() {
+    present(m_model.side().showing(SidePanelModel::Content::History), m_model.history().entries());
+}
+
+QMenu* HistoryPanel::buildSearchMenu() {
+    const QList<QListWidgetItem*> selected = list()->selectedItems();
+    if (selected.isEmpty() || !m_model.history().chooseForLookUp(list()->row(selected.front()))) {
+        return nullptr;
+    }
+    auto* menu = new QMenu(QStringLiteral("Buscar"), this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    // The look-up itself opens the browser, which comes with the web pages;
+    // the entry stands in its place until then.
+    menu->addAction(QStringLiteral("¿Qué es eso?"))->setEnabled(false);
+    return menu;
+}
+
+} // namespace quillora
