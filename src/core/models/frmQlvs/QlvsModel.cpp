@@ -20,8 +20,8 @@ constexpr int kPlaying = 0;
 QlvsModel::QlvsModel(SharedState& shared, Dialogs& dialogs, Random& random, RoundEvents* events)
     : m_shared(shared), m_dialogs(dialogs), m_outer(events ? *events : m_noEvents),
       m_round(shared, dialogs, random, this), m_scoring(shared, dialogs),
-      m_sessions(shared, dialogs, random), m_panel(shared), m_stats(shared), m_history(shared, dialogs),
-      m_themesPanel(shared), m_random(random) {
+      m_sessions(shared, dialogs, random), m_panel(shared), m_stats(shared),
+      m_history(shared, dialogs), m_themesPanel(shared), m_random(random) {
     // Scoring calls these only when points count. A loss is counted before
     // its points, under the same trap, so a full counter earns the gift.
     m_scoring.onWinStatistics = [this](int points) {

@@ -56,8 +56,7 @@ frmList::frmList(SharedState& shared, Round& round, Dialogs& dialogs,
         }
         sync();
     });
-    connect(m_lstTemas, &QListWidget::itemDoubleClicked, this,
-            [this] { follow(m_model.eGoTo()); });
+    connect(m_lstTemas, &QListWidget::itemDoubleClicked, this, [this] { follow(m_model.eGoTo()); });
 
     m_cmdOk = new QPushButton(QStringLiteral(" Aceptar "), this);
     m_cmdOk->setGeometry(px(kWidthTwips - kMargin - 1800),
@@ -86,17 +85,17 @@ frmList::frmList(SharedState& shared, Round& round, Dialogs& dialogs,
 }
 
 void frmList::paint(const Palette& palette) {
-    setStyleSheet(QStringLiteral("QDialog { background: %1; }"
-                                 "QLabel { color: white; }"
-                                 "QListWidget { background: white; color: %2; border: none;"
-                                 " border-radius: 6px; }"
-                                 "QListWidget::item { padding: 1px 2px; }"
-                                 "QListWidget::item:selected { background: %2; color: white; }"
-                                 "QPushButton { background: %3; color: white; border: none;"
-                                 " border-radius: 6px; padding: 4px 10px; }"
-                                 "QPushButton:disabled { color: rgba(255,255,255,110); }")
-                      .arg(css(palette.gameColour), css(eColor(palette.gameColour)),
-                           css(palette.redLamp)));
+    setStyleSheet(
+        QStringLiteral("QDialog { background: %1; }"
+                       "QLabel { color: white; }"
+                       "QListWidget { background: white; color: %2; border: none;"
+                       " border-radius: 6px; }"
+                       "QListWidget::item { padding: 1px 2px; }"
+                       "QListWidget::item:selected { background: %2; color: white; }"
+                       "QPushButton { background: %3; color: white; border: none;"
+                       " border-radius: 6px; padding: 4px 10px; }"
+                       "QPushButton:disabled { color: rgba(255,255,255,110); }")
+            .arg(css(palette.gameColour), css(eColor(palette.gameColour)), css(palette.redLamp)));
 }
 
 void frmList::sync() {
@@ -116,11 +115,10 @@ QMenu* frmList::buildMenu() {
     menu->setAttribute(Qt::WA_DeleteOnClose);
     connect(menu->addAction(QStringLiteral("Tour temático")), &QAction::triggered, this,
             [this] { follow(m_model.tour()); });
-    connect(menu->addAction(QStringLiteral("Seleccionar todo")), &QAction::triggered, this,
-            [this] {
-                m_model.selectAll();
-                sync();
-            });
+    connect(menu->addAction(QStringLiteral("Seleccionar todo")), &QAction::triggered, this, [this] {
+        m_model.selectAll();
+        sync();
+    });
     connect(menu->addAction(QStringLiteral("Limpiar todo")), &QAction::triggered, this, [this] {
         m_model.clearAll();
         sync();

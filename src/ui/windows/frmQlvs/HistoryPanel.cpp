@@ -11,8 +11,8 @@
 namespace quillora {
 
 namespace {
-// In the history Enter and Alt+Backspace belong to the list: a player
-// walking the entries must not start a game or leave the board by mistake.
+// In the history Enter and Alt+Backspace stop at the list: a player walking
+// the entries must not start a game or leave the board by mistake.
 bool listOwns(const QKeyEvent& key) {
     const bool enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
     const bool back = key.key() == Qt::Key_Backspace && key.modifiers() & Qt::AltModifier;
@@ -28,7 +28,7 @@ HistoryPanel::HistoryPanel(QlvsModel& model, std::function<void()> changed,
               model.eWinClose();
               changed();
           },
-          [boardKeys](QKeyEvent* key) { return !listOwns(*key) && boardKeys(key); }, board),
+          [boardKeys](QKeyEvent* key) { return listOwns(*key) || boardKeys(key); }, board),
       m_model(model), m_changed(std::move(changed)) {
     list()->setSelectionMode(QAbstractItemView::SingleSelection);
     connect(list(), &QListWidget::itemDoubleClicked, this, [this] {

@@ -20,9 +20,8 @@ constexpr int kLeft = 120, kTop = 840, kWidth = 2760, kHeight = 3900;
 constexpr int kListTop = 600, kMargin = 120;
 } // namespace
 
-SideListPanel::SideListPanel(const QString& name, const QString& title,
-                             std::function<void()> close, std::function<bool(QKeyEvent*)> boardKeys,
-                             QWidget* board)
+SideListPanel::SideListPanel(const QString& name, const QString& title, std::function<void()> close,
+                             std::function<bool(QKeyEvent*)> boardKeys, QWidget* board)
     : QWidget(board), m_close(std::move(close)), m_boardKeys(std::move(boardKeys)) {
     setObjectName(name);
     setAttribute(Qt::WA_StyledBackground);
