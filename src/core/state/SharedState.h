@@ -53,6 +53,9 @@ struct SharedState {
     std::filesystem::path dataFolder;
     // Files whose last save failed and the player has been told so.
     std::set<std::string> saveFailuresTold;
+    // The player said No to copying an older installation's configuration:
+    // the menu does not ask again until the program ends.
+    bool importDeclined = false;
 
     // --- live values of the current user ----------------------------------------
     double normalPoints = 0;

@@ -122,9 +122,11 @@ bool isControl(unsigned char byte) {
     return byte < 0x20 && byte != '\t';
 }
 
-// The old system ended a text file with Ctrl+Z, sometimes followed by a line
-// break or padded with more of them. Such a tail is no text.
+// The old system's end-of-file mark, Ctrl+Z.
 constexpr char kEndOfFileMark = '\x1A';
+
+} // namespace
+
 void dropEndOfFileMark(std::string& bytes) {
     const std::size_t lastText = bytes.find_last_not_of("\x1A\r\n");
     const std::size_t tail = lastText == std::string::npos ? 0 : lastText + 1;
@@ -134,8 +136,6 @@ void dropEndOfFileMark(std::string& bytes) {
     }
 }
 
-// The lines of the bytes, undecoded; CR LF, LF or CR end a line, and the last
-// line needs no end.
 std::vector<std::string_view> splitLines(std::string_view bytes) {
     std::vector<std::string_view> lines;
     std::size_t start = 0;
@@ -152,8 +152,6 @@ std::vector<std::string_view> splitLines(std::string_view bytes) {
     }
     return lines;
 }
-
-} // namespace
 
 std::string fromWindows1252(std::string_view bytes) {
     std::u32string text;

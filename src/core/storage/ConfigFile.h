@@ -47,6 +47,13 @@ int leadingCount(std::string_view text);
 // gives the default colour.
 Rgb colourFromLine(std::string_view text, Rgb defaultColour);
 
+// The old system ended a text file with Ctrl+Z, sometimes followed by a line
+// break or padded with more of them. Such a tail is no text and is cut off.
+void dropEndOfFileMark(std::string& bytes);
+// The lines of the bytes, undecoded; CR LF, LF or CR end a line, and the last
+// line needs no end.
+std::vector<std::string_view> splitLines(std::string_view bytes);
+
 // What the game reads of a configuration file: its first twenty lines at
 // most, decoded. CR LF, LF or CR end a line, and an end-of-file mark (Ctrl+Z)
 // at the end, as files of the old system may carry, is not part of the text.

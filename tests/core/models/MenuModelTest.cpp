@@ -246,5 +246,28 @@ TEST_F(MenuModelTest, TheSessionsFileGivesTheTilesTheirColour) {
     EXPECT_EQ(shared.settings.nombre, "Ana");
 }
 
+// The constructor of the window loads the model before the menu shows: only
+// the separate call once it is on screen may ask.
+TEST_F(MenuModelTest, TheImportIsOfferedApartFromTheLoadAndColoursTheMenuAtOnce) {
+    shared.dataFolder = temp.path();
+    std::vector<std::string> lines(20, "0");
+    lines[17] = "255";
+    ASSERT_TRUE(writeConfigLines(temp.path() / "Quillora5.txt", lines));
+    load(false);
+    load(false);
+    EXPECT_TRUE(dialogs.shown.empty());
+    EXPECT_EQ(model.gameColour(), kDefaultBlue);
+
+    dialogs.answer({true});
+    model.iFound1();
+    ASSERT_EQ(dialogs.shown.size(), 1U);
+    EXPECT_EQ(model.tileColour(Spot::Friend), (Rgb{255, 0, 0})) << "not only at the next showing";
+
+    model.load();
+    model.iFound1();
+    EXPECT_EQ(dialogs.shown.size(), 1U);
+    EXPECT_EQ(model.gameColour(), (Rgb{255, 0, 0}));
+}
+
 } // namespace
 } // namespace quillora

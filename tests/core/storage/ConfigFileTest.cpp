@@ -4,13 +4,11 @@
 #include "state/SharedState.h"
 
 #include "support/Fakes.h"
+#include "support/RefusedWrites.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
-#include <sys/resource.h>
-
-#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -393,29 +391,6 @@ TEST_F(ConfigFileTest, SavingWritesThroughALinkAndKeepsTheFileMode) {
     EXPECT_TRUE(fs::is_symlink(file()));
     EXPECT_EQ(readConfigLines(folder / "nuevo.txt").value_or(fileLines())[14], "Beto");
 }
-
-// The disk refuses the save half-way, as a full disk would, whoever runs the
-// test: the limit on a file's size holds for root as well.
-class RefusedWrites {
-public:
-    RefusedWrites() {
-        ::getrlimit(RLIMIT_FSIZE, &m_old);
-        m_oldHandler = std::signal(SIGXFSZ, SIG_IGN);
-        rlimit small = m_old;
-        small.rlim_cur = 16;
-        ::setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~RefusedWrites() {
-        ::setrlimit(RLIMIT_FSIZE, &m_old);
-        std::signal(SIGXFSZ, m_oldHandler);
-    }
-    RefusedWrites(const RefusedWrites&) = delete;
-    RefusedWrites& operator=(const RefusedWrites&) = delete;
-
-private:
-    rlimit m_old{};
-    void (*m_oldHandler)(int) = nullptr;
-};
 
 TEST_F(ConfigFileTest, AFailedSaveKeepsTheOldFileAndTellsThePlayerOnce) {
     write(fileLines());

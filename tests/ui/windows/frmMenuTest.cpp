@@ -4,14 +4,20 @@
 
 #include "look/Twips.h"
 #include "state/SharedState.h"
+#include "storage/ConfigFile.h"
 #include "support/Fakes.h"
+#include "support/TempFolder.h"
+#include "windows/QtColour.h"
 
+#include <QCoreApplication>
 #include <QLabel>
 #include <QTest>
 
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace quillora {
 namespace {
@@ -20,6 +26,10 @@ using Spot = MenuModel::Spot;
 
 class MenuWindow : public ::testing::Test {
 protected:
+    MenuWindow() {
+        shared.dataFolder = folder.path();
+        shared.currentSession().Archivo = shared.mainConfigPath().string();
+    }
     void open(bool locked) {
         shared.locked = locked;
         window = std::make_unique<frmMenu>(shared, dialogs);
@@ -31,6 +41,7 @@ protected:
     }
     QPoint centreOf(Spot spot) const { return window->spotRect(spot).center(); }
 
+    TempFolder folder{"quillora-menu-window"};
     SharedState shared;
     ScriptedDialogs dialogs;
     std::unique_ptr<frmMenu> window;
@@ -85,6 +96,35 @@ TEST_F(MenuWindow, TheLockCoversEveryTileButTheOneThatContinues) {
     QTest::mouseClick(window.get(), Qt::LeftButton, {}, centreOf(Spot::Solo));
     EXPECT_EQ(played, 1);
     EXPECT_FALSE(shared.multiplayer) << "a locked session goes on alone";
+}
+
+TEST_F(MenuWindow, TheImportIsAskedOnceOverTheShownMenu) {
+    std::vector<std::string> lines(20, "0");
+    lines[17] = "255";
+    ASSERT_TRUE(writeConfigLines(folder.path() / "Quillora5.txt", lines));
+
+    // A menu gone again before the question's turn asks nothing.
+    window = std::make_unique<frmMenu>(shared, dialogs);
+    window->show();
+    window->hide();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(dialogs.shown.empty());
+
+    bool menuBehind = false;
+    dialogs.onAsk = [this, &menuBehind] { menuBehind = window && window->isVisible(); };
+    dialogs.answer({true});
+    open(false);
+    EXPECT_TRUE(dialogs.shown.empty()) << "not before the menu is on screen";
+    QCoreApplication::processEvents();
+    ASSERT_EQ(dialogs.shown.size(), 1U);
+    EXPECT_TRUE(menuBehind);
+    EXPECT_TRUE(window->legendLabel()->styleSheet().contains(css(Rgb{255, 0, 0})))
+        << "the copied colour shows at once";
+
+    window->hide();
+    window->show();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(dialogs.shown.size(), 1U);
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include "ports/Dialogs.h"
 #include "state/SharedState.h"
 #include "storage/ConfigFile.h"
+#include "storage/ConfigImport.h"
 
 namespace quillora {
 
@@ -30,6 +31,14 @@ void MenuModel::load() {
     m_legendLeft = 0;
     m_legendWidth = kWidthTwips;
     m_legendOpening = false;
+}
+
+void MenuModel::iFound1() {
+    // The copied file brings its own game colour, shown at once when it is
+    // the current session's file.
+    if (quillora::iFound1(m_shared, m_dialogs) == ImportOutcome::Copied) {
+        eOpen();
+    }
 }
 
 // Only the game colour is wanted here; the board reads the whole file again

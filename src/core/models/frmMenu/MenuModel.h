@@ -48,6 +48,9 @@ public:
     // Every showing: the game colour from the session's file, the tiles'
     // colours, the lock, and the welcome legend.
     void load();
+    // The offer to copy an older installation's configuration. The window
+    // makes it once it is on screen, so the question stands over the menu.
+    void iFound1();
 
     // --- the mouse ---------------------------------------------------------------
     void hover(Spot spot);

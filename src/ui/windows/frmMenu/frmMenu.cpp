@@ -444,6 +444,19 @@ void frmMenu::showEvent(QShowEvent* event) {
         sync();
         activateWindow();
         setFocus();
+        // The import question waits for the menu to be on screen, so its box
+        // stands over the menu rather than over nothing. A menu shown again
+        // before the first wait is over still asks only once.
+        if (!m_offerPending) {
+            m_offerPending = true;
+            QTimer::singleShot(0, this, [this] {
+                m_offerPending = false;
+                if (isVisible()) {
+                    m_model.iFound1();
+                    sync();
+                }
+            });
+        }
     }
 }
 

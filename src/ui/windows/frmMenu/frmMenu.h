@@ -68,6 +68,7 @@ private:
     QWidget* m_frmeLock = nullptr;
     QTimer* m_tmrLeyend = nullptr;
     QTimer* m_tmrIn = nullptr;
+    bool m_offerPending = false;
 };
 
 } // namespace quillora
