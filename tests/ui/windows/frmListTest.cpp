@@ -122,6 +122,23 @@ TEST_F(ThemeLists, HoldingTheMouseOnTheListPlaysAndAShortPressOnlySelects) {
     EXPECT_TRUE(shared.current().selectedThemes[3]) << "the short press selected too";
 }
 
+TEST_F(ThemeLists, ThePlusKeyOpensTheListWhereverTheFocusIsInThePhraseWindow) {
+    frmWord2* words = openPhraseWindow();
+    ASSERT_NE(words, nullptr);
+    int tried = 0;
+    for (QWidget* control : words->findChildren<QWidget*>()) {
+        if (!(control->focusPolicy() & Qt::TabFocus)) {
+            continue;
+        }
+        ++tried;
+        QTest::keyClick(control, Qt::Key_Plus);
+        ASSERT_NE(words->themesList(), nullptr) << control->metaObject()->className();
+        words->themesList()->close();
+        settle();
+    }
+    EXPECT_GE(tried, 2) << "both buttons take the focus";
+}
+
 TEST_F(ThemeLists, ATourStartedFromTheListPlaysTheFirstThemeAtOnce) {
     frmList* list = openList();
     ASSERT_NE(list, nullptr);

@@ -55,6 +55,9 @@ frmWord2::frmWord2(QlvsModel& model, std::function<void()> changed, QWidget* boa
     m_txtWord->setGeometry(-px(6000), 0, px(3000), px(300));
     m_txtWord->setMaxLength(42);
     m_txtWord->setToolTip(QStringLiteral("  Frase a jugar. "));
+    // Out of reach of the keyboard too: the keys belong to the window, and
+    // the player must not land in the phrase by tabbing.
+    m_txtWord->setFocusPolicy(Qt::NoFocus);
 
     m_cmdOther = new QPushButton(QStringLiteral(" Más temas  "), this);
     m_cmdOther->setGeometry(px(360), px(1440), px(2160), px(480));
