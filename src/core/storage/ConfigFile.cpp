@@ -244,8 +244,10 @@ int leadingCount(std::string_view text) {
     return static_cast<int>(std::clamp(value, -32768.0, 32767.0));
 }
 
-std::optional<ConfigText> readConfigText(const fs::path& path) {
+std::optional<std::string> readConfigBytes(const fs::path& path) {
     std::error_code error;
+    // A folder or a device is no configuration, and opening a pipe would
+    // hold the game up until someone wrote into it.
     if (!fs::is_regular_file(path, error)) {
         return std::nullopt;
     }
@@ -261,6 +263,15 @@ std::optional<ConfigText> readConfigText(const fs::path& path) {
         return std::nullopt;
     }
     bytes.resize(static_cast<std::size_t>(in.gcount()));
+    return bytes;
+}
+
+std::optional<ConfigText> readConfigText(const fs::path& path) {
+    auto read = readConfigBytes(path);
+    if (!read) {
+        return std::nullopt;
+    }
+    std::string& bytes = *read;
     ConfigText text;
     text.whole = bytes.size() <= kMaxConfigBytes;
     if (text.whole) {

@@ -69,6 +69,10 @@ struct ConfigText {
 // control character in its lines (a picture, a program...) or is too large
 // to be one and does not even begin with twenty lines.
 std::optional<ConfigText> readConfigText(const std::filesystem::path& path);
+// The file's first kMaxConfigBytes + 1 bytes, as they are: one byte past the
+// bound tells a larger file. Nothing for a file that is not a regular file
+// or cannot be read.
+std::optional<std::string> readConfigBytes(const std::filesystem::path& path);
 std::optional<std::vector<std::string>> readConfigLines(const std::filesystem::path& path);
 // Writes the lines, each ended by CR LF, replacing the file in one step: a
 // crash leaves either the old file or the new one, never half of either.

@@ -8,7 +8,6 @@
 #include "storage/FileReplace.h"
 
 #include <filesystem>
-#include <fstream>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -31,25 +30,8 @@ constexpr const char* kCopyFailed =
 // The old file's bytes, or nothing when it is no file the game could have
 // written: then there is nothing to offer.
 std::optional<std::string> readOldFile(const fs::path& path) {
-    std::error_code error;
-    // A folder or a device of that name is no configuration, and opening a
-    // pipe would hold the menu up until someone wrote into it.
-    if (!fs::is_regular_file(path, error)) {
-        return std::nullopt;
-    }
-    std::ifstream in(path, std::ios::binary);
-    if (!in) {
-        return std::nullopt;
-    }
-    // One byte past the bound tells a larger file without trusting a size
-    // taken before the read.
-    std::string bytes(kMaxConfigBytes + 1, '\0');
-    in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    if (in.bad()) {
-        return std::nullopt;
-    }
-    bytes.resize(static_cast<std::size_t>(in.gcount()));
-    if (bytes.size() > kMaxConfigBytes) {
+    auto bytes = readConfigBytes(path);
+    if (bytes && bytes->size() > kMaxConfigBytes) {
         return std::nullopt;
     }
     return bytes;

@@ -5,6 +5,7 @@
 #include "storage/ConfigFile.h"
 #include "storage/Sessions.h"
 #include "support/BoardModel.h"
+#include "support/Draws.h"
 #include "words/ThemeCatalogue.h"
 
 #include <gtest/gtest.h>
@@ -15,14 +16,6 @@ namespace quillora {
 namespace {
 
 using Outcome = ListModel::Outcome;
-
-// Fractions that draw phrase `i` or theme `i`.
-double phrase(int i) {
-    return (i + 0.5) / 20.0;
-}
-double theme(int i) {
-    return (i + 0.5) / 50.0;
-}
 
 class ListModelTest : public BoardModel {
 protected:

@@ -6,6 +6,7 @@
 #include "words/Text.h"
 #include "words/ThemeCatalogue.h"
 
+#include "support/Draws.h"
 #include "support/Fakes.h"
 
 #include <gtest/gtest.h>
@@ -365,11 +366,6 @@ TEST_F(RoundTest, StatusDotsCycleOnlyWhilePlaying) {
 
 class RoundStartTest : public RoundTest {
 protected:
-    // A fraction that draws index `i` from a range of 40 (phrases) or 100
-    // (themes): Int(range * r / 2) == i.
-    static double phrase(int i) { return (i + 0.5) / 20.0; }
-    static double theme(int i) { return (i + 0.5) / 50.0; }
-
     // Plays through the theme window: opening draws, accepting lays.
     void playThroughWindow() {
         ASSERT_EQ(round.eGame(), GameStart::ThemeWindow);

@@ -3,6 +3,7 @@
 #include "windows/frmList/frmList.h"
 #include "look/Twips.h"
 #include "support/BoardFixture.h"
+#include "support/Draws.h"
 #include "windows/frmQlvs/HistoryPanel.h"
 #include "windows/frmQlvs/ThemeBox.h"
 #include "windows/frmQlvs/ThemesPanel.h"
@@ -13,13 +14,6 @@
 
 namespace quillora {
 namespace {
-
-double phrase(int i) {
-    return (i + 0.5) / 20.0;
-}
-double theme(int i) {
-    return (i + 0.5) / 50.0;
-}
 
 // The themes list from the phrase window, and the lists beside the board.
 class ThemeLists : public BoardWindow {
