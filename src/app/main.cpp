@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "look/Twips.h"
 #include "platform/AlsaSoundPlayer.h"
 #include "platform/Fonts.h"
 #include "platform/QtDialogs.h"
@@ -8,6 +9,7 @@
 #include "state/SharedState.h"
 #include "windows/frmInicio/frmInicio.h"
 #include "windows/frmMenu/frmMenu.h"
+#include "windows/frmOptions/frmOptions.h"
 #include "windows/frmQlvs/frmQlvs.h"
 
 #include <QApplication>
@@ -58,9 +60,7 @@ private:
     // The main menu: centred at start, where the board was when the board
     // goes back to it.
     void openMenu(std::optional<QPoint> boardCentre) {
-        auto menu = std::make_unique<quillora::frmMenu>(m_shared, m_dialogs);
-        menu->onPlay = [this] { later([this] { openBoard(); }); };
-        menu->onQuit = [] { QCoreApplication::quit(); };
+        auto menu = newMenu();
         if (boardCentre) {
             // A window not shown yet has no frame: the one it replaces had the
             // same, so trips between the two leave both where they were.
@@ -69,6 +69,44 @@ private:
         } else {
             centre(*menu);
         }
+        menu->show();
+        replace(std::move(menu));
+    }
+
+    std::unique_ptr<quillora::frmMenu> newMenu() {
+        auto menu = std::make_unique<quillora::frmMenu>(m_shared, m_dialogs);
+        menu->onPlay = [this] { later([this] { openBoard(); }); };
+        menu->onQuit = [] { QCoreApplication::quit(); };
+        menu->onOptions = [this] { later([this] { openOptions(); }); };
+        return menu;
+    }
+
+    // The options open where the menu has swollen to their size.
+    void openOptions() {
+        auto options = std::make_unique<quillora::frmOptions>(m_shared, m_dialogs);
+        options->onMenu = [this, window = options.get()] {
+            const QPoint at = window->pos();
+            const int width = window->width() * quillora::kTwipsPerPixel;
+            const QString caption = window->windowTitle();
+            later([this, at, width, caption] { openMenuInPlaceOf(at, width, caption); });
+        };
+        if (m_window) {
+            options->move(m_window->pos());
+        } else {
+            centre(*options);
+        }
+        options->show();
+        replace(std::move(options));
+    }
+
+    // Back from the options, the menu takes their window's place, width and
+    // caption, at a height of its own.
+    void openMenuInPlaceOf(QPoint at, int width, const QString& caption) {
+        auto menu = newMenu();
+        menu->model().sizeWindow(width, quillora::OptionsModel::kMenuHeightTwips);
+        menu->sync();
+        menu->setWindowTitle(caption);
+        menu->move(at);
         menu->show();
         replace(std::move(menu));
     }

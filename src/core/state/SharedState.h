@@ -33,6 +33,9 @@ struct SessionSlot {
     std::string previousThemeName;
     // "Turno libre".
     bool freeTurn = false;
+    // The page of the options window the user looked at last, shown first
+    // when the window opens again: 0 PERSONAL, 1 VISUAL, 2 FUNCIONAL, 3 LIBRE!.
+    int optionsPage = 0;
     // Kept in memory only: a restart of the board or a change of user leaves
     // them, the end of the program forgets them.
     UserStats stats;

@@ -465,6 +465,10 @@ bool ConfSave(SharedState& shared, Dialogs& dialogs) {
                       writeConfigLines(shared.currentSession().Archivo, lines));
 }
 
+std::vector<std::string> settingsLines(const Settings& settings) {
+    return linesOf(settings, settings.fraseAutomatica);
+}
+
 bool NewConfFile(const fs::path& path, const std::string& userName, Random& random) {
     // A default Settings is a new user's: only the theme and the name differ.
     Settings fresh;

@@ -16,6 +16,7 @@ namespace quillora {
 class Dialogs;
 class Random;
 struct SharedState;
+struct Settings;
 
 inline constexpr int kConfigLines = 20;
 // Twenty short lines never come near this; it is as far as the game reads
@@ -101,6 +102,9 @@ bool ConfSave(SharedState& shared, Dialogs& dialogs);
 // Hands back `saved`, telling the player first when a save of the file at
 // `path` failed and they have not been told of it yet.
 bool reportSave(SharedState& shared, Dialogs& dialogs, const std::string& path, bool saved);
+// The twenty lines a set of options is written as, line 9 as the option
+// stands.
+std::vector<std::string> settingsLines(const Settings& settings);
 // A fresh file for a new user, with a random theme.
 bool NewConfFile(const std::filesystem::path& path, const std::string& userName, Random& random);
 

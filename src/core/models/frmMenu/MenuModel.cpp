@@ -231,4 +231,9 @@ void MenuModel::placeWindow(int left, int top) {
     m_top = top;
 }
 
+void MenuModel::sizeWindow(int width, int height) {
+    m_width = width;
+    m_height = height;
+}
+
 } // namespace quillora

@@ -83,6 +83,9 @@ public:
     // The window's place and size in twips. The widget reports where the
     // window was moved; the opening towards the options changes all four.
     void placeWindow(int left, int top);
+    // The menu that comes back from the options takes their window's width
+    // and a height of its own.
+    void sizeWindow(int width, int height);
     int windowLeft() const { return m_left; }
     int windowTop() const { return m_top; }
     int windowWidth() const { return m_width; }

@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "models/frmOptions/OptionsModel.h"
+
+#include <QWidget>
+
+#include <array>
+#include <functional>
+#include <map>
+
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QPushButton;
+class QTimer;
+
+namespace quillora {
+
+class CheckPicture;
+class ColourEditor;
+class LibrePage;
+
+// "Configuración:", the options window. A list of four pages on its left,
+// the page chosen beside it, and " &Menú" and "G&uardar" below the list.
+class frmOptions final : public QWidget {
+public:
+    using Page = OptionsModel::Page;
+
+    frmOptions(SharedState& shared, Dialogs& dialogs, QWidget* parent = nullptr);
+    ~frmOptions() override;
+
+    OptionsModel& model() { return m_model; }
+
+    // tmrOut has ticked: the menu is to take this window's place, and this
+    // window is done.
+    std::function<void()> onMenu;
+
+    // Brings every control in step with the model (LoadColor among them).
+    void sync();
+
+    // For the tests.
+    QListWidget* pageList() const { return m_lstPages; }
+    QWidget* page(Page page) const { return m_pages[static_cast<std::size_t>(page)]; }
+    CheckPicture* checkBox(int index) const;
+    // The text fields by their entry number: 14, 18, 19 and 20.
+    QLineEdit* field(int index) const;
+    QPushButton* menuButton() const { return m_cmdMenu; }
+    QPushButton* saveButton() const { return m_cmdSave; }
+    QPushButton* editorButton() const { return m_cmdColours; }
+    ColourEditor* colourEditor() const { return m_colourEditor; }
+    LibrePage* librePage() const { return m_librePage; }
+    QTimer* outTimer() const { return m_tmrOut; }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void buildPages();
+    void buildEntry(const OptionsModel::Entry& entry, QWidget* page, int row);
+    void follow(const OptionsModel::KeyAction& action);
+    void focusField(OptionsModel::Field field);
+    void fieldEdited(int index, const QString& text);
+    void loadColor();
+
+    OptionsModel m_model;
+    QListWidget* m_lstPages = nullptr;
+    std::array<QWidget*, OptionsModel::kPages> m_pages{};
+    std::map<int, CheckPicture*> m_checks;
+    std::map<int, QLineEdit*> m_fields;
+    std::map<int, QLabel*> m_captions;
+    QPushButton* m_cmdColours = nullptr;
+    ColourEditor* m_colourEditor = nullptr;
+    LibrePage* m_librePage = nullptr;
+    QPushButton* m_cmdMenu = nullptr;
+    QPushButton* m_cmdSave = nullptr;
+    QTimer* m_tmrOut = nullptr;
+    // The colours last painted, so styles are set again only when they change.
+    Rgb m_paintedGame{-1, -1, -1};
+    Rgb m_paintedCommand{-1, -1, -1};
+};
+
+} // namespace quillora

@@ -1,0 +1,202 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/frmOptions/frmOptions.h"
+
+#include "models/frmInicio/InicioModel.h"
+#include "state/SharedState.h"
+#include "storage/ConfigFile.h"
+#include "support/Fakes.h"
+#include "support/TempFolder.h"
+#include "windows/QtColour.h"
+#include "windows/frmOptions/CheckPicture.h"
+#include "windows/frmOptions/ColourEditor.h"
+#include "windows/frmOptions/LibrePage.h"
+
+#include <QAccessible>
+#include <QCoreApplication>
+#include <QImage>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSlider>
+#include <QSpinBox>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace quillora {
+namespace {
+
+using Page = OptionsModel::Page;
+using Channel = OptionsModel::Channel;
+
+class OptionsWindow : public ::testing::Test {
+protected:
+    OptionsWindow() {
+        shared.dataFolder = folder.path();
+        InicioLoad(shared);
+        std::vector<std::string> lines{"",  "",  "0", "0", "0",   "0", "0", "1",        "0", "0",
+                                       "7", "1", "0", "0", "Ana", "0", "0", "15759390", "0", "0"};
+        EXPECT_TRUE(writeConfigLines(file(), lines));
+        clearForBoardLoad(shared);
+        DataLoad(shared, random);
+        ConfLoad(shared);
+    }
+    void open() {
+        window = std::make_unique<frmOptions>(shared, dialogs);
+        window->onMenu = [this] { ++menus; };
+        window->show();
+        window->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        window->pageList()->setFocus();
+    }
+    std::string file() const { return shared.currentSession().Archivo; }
+    std::string savedLine(int line) const {
+        const auto lines = readConfigLines(file()).value_or(std::vector<std::string>{});
+        return lines.size() >= static_cast<std::size_t>(line) ? lines[line - 1] : "<missing>";
+    }
+    void showPage(Page page) { window->pageList()->setCurrentRow(static_cast<int>(page)); }
+
+    TempFolder folder{"quillora-options-window"};
+    SharedState shared;
+    ScriptedDialogs dialogs;
+    QueuedRandom random;
+    std::unique_ptr<frmOptions> window;
+    int menus = 0;
+};
+
+TEST_F(OptionsWindow, AClickOnACheckBoxReachesTheRulesAndRepaintsThePicture) {
+    open();
+    CheckPicture* survival = window->checkBox(1);
+    CheckPicture* points = window->checkBox(0);
+    ASSERT_TRUE(survival->isVisible());
+    EXPECT_TRUE(points->ticked());
+    QTest::mouseClick(points, Qt::LeftButton);
+    EXPECT_FALSE(window->model().box(0));
+    const QImage empty = survival->grab().toImage();
+
+    QTest::mouseClick(survival, Qt::LeftButton);
+    EXPECT_TRUE(window->model().box(1));
+    EXPECT_TRUE(survival->ticked());
+    EXPECT_TRUE(points->ticked()) << "survival needs the points";
+    EXPECT_NE(survival->grab().toImage(), empty) << "the ticked picture shows";
+
+    // A screen reader hears a check box by its caption, and whether it is on.
+    QAccessibleInterface* heard = QAccessible::queryAccessibleInterface(survival);
+    ASSERT_NE(heard, nullptr);
+    EXPECT_EQ(heard->role(), QAccessible::CheckBox);
+    EXPECT_EQ(heard->text(QAccessible::Name), "Modo supervivencia");
+    EXPECT_TRUE(heard->state().checked);
+}
+
+TEST_F(OptionsWindow, ARefusedClickLeavesThePictureAsItWas) {
+    open();
+    showPage(Page::Visual);
+    ASSERT_EQ(window->field(OptionsModel::kStyleField)->text(), "0");
+    window->field(OptionsModel::kStyleField)->setFocus();
+    QTest::keyClick(window->field(OptionsModel::kStyleField), Qt::Key_Backspace);
+    QTest::keyClick(window->field(OptionsModel::kStyleField), Qt::Key_1);
+    QTest::mouseClick(window->checkBox(4), Qt::LeftButton);
+    EXPECT_FALSE(window->checkBox(4)->ticked());
+    ASSERT_EQ(dialogs.shown.size(), 1U);
+    EXPECT_TRUE(window->page(Page::Visual)->isVisible());
+}
+
+TEST_F(OptionsWindow, SaveWritesTheFileAndMenuHandsOver) {
+    open();
+    showPage(Page::Funcional);
+    QTest::mouseClick(window->checkBox(9), Qt::LeftButton);
+    QTest::mouseClick(window->saveButton(), Qt::LeftButton);
+    EXPECT_EQ(savedLine(16), "1");
+    EXPECT_TRUE(shared.settings.usarEnciclopedia);
+
+    QTest::mouseClick(window->menuButton(), Qt::LeftButton);
+    EXPECT_EQ(menus, 0) << "tmrOut first";
+    ASSERT_TRUE(window->outTimer()->isActive());
+    window->outTimer()->setInterval(0);
+    window->outTimer()->start();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(menus, 1);
+    for (Page page : {Page::Personal, Page::Visual, Page::Funcional, Page::Libre}) {
+        EXPECT_FALSE(window->page(page)->isVisible());
+    }
+}
+
+TEST_F(OptionsWindow, KeysOnThePageListFollowTheModel) {
+    open();
+    QTest::keyClick(window->pageList(), Qt::Key_S);
+    EXPECT_TRUE(window->checkBox(1)->ticked());
+    QTest::keyClick(window->pageList(), Qt::Key_N);
+    QLineEdit* name = window->field(OptionsModel::kNameField);
+    EXPECT_TRUE(name->hasFocus());
+    EXPECT_EQ(name->selectedText(), "Ana");
+    EXPECT_EQ(window->pageList()->currentRow(), 0) << "typed keys search no page";
+
+    window->pageList()->setFocus();
+    QTest::keyClick(window->pageList(), Qt::Key_Down);
+    EXPECT_TRUE(window->page(Page::Visual)->isVisible());
+    QTest::keyClick(window->pageList(), Qt::Key_G);
+    EXPECT_TRUE(window->colourEditor()->isVisible());
+    EXPECT_TRUE(window->colourEditor()->numberBox(Channel::Green)->hasFocus());
+    EXPECT_EQ(window->editorButton()->text(), "x");
+
+    window->pageList()->setFocus();
+    QTest::keyClick(window->pageList(), Qt::Key_U);
+    EXPECT_EQ(savedLine(13), "1");
+}
+
+TEST_F(OptionsWindow, TheColourRepaintsTheWindow) {
+    open();
+    showPage(Page::Visual);
+    QLineEdit* code = window->field(OptionsModel::kColourField);
+    code->setFocus();
+    code->selectAll();
+    QTest::keyClicks(code, "255");
+    EXPECT_EQ(shared.palette.gameColour, (Rgb{255, 0, 0}));
+    EXPECT_TRUE(code->styleSheet().contains(css(Rgb{255, 0, 0})));
+    EXPECT_TRUE(window->menuButton()->styleSheet().contains(css(Rgb{255, 0, 0})));
+
+    QTest::mouseClick(window->editorButton(), Qt::LeftButton);
+    ColourEditor* editor = window->colourEditor();
+    ASSERT_TRUE(editor->isVisible());
+    // The editor still holds the colour the page opened with.
+    EXPECT_EQ(editor->numberBox(Channel::Red)->value(), 30);
+    editor->slider(Channel::Blue)->setValue(200);
+    EXPECT_EQ(editor->numberBox(Channel::Blue)->value(), 200);
+    const Rgb mixed{30, 120, 200};
+    EXPECT_EQ(editor->codeBox()->text(), QString::number(mixed.packed()));
+    QTest::mouseClick(editor->applyButton(), Qt::LeftButton);
+    EXPECT_EQ(code->text(), QString::number(mixed.packed()));
+    EXPECT_TRUE(window->menuButton()->styleSheet().contains(css(mixed)));
+
+    QTest::mouseClick(editor->defaultButton(), Qt::LeftButton);
+    EXPECT_EQ(editor->slider(Channel::Red)->value(), 30);
+    EXPECT_EQ(code->text(), "15759390");
+
+    // The red lamp on the page that writes raw lines.
+    showPage(Page::Libre);
+    EXPECT_TRUE(window->saveButton()->styleSheet().contains(css(kRedLamp)));
+}
+
+TEST_F(OptionsWindow, TheFreePageEditsTheSelectedLine) {
+    open();
+    showPage(Page::Libre);
+    LibrePage* libre = window->librePage();
+    libre->labelList()->setCurrentRow(12);
+    EXPECT_EQ(libre->valueList()->currentRow(), 12);
+    EXPECT_EQ(libre->valueBox()->text(), "0");
+    libre->valueBox()->selectAll();
+    QTest::keyClicks(libre->valueBox(), "2");
+    EXPECT_EQ(libre->valueList()->item(12)->text(), "2");
+    QTest::mouseClick(window->saveButton(), Qt::LeftButton);
+    EXPECT_EQ(savedLine(13), "2");
+    EXPECT_TRUE(window->checkBox(1)->ticked());
+}
+
+} // namespace
+} // namespace quillora
