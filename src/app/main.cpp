@@ -23,6 +23,7 @@
 
 #include <QTimer>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -103,7 +104,10 @@ private:
     // caption, at a height of its own.
     void openMenuInPlaceOf(QPoint at, int width, const QString& caption) {
         auto menu = newMenu();
-        menu->model().sizeWindow(width, quillora::OptionsModel::kMenuHeightTwips);
+        // Never shorter than the menu's own tiles and legend, which would
+        // otherwise be cut off at the foot.
+        menu->model().sizeWindow(width, std::max(quillora::OptionsModel::kMenuHeightTwips,
+                                                 quillora::MenuModel::kHeightTwips));
         menu->sync();
         menu->setWindowTitle(caption);
         menu->move(at);
