@@ -70,6 +70,8 @@ protected:
     // lists it on Qt's own thread, which the test waits for.
     void goTo(frmDiseno* design, const fs::path& folder) {
         QSignalSpy listed(design->folderViews()->fileModel(), &QFileSystemModel::directoryLoaded);
+        QSignalSpy folders(design->folderViews()->folderModel(),
+                           &QFileSystemModel::directoryLoaded);
         design->addressBox()->setFocus();
         design->addressBox()->selectAll();
         QTest::keyClicks(design->addressBox(), QString::fromStdString(folder.string()));
@@ -79,7 +81,23 @@ protected:
         EXPECT_FALSE(design->goButton()->showsGo());
         EXPECT_EQ(design->goButton()->toolTip(), QStringLiteral(" Actualizar Dirección "));
         ASSERT_TRUE(listed.count() > 0 || listed.wait(10000)) << "the folder was never listed";
+        ASSERT_TRUE(folders.count() > 0 || folders.wait(10000)) << "its folders were never listed";
         QCoreApplication::processEvents();
+    }
+    // Dir1's entry of that name, opened with Enter as the player would.
+    void open(frmDiseno* design, const QString& name) {
+        QListView* list = design->folderList();
+        QFileSystemModel* folders = design->folderViews()->folderModel();
+        for (int row = 0; row < folders->rowCount(list->rootIndex()); ++row) {
+            const QModelIndex entry = folders->index(row, 0, list->rootIndex());
+            if (folders->fileName(entry) == name) {
+                list->setFocus();
+                list->setCurrentIndex(entry);
+                QTest::keyClick(list, Qt::Key_Return);
+                return;
+            }
+        }
+        ADD_FAILURE() << "no " << name.toStdString() << " in the folder list";
     }
     // A click on a file of File1, as the player picks it.
     void pick(frmDiseno* design, const fs::path& file) {
@@ -94,8 +112,10 @@ protected:
     QColor boardPixel() const {
         return window->backgroundPicture().pixmap().toImage().pixelColor(0, 0);
     }
+    // The colour the player sees under the last file of File1.
     QColor listColour(frmDiseno* design) const {
-        return design->fileList()->palette().color(QPalette::Base);
+        QWidget* list = design->fileList()->viewport();
+        return list->grab().toImage().pixelColor(list->width() / 2, list->height() - 4);
     }
     std::string storedLine(int n) const {
         const auto lines = readConfigLines(shared.currentSession().Archivo);
@@ -170,6 +190,27 @@ TEST_F(DesignWindow, APictureChosenInTheListShowsOnTheBoardAndIsSaved) {
     EXPECT_EQ(shared.settings.fondo, blue.string());
     EXPECT_TRUE(window->backgroundPicture().shown()) << "the saved picture stays";
     EXPECT_TRUE(dialogs.shown.empty());
+}
+
+TEST_F(DesignWindow, TheFolderListOpensAFolderAndGoesBackUp) {
+    fs::create_directories(pictures / "viaje");
+    const fs::path beach = pictures / "viaje" / "playa.png";
+    ASSERT_TRUE(
+        QImage(QSize(8, 8), QImage::Format_RGB32).save(QString::fromStdString(beach.string())));
+    frmDiseno* design = openFromMenu();
+    ASSERT_NE(design, nullptr);
+    goTo(design, pictures);
+
+    QSignalSpy listed(design->folderViews()->fileModel(), &QFileSystemModel::directoryLoaded);
+    open(design, QStringLiteral("viaje"));
+    EXPECT_EQ(design->addressBox()->text(), QString::fromStdString((pictures / "viaje").string()));
+    EXPECT_EQ(design->model().folder(), (pictures / "viaje").string());
+    ASSERT_TRUE(listed.count() > 0 || listed.wait(10000));
+    pick(design, beach);
+    EXPECT_TRUE(window->backgroundPicture().shown());
+
+    open(design, QStringLiteral(".."));
+    EXPECT_EQ(design->model().listFolder(), pictures.string());
 }
 
 TEST_F(DesignWindow, ADamagedPictureTurnsTheListRedAndLeavesTheBoardAsItWas) {

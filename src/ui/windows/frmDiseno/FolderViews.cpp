@@ -5,10 +5,9 @@
 #include "look/Colour.h"
 #include "windows/QtColour.h"
 
+#include <QDir>
 #include <QFileSystemModel>
-#include <QHeaderView>
 #include <QListView>
-#include <QTreeView>
 
 namespace quillora {
 
@@ -16,25 +15,28 @@ namespace {
 
 constexpr Rgb kRefusedList{255, 128, 128};
 
+// Rows of one height laid out in batches keep a folder of thousands of
+// entries from holding the window up while it fills.
+QListView* makeList(QWidget* window, const QString& tooltip) {
+    auto* list = new QListView(window);
+    list->setToolTip(tooltip);
+    list->setUniformItemSizes(true);
+    list->setLayoutMode(QListView::Batched);
+    list->setBatchSize(200);
+    return list;
+}
+
 } // namespace
 
 FolderViews::FolderViews(QWidget* window, std::function<void(const QString&)> folderChosen,
                          std::function<void(const QString&)> fileChosen)
     : QObject(window), m_folderChosen(std::move(folderChosen)),
       m_fileChosen(std::move(fileChosen)) {
-    m_dir1 = new QTreeView(window);
-    m_dir1->setToolTip(QStringLiteral(" Examinador de carpetas. "));
-    m_dir1->setHeaderHidden(true);
-    m_dir1->setUniformRowHeights(true);
-    m_dir1->setAnimated(false);
-
-    m_file1 = new QListView(window);
-    m_file1->setToolTip(QStringLiteral(" Lista de imágenes. "));
-    // Rows of one height laid out in batches keep a folder of thousands of
-    // pictures from holding the window up while it fills.
-    m_file1->setUniformItemSizes(true);
-    m_file1->setLayoutMode(QListView::Batched);
-    m_file1->setBatchSize(200);
+    m_dir1 = makeList(window, QStringLiteral(" Examinador de carpetas. "));
+    // A folder opens on purpose, not while the arrows pass over it.
+    connect(m_dir1, &QListView::activated, this,
+            [this](const QModelIndex& index) { folderOpened(index); });
+    m_file1 = makeList(window, QStringLiteral(" Lista de imágenes. "));
     m_file1->setAutoFillBackground(true);
     setRefused(false);
     makeModels();
@@ -46,14 +48,8 @@ void FolderViews::makeModels() {
     delete m_folders;
     delete m_files;
     m_folders = new QFileSystemModel(this);
-    m_folders->setFilter(QDir::AllDirs | QDir::NoDotAndDotDot | QDir::Drives);
-    m_folders->setRootPath(QStringLiteral("/"));
+    m_folders->setFilter(QDir::AllDirs | QDir::NoDot);
     m_dir1->setModel(m_folders);
-    for (int column = 1; column < m_folders->columnCount(); ++column) {
-        m_dir1->hideColumn(column);
-    }
-    connect(m_dir1->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            [this](const QModelIndex& current) { folderMoved(current); });
 
     m_files = new QFileSystemModel(this);
     m_files->setFilter(QDir::Files | QDir::NoDotAndDotDot);
@@ -77,12 +73,8 @@ void FolderViews::show(const QString& folder, int reads) {
     }
     m_shown = folder;
     m_reads = reads;
-    const QModelIndex place = m_folders->index(folder);
-    for (QModelIndex up = place.parent(); up.isValid(); up = up.parent()) {
-        m_dir1->expand(up);
-    }
-    m_dir1->setCurrentIndex(place);
-    m_dir1->scrollTo(place);
+    m_dir1->setRootIndex(m_folders->setRootPath(folder));
+    m_dir1->scrollToTop();
     m_file1->setRootIndex(m_files->setRootPath(folder));
     m_file1->scrollToTop();
     m_following = false;
@@ -98,11 +90,11 @@ void FolderViews::setRefused(bool refused) {
     m_file1->setPalette(palette);
 }
 
-void FolderViews::folderMoved(const QModelIndex& current) {
-    if (m_following || !current.isValid()) {
-        return;
+void FolderViews::folderOpened(const QModelIndex& index) {
+    if (index.isValid()) {
+        // ".." comes back as the folder above.
+        m_folderChosen(QDir::cleanPath(m_folders->filePath(index)));
     }
-    m_folderChosen(m_folders->filePath(current));
 }
 
 void FolderViews::fileMoved(const QModelIndex& current) {

@@ -10,23 +10,24 @@
 class QFileSystemModel;
 class QListView;
 class QModelIndex;
-class QTreeView;
 class QWidget;
 
 namespace quillora {
 
-// Dir1 and File1: the folders of the disk and the pictures of one of them.
-// Both are read on Qt's own thread, so a folder of thousands of files lists
-// while the window goes on answering.
+// Dir1 and File1: the folders of the folder shown, with ".." to go up, and
+// its pictures. Both are read on Qt's own thread, so a folder of thousands of
+// files lists while the window goes on answering.
 class FolderViews final : public QObject {
 public:
-    // `folderChosen` runs when the player moves Dir1 to a folder,
-    // `fileChosen` with a file's name when the player picks one in File1.
+    // `folderChosen` runs when the player opens a folder of Dir1 (a double
+    // click or Enter), `fileChosen` with a file's name when the player picks
+    // one in File1.
     FolderViews(QWidget* window, std::function<void(const QString&)> folderChosen,
                 std::function<void(const QString&)> fileChosen);
 
-    QTreeView* folderList() const { return m_dir1; }
+    QListView* folderList() const { return m_dir1; }
     QListView* fileList() const { return m_file1; }
+    QFileSystemModel* folderModel() const { return m_folders; }
     QFileSystemModel* fileModel() const { return m_files; }
 
     // Both lists on `folder`; a new `reads` count reads it from the disk
@@ -36,12 +37,12 @@ public:
 
 private:
     void makeModels();
-    void folderMoved(const QModelIndex& current);
+    void folderOpened(const QModelIndex& index);
     void fileMoved(const QModelIndex& current);
 
     std::function<void(const QString&)> m_folderChosen;
     std::function<void(const QString&)> m_fileChosen;
-    QTreeView* m_dir1 = nullptr;
+    QListView* m_dir1 = nullptr;
     QListView* m_file1 = nullptr;
     QFileSystemModel* m_folders = nullptr;
     QFileSystemModel* m_files = nullptr;

@@ -16,7 +16,6 @@
 #include <QListView>
 #include <QPushButton>
 #include <QTimer>
-#include <QTreeView>
 
 namespace quillora {
 
@@ -26,26 +25,30 @@ QRect twipRect(int left, int top, int width, int height) {
     return QRect(px(left), px(top), px(width), px(height));
 }
 
-// The window, in twips: the address across the top, the folders and the
-// pictures down the left, the preview in the board's proportions on the
-// right with the style, the toggles and the two buttons under it.
-constexpr int kWidth = 8400, kHeight = 5535;
+// The window, in twips: the address across the top, then three columns:
+// the folders over the pictures, the preview in the board's proportions over
+// the style and "&Quitar fondo", the toggles over "Guardar y cerrar". It is
+// wide and low, so above a board on a small screen it leaves the phrase in
+// sight.
 constexpr int kMargin = 120, kGap = 120;
 constexpr int kRowHeight = 375;
 constexpr int kGoWidth = 480;
-constexpr int kListWidth = 3120;
-constexpr int kDirTop = 615, kDirHeight = 2265;
-constexpr int kFileTop = kDirTop + kDirHeight + kGap, kFileHeight = 2400;
-constexpr int kRightLeft = kMargin + kListWidth + kGap;
-constexpr int kRightWidth = kWidth - kRightLeft - kMargin;
-// The board is 11745 by 5340 twips: the preview keeps its shape.
-constexpr int kPreviewHeight = kRightWidth * 5340 / 11745;
-constexpr int kStyleTop = kDirTop + kPreviewHeight + kGap;
-constexpr int kToggleTop = kStyleTop + kRowHeight + kGap;
-constexpr int kToggleHeight = 420, kToggleGap = 90;
-constexpr int kToggleWidth = (kRightWidth - kToggleGap) / 2;
-constexpr int kButtonTop = kToggleTop + 2 * kToggleHeight + kToggleGap + kGap;
-constexpr int kButtonHeight = kFileTop + kFileHeight - kButtonTop;
+constexpr int kTop = kMargin + kRowHeight + kGap;
+constexpr int kListLeft = kMargin, kListWidth = 3000;
+constexpr int kDirHeight = 1500, kListGap = 90, kFileHeight = 1800;
+constexpr int kFileTop = kTop + kDirHeight + kListGap;
+constexpr int kBottom = kFileTop + kFileHeight;
+constexpr int kMiddleLeft = kListLeft + kListWidth + kGap, kMiddleWidth = 4500;
+// The board's picture area is 11745 by 5340 twips: the preview keeps its shape.
+constexpr int kPreviewHeight = kMiddleWidth * 5340 / 11745;
+constexpr int kStyleTop = kTop + kPreviewHeight + kGap;
+constexpr int kButtonTop = kStyleTop + kRowHeight + kGap;
+constexpr int kButtonHeight = kBottom - kButtonTop;
+constexpr int kRightLeft = kMiddleLeft + kMiddleWidth + kGap, kRightWidth = 2520;
+constexpr int kToggleHeight = 540;
+constexpr int kToggleGap = (kButtonTop - kGap - kTop - 4 * kToggleHeight) / 3;
+constexpr int kWidth = kRightLeft + kRightWidth + kMargin;
+constexpr int kHeight = kBottom + kMargin;
 
 struct ToggleText {
     const char* caption;
@@ -76,9 +79,12 @@ frmDiseno::frmDiseno(QlvsModel& board, std::function<void()> boardChanged, const
               home.toStdString()),
       m_boardChanged(std::move(boardChanged)) {
     setWindowTitle(QStringLiteral("Diseño:"));
-    setObjectName(QStringLiteral("frmDiseno"));
-    setAttribute(Qt::WA_StyledBackground);
-    setStyleSheet(QStringLiteral("#frmDiseno { background: %1; }").arg(css(kNearWhite)));
+    // The window's own colour through its palette: a style sheet here would
+    // take over the lists' palettes, and File1 turns red through its own.
+    QPalette background = palette();
+    background.setColor(QPalette::Window, qc(kNearWhite));
+    setPalette(background);
+    setAutoFillBackground(true);
     setFixedSize(px(kWidth), px(kHeight));
     buildControls();
     paintButtons();
@@ -90,7 +96,7 @@ frmDiseno::frmDiseno(QlvsModel& board, std::function<void()> boardChanged, const
 
 frmDiseno::~frmDiseno() = default;
 
-QTreeView* frmDiseno::folderList() const {
+QListView* frmDiseno::folderList() const {
     return m_lists->folderList();
 }
 
@@ -129,13 +135,13 @@ void frmDiseno::buildControls() {
             m_model.chooseFile(name.toStdString());
             changed();
         });
-    folderList()->setGeometry(twipRect(kMargin, kDirTop, kListWidth, kDirHeight));
-    fileList()->setGeometry(twipRect(kMargin, kFileTop, kListWidth, kFileHeight));
+    folderList()->setGeometry(twipRect(kListLeft, kTop, kListWidth, kDirHeight));
+    fileList()->setGeometry(twipRect(kListLeft, kFileTop, kListWidth, kFileHeight));
 
-    m_image1->setGeometry(twipRect(kRightLeft, kDirTop, kRightWidth, kPreviewHeight));
+    m_image1->setGeometry(twipRect(kMiddleLeft, kTop, kMiddleWidth, kPreviewHeight));
 
     m_estilo = new QComboBox(this);
-    m_estilo->setGeometry(twipRect(kRightLeft, kStyleTop, kRightWidth, kRowHeight));
+    m_estilo->setGeometry(twipRect(kMiddleLeft, kStyleTop, kMiddleWidth, kRowHeight));
     m_estilo->setToolTip(QStringLiteral(" Estilo de las letras.  "));
     for (const StyleItem& item : kStyleItems) {
         m_estilo->addItem(QString::fromUtf8(item.name.data(), static_cast<int>(item.name.size())));
@@ -148,11 +154,9 @@ void frmDiseno::buildControls() {
     for (std::size_t i = 0; i < m_toggles.size(); ++i) {
         auto* toggle = new DesignToggle(QString::fromUtf8(kToggleTexts[i].caption),
                                         QString::fromUtf8(kToggleTexts[i].tooltip), this);
-        const int column = static_cast<int>(i % 2);
-        const int row = static_cast<int>(i / 2);
-        toggle->setGeometry(twipRect(kRightLeft + column * (kToggleWidth + kToggleGap),
-                                     kToggleTop + row * (kToggleHeight + kToggleGap), kToggleWidth,
-                                     kToggleHeight));
+        toggle->setGeometry(twipRect(kRightLeft,
+                                     kTop + static_cast<int>(i) * (kToggleHeight + kToggleGap),
+                                     kRightWidth, kToggleHeight));
         const auto which = static_cast<DisenoModel::Toggle>(i);
         connect(toggle, &DesignToggle::clicked, this, [this, which] {
             m_model.flip(which);
@@ -163,15 +167,14 @@ void frmDiseno::buildControls() {
 
     m_cmdNormal = new QPushButton(QStringLiteral("&Quitar fondo"), this);
     m_cmdNormal->setToolTip(QStringLiteral(" Quitar fondo. "));
-    m_cmdNormal->setGeometry(twipRect(kRightLeft, kButtonTop, kToggleWidth, kButtonHeight));
+    m_cmdNormal->setGeometry(twipRect(kMiddleLeft, kButtonTop, kMiddleWidth, kButtonHeight));
     connect(m_cmdNormal, &QPushButton::clicked, this, [this] {
         m_model.quitarFondo();
         changed();
     });
 
     m_cmdOk = new QPushButton(QStringLiteral("Guardar y cerrar"), this);
-    m_cmdOk->setGeometry(
-        twipRect(kRightLeft + kToggleWidth + kToggleGap, kButtonTop, kToggleWidth, kButtonHeight));
+    m_cmdOk->setGeometry(twipRect(kRightLeft, kButtonTop, kRightWidth, kButtonHeight));
     connect(m_cmdOk, &QPushButton::clicked, this, [this] {
         if (m_model.save()) {
             close();

@@ -14,7 +14,6 @@ class QLineEdit;
 class QListView;
 class QPushButton;
 class QTimer;
-class QTreeView;
 
 namespace quillora {
 
@@ -39,7 +38,7 @@ public:
     // For the tests: the controls a player uses.
     QLineEdit* addressBox() const { return m_txtDireccion; }
     GoButton* goButton() const { return m_cmdGo; }
-    QTreeView* folderList() const;
+    QListView* folderList() const;
     QListView* fileList() const;
     FolderViews* folderViews() const { return m_lists; }
     PreviewView* preview() const { return m_image1; }

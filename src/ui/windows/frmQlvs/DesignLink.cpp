@@ -12,14 +12,15 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <utility>
 
 namespace quillora {
 
 namespace {
 
-// The window works on the board behind it: it goes where it hides the least
-// of the board that the screen leaves room for.
-QPoint placeBeside(const QRect& board, QSize size) {
+// The window works on the board behind it: it goes where the screen leaves
+// the most of the phrase in sight, and then the most of the board.
+QPoint placeBeside(const QRect& board, const QRect& phrase, QSize size) {
     const QScreen* screen = QGuiApplication::screenAt(board.center());
     if (!screen) {
         screen = QGuiApplication::primaryScreen();
@@ -27,21 +28,26 @@ QPoint placeBeside(const QRect& board, QSize size) {
     const QRect area = screen ? screen->availableGeometry() : board;
     const int middleX = board.center().x() - size.width() / 2;
     const int middleY = board.center().y() - size.height() / 2;
-    const std::array<QPoint, 4> places{
-        QPoint(middleX, board.bottom() + 1), QPoint(middleX, board.top() - size.height()),
-        QPoint(board.right() + 1, middleY), QPoint(board.left() - size.width(), middleY)};
-    QPoint best = board.center() - QPoint(size.width() / 2, size.height() / 2);
-    qint64 leastHidden = std::numeric_limits<qint64>::max();
+    const std::array<QPoint, 6> places{
+        QPoint(middleX, board.bottom() + 1),  QPoint(middleX, board.top() - size.height()),
+        QPoint(board.right() + 1, middleY),   QPoint(board.left() - size.width(), middleY),
+        QPoint(middleX, phrase.bottom() + 1), QPoint(middleX, phrase.top() - size.height())};
+    auto hidden = [](const QRect& window, const QRect& part) {
+        const QRect covered = window.intersected(part);
+        return static_cast<qint64>(covered.width()) * covered.height();
+    };
+    QPoint best = places.front();
+    std::pair<qint64, qint64> leastHidden{std::numeric_limits<qint64>::max(), 0};
     for (QPoint place : places) {
         // Kept on the screen, even if that brings it over the board.
-        place.setX(
-            std::clamp(place.x(), area.left(), std::max(area.left(), area.right() - size.width())));
-        place.setY(
-            std::clamp(place.y(), area.top(), std::max(area.top(), area.bottom() - size.height())));
-        const QRect hidden = QRect(place, size).intersected(board);
-        const qint64 hiddenArea = static_cast<qint64>(hidden.width()) * hidden.height();
-        if (hiddenArea < leastHidden) {
-            leastHidden = hiddenArea;
+        place.setX(std::clamp(place.x(), area.left(),
+                              std::max(area.left(), area.right() + 1 - size.width())));
+        place.setY(std::clamp(place.y(), area.top(),
+                              std::max(area.top(), area.bottom() + 1 - size.height())));
+        const QRect window(place, size);
+        const std::pair<qint64, qint64> cost{hidden(window, phrase), hidden(window, board)};
+        if (cost < leastHidden) {
+            leastHidden = cost;
             best = place;
         }
     }
@@ -66,7 +72,12 @@ void DesignLink::eMenuColors() {
                                  QStandardPaths::writableLocation(QStandardPaths::PicturesLocation),
                                  QDir::homePath(), m_board);
         m_window->setAttribute(Qt::WA_DeleteOnClose);
-        m_window->move(placeBeside(m_board->frameGeometry(), m_window->size()));
+        // The frame the window system adds is not known before the window
+        // shows: the board's own frame is a fair guess.
+        const QSize frame = m_board->frameGeometry().size() - m_board->size();
+        const QRect phrase =
+            m_phrase ? QRect(m_phrase->mapToGlobal(QPoint()), m_phrase->size()) : QRect();
+        m_window->move(placeBeside(m_board->frameGeometry(), phrase, m_window->size() + frame));
     }
     m_window->show();
     m_window->raise();

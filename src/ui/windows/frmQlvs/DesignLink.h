@@ -21,6 +21,9 @@ public:
     DesignLink(const DesignLink&) = delete;
     DesignLink& operator=(const DesignLink&) = delete;
 
+    // The part of the board the window keeps clear of where it can: the
+    // phrase, whose letters show the style.
+    void keepInSight(QWidget* phrase) { m_phrase = phrase; }
     // eMenuColors: "Cambiar diseño" and Ctrl+D. An open window comes to the
     // front rather than a second one.
     void eMenuColors();
@@ -32,6 +35,7 @@ private:
     QlvsModel& m_model;
     QWidget* m_board;
     std::function<void()> m_boardChanged;
+    QWidget* m_phrase = nullptr;
     QPointer<frmDiseno> m_window;
 };
 

@@ -180,6 +180,7 @@ void frmQlvs::buildControls() {
     m_imgFondo = new BackgroundView(m_model, this);
     m_gallows = new GallowsView(m_model.round().figure(), this);
     m_phrase = new PhraseView(m_model, this);
+    m_design.keepInSight(m_phrase);
     m_sidePanel = new SidePanel(m_model.side(), this);
     m_statsPanel = new StatsPanel(m_model.stats(), changed, this);
     auto keys = [this](QKeyEvent* key) { return boardKey(key); };
