@@ -138,12 +138,6 @@ INSTANTIATE_TEST_SUITE_P(DesignWindow, StyleOptions,
                                            StyleRow{4, "Sombra Negra", 3, 1, false, 1, 1}),
                          [](const auto& info) { return "Item" + std::to_string(info.param.item); });
 
-TEST(StyleItemOf, AStoredStyleOutOfRangeShowsAsLibre) {
-    EXPECT_EQ(styleItemOf(4), 2);
-    EXPECT_EQ(styleItemOf(5), 0);
-    EXPECT_EQ(styleItemOf(-1), 0);
-}
-
 TEST_F(DesignModel, TogglesFlipTheirFlagsUnlessTheStyleHasTakenThemOver) {
     shared.settings.estilo = 0;
     loadBoard();
@@ -510,6 +504,14 @@ TEST_F(DesignModel, TheAddressGoesToATypedFolderAndReadsAShownOneAgain) {
     EXPECT_EQ(window.listFolder(), temp.path().string());
     window.typeAddress("~/fotos");
     window.cmdGo();
+    EXPECT_EQ(window.listFolder(), fotos.string());
+
+    // A picture's path is loaded, and the lists stay where they are.
+    const std::string luna = (fotos / "luna.PNG").string();
+    preview.good.insert(luna);
+    window.typeAddress(luna);
+    window.cmdGo();
+    EXPECT_EQ(model.backgroundPicture(), luna);
     EXPECT_EQ(window.listFolder(), fotos.string());
 
     // No folder there, or not a place at all: the lists stay put.

@@ -275,8 +275,9 @@ TEST_F(DesignWindow, ClosingWithoutSavingPutsTheStoredPictureBack) {
     EXPECT_FALSE(window->backgroundPicture().shown());
     EXPECT_FALSE(design->preview()->picture().shown());
 
-    design->close();
+    QTest::keyClick(design, Qt::Key_Escape);
     settle();
+    EXPECT_EQ(window->designWindow(), nullptr);
     EXPECT_EQ(boardPixel(), QColor(Qt::red));
     EXPECT_EQ(storedLine(1), red.string());
 }

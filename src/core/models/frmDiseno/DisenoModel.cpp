@@ -242,14 +242,20 @@ void DisenoModel::cmdGo() {
         ++m_listReads;
         return;
     }
-    // A place that is no folder is not gone to, and not worth a message:
-    // the player sees the lists stay where they were.
+    // A picture typed or pasted in is loaded as a dropped one would be. A
+    // place that is neither is not gone to, and not worth a message: the
+    // player sees the lists stay where they were.
     const std::string target = expandHome(m_address, m_home);
     std::error_code error;
-    if (!fs::path(target).is_absolute() || !fs::is_directory(target, error)) {
+    if (!fs::path(target).is_absolute()) {
         return;
     }
-    folderChanged(tidyFolder(target));
+    if (fs::is_directory(target, error)) {
+        folderChanged(tidyFolder(target));
+    } else if (isPictureName(target)) {
+        m_address = target;
+        LoadImg();
+    }
 }
 
 void DisenoModel::folderChanged(const std::string& folder) {

@@ -87,8 +87,8 @@ public:
     // txtDireccion.
     const std::string& address() const { return m_address; }
     void typeAddress(const std::string& text);
-    // cmdGo, and Enter in the address: a typed folder is gone to, a shown one
-    // read again from the disk.
+    // cmdGo, and Enter in the address: a typed folder is gone to, a typed
+    // picture loaded (LoadImg), a shown folder read again from the disk.
     void cmdGo();
     bool goShown() const { return m_goShown; }
     const char* goTooltip() const {

@@ -6,7 +6,6 @@
 #include "windows/QtColour.h"
 
 #include <QPainter>
-#include <QStyle>
 
 namespace quillora {
 

@@ -12,6 +12,7 @@
 
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
@@ -61,6 +62,9 @@ constexpr std::array<ToggleText, 4> kToggleTexts{{
     {"&Sombras opacas", " Las letras toman un fondo opaco. "},
     {"&Letras blancas", " Las letras se hacen blancas. "},
 }};
+
+// A pressed "&Quitar fondo" darkens as the red lamp's lines do.
+constexpr Rgb kRedLampDark{194, 37, 37};
 
 QString buttonSheet(Rgb face, Rgb pressed) {
     return QStringLiteral("QPushButton { background: %1; color: white; border: none;"
@@ -195,7 +199,7 @@ void frmDiseno::paintButtons() {
     const Rgb game = m_model.buttonColour();
     m_cmdOk->setStyleSheet(buttonSheet(game, kGreenLamp));
     const Rgb red = m_model.quitarColour();
-    m_cmdNormal->setStyleSheet(buttonSheet(red, Rgb{194, 37, 37}));
+    m_cmdNormal->setStyleSheet(buttonSheet(red, kRedLampDark));
     for (QPushButton* button : {m_cmdOk, m_cmdNormal}) {
         button->setFont(Fonts::display(9));
         button->setCursor(Qt::PointingHandCursor);
@@ -231,6 +235,15 @@ void frmDiseno::changed() {
     m_model.tickStyle();
     m_boardChanged();
     sync();
+}
+
+void frmDiseno::keyPressEvent(QKeyEvent* event) {
+    // Esc is the close box: nothing is saved.
+    if (event->key() == Qt::Key_Escape) {
+        close();
+        return;
+    }
+    QWidget::keyPressEvent(event);
 }
 
 void frmDiseno::closeEvent(QCloseEvent* event) {
