@@ -451,6 +451,10 @@ bool reportSave(SharedState& shared, Dialogs& dialogs, const std::string& path, 
 }
 
 bool ConfSave(SharedState& shared, Dialogs& dialogs) {
+    return reportSave(shared, dialogs, shared.currentSession().Archivo, writeSettings(shared));
+}
+
+bool writeSettings(SharedState& shared) {
     Settings& s = shared.settings;
     if (s.nombre.empty()) {
         s.nombre = kDefaultName;
@@ -461,8 +465,7 @@ bool ConfSave(SharedState& shared, Dialogs& dialogs) {
         shared.tourPosition == 0 && s.fraseAutomatica && shared.themeChosen;
     const std::vector<std::string> lines = linesOf(s, keepAutomaticPhrase);
     std::copy(lines.begin(), lines.end(), shared.configLines.begin());
-    return reportSave(shared, dialogs, shared.currentSession().Archivo,
-                      writeConfigLines(shared.currentSession().Archivo, lines));
+    return writeConfigLines(shared.currentSession().Archivo, lines);
 }
 
 std::vector<std::string> settingsLines(const Settings& settings) {

@@ -99,6 +99,9 @@ void ConfLoad(SharedState& shared);
 // Writes the live options to the current session's file. A failure leaves
 // the old file whole and tells the player (reportSave).
 bool ConfSave(SharedState& shared, Dialogs& dialogs);
+// The same save, telling nobody: for a window that tells the player of a
+// failure in its own words.
+bool writeSettings(SharedState& shared);
 // Hands back `saved`, telling the player first when a save of the file at
 // `path` failed and they have not been told of it yet.
 bool reportSave(SharedState& shared, Dialogs& dialogs, const std::string& path, bool saved);

@@ -451,7 +451,9 @@ void QlvsModel::dropFiles(const std::vector<std::string>& paths) {
     // whether it is kept.
     std::vector<std::string> others;
     for (const std::string& path : paths) {
-        if (isPictureName(path)) {
+        if (isPictureName(path) && m_pictureTaker) {
+            m_pictureTaker(path);
+        } else if (isPictureName(path)) {
             m_picture = path;
         } else {
             others.push_back(path);

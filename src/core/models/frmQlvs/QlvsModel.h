@@ -15,6 +15,7 @@
 #include "state/SharedState.h"
 #include "storage/Sessions.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -258,9 +259,25 @@ public:
     Rgb background() const { return windowBackground(m_shared.settings); }
     const CellLook& phraseLabel() const { return m_phraseLabel; }
     // The background picture shown now: the stored one, or one just dropped
-    // on the board, which is shown but not stored.
+    // on the board or tried in the design window, which is shown but not
+    // stored.
     const std::string& backgroundPicture() const { return m_picture; }
     bool pictureRealSize() const { return m_shared.settings.tamanoReal; }
+    void showPicture(const std::string& path) { m_picture = path; }
+
+    // --- the design window ---------------------------------------------------------
+    // eMenuColors: "Cambiar diseño" and Ctrl+D. After a death the missed
+    // letters keep their colour until the next game, so the design, which
+    // repaints the cells, waits for it.
+    bool designOffered() const { return m_round.designEnabled(); }
+    // While the design window is open, a picture dropped on the board is
+    // handed to it, which shows it only if it can be read; an empty taker
+    // gives the board its drops back.
+    void handPicturesTo(std::function<void(const std::string&)> taker) {
+        m_pictureTaker = std::move(taker);
+    }
+    // The letter style and flags as they now stand, on the phrase label too.
+    void applyLetterStyle() { m_phraseLabel = phraseLabelLook(m_shared.settings, m_phraseLabel); }
 
 private:
     // The round's hand-overs pass through here: the window opens its keyboard
@@ -279,7 +296,6 @@ private:
     bool scoreCounting() const override { return m_scoring.counting(); }
 
     void sessionChanged(bool changed);
-    void applyLetterStyle() { m_phraseLabel = phraseLabelLook(m_shared.settings, m_phraseLabel); }
     void switchSurvival(bool on);
 
     SharedState& m_shared;
@@ -318,6 +334,7 @@ private:
     PlayerLabel m_player;
     CellLook m_phraseLabel = ApplyLetterStyle(Settings{}, 1);
     std::string m_picture;
+    std::function<void(const std::string&)> m_pictureTaker;
 };
 
 } // namespace quillora

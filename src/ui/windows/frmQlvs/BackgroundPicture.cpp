@@ -2,12 +2,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/frmQlvs/BackgroundPicture.h"
 
+#include "look/Picture.h"
+
+#include <QFile>
 #include <QImageReader>
 #include <QPainter>
 
 #include <cmath>
 
 namespace quillora {
+
+namespace {
+
+// A phone's largest photos stay under this and decode in a fraction of a
+// second; a file that claims more is more likely a trap than a background,
+// and decoding it would hold the window up and eat the memory.
+constexpr qint64 kMaxPixels = 64LL * 1000 * 1000;
+
+} // namespace
 
 bool BackgroundPicture::follow(const QString& path, bool realSize, QSize area, qreal pixelRatio) {
     if (path == m_path && realSize == m_realSize && area == m_area && pixelRatio == m_pixelRatio) {
@@ -23,12 +35,18 @@ bool BackgroundPicture::follow(const QString& path, bool realSize, QSize area, q
 }
 
 QPixmap BackgroundPicture::load() const {
+    // A pipe would keep the decoder waiting, and a cut JPEG or BMP comes out
+    // half grey rather than refused: neither gets that far.
+    if (!pictureFileWhole(QFile::encodeName(m_path).toStdString())) {
+        return {};
+    }
     QImageReader reader(m_path);
     reader.setAutoTransform(true);
     const QSize target(static_cast<int>(std::ceil(m_area.width() * m_pixelRatio)),
                        static_cast<int>(std::ceil(m_area.height() * m_pixelRatio)));
     const QSize size = reader.size();
-    if (!size.isValid() || target.isEmpty()) {
+    if (!size.isValid() || target.isEmpty() ||
+        static_cast<qint64>(size.width()) * size.height() > kMaxPixels) {
         return {};
     }
     // A photo many times the board's size is decoded straight to what is

@@ -9,7 +9,8 @@
 namespace quillora {
 
 QMenu* buildBoardPopup(QlvsModel& model, QWidget* board, const std::function<void()>& changed,
-                       const std::function<void()>& names, const std::function<void()>& quit) {
+                       const std::function<void()>& names, const std::function<void()>& design,
+                       const std::function<void()>& quit) {
     auto* menu = new QMenu(board);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     const Round& round = model.round();
@@ -51,7 +52,7 @@ QMenu* buildBoardPopup(QlvsModel& model, QWidget* board, const std::function<voi
     menu->addSeparator();
     entry("Editar jugadores", names);
     entry("Historial", [&model] { model.ePlayed(); });
-    entry("Cambiar diseño", nullptr, false);
+    entry("Cambiar diseño", design, model.designOffered());
     menu->addSeparator();
     entry("Ayuda", nullptr, false);
     entry("Acerca", nullptr, false);

@@ -12,9 +12,10 @@ namespace quillora {
 class QlvsModel;
 
 // The board's popup menu, built afresh for the state of the board: every
-// entry calls its routine, then `changed`; "Editar jugadores" and "Salir"
-// are the board's own to carry out.
+// entry calls its routine, then `changed`; "Editar jugadores", "Cambiar
+// diseño" and "Salir" are the board's own to carry out.
 QMenu* buildBoardPopup(QlvsModel& model, QWidget* board, const std::function<void()>& changed,
-                       const std::function<void()>& names, const std::function<void()>& quit);
+                       const std::function<void()>& names, const std::function<void()>& design,
+                       const std::function<void()>& quit);
 
 } // namespace quillora

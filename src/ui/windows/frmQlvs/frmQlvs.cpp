@@ -63,7 +63,8 @@ constexpr int kCopyLeft = 2130, kCopyTop = 3630, kCopyWidth = 780, kCopyHeight =
 frmQlvs::frmQlvs(SharedState& shared, Dialogs& dialogs, Random& random, SoundPlayer& sounds,
                  QWidget* parent)
     : QWidget(parent), m_boardDialogs(dialogs, [this] { drawNow(); }),
-      m_model(shared, m_boardDialogs, random), m_sounds(sounds) {
+      m_model(shared, m_boardDialogs, random), m_design(m_model, this, [this] { sync(); }),
+      m_sounds(sounds) {
     setWindowTitle(QString::fromUtf8(kAppTitle.data(), static_cast<int>(kAppTitle.size())));
     setFocusPolicy(Qt::StrongFocus);
     setAutoFillBackground(true);
@@ -179,6 +180,7 @@ void frmQlvs::buildControls() {
     m_imgFondo = new BackgroundView(m_model, this);
     m_gallows = new GallowsView(m_model.round().figure(), this);
     m_phrase = new PhraseView(m_model, this);
+    m_design.keepInSight(m_phrase);
     m_sidePanel = new SidePanel(m_model.side(), this);
     m_statsPanel = new StatsPanel(m_model.stats(), changed, this);
     auto keys = [this](QKeyEvent* key) { return boardKey(key); };
@@ -470,6 +472,10 @@ bool frmQlvs::windowShortcut(QKeyEvent* event) {
             eNames();
             return true;
         }
+        if (key == WindowKey::Design) {
+            m_design.eMenuColors();
+            return true;
+        }
         if (key == WindowKey::MenuKey) {
             buildPopup()->popup(mapToGlobal(rect().center()));
             return true;
@@ -528,7 +534,7 @@ bool frmQlvs::eventFilter(QObject* watched, QEvent* event) {
 
 QMenu* frmQlvs::buildPopup() {
     return buildBoardPopup(
-        m_model, this, [this] { sync(); }, [this] { eNames(); },
+        m_model, this, [this] { sync(); }, [this] { eNames(); }, [this] { m_design.eMenuColors(); },
         [this] {
             if (onClose) {
                 onClose();
@@ -608,6 +614,7 @@ void frmQlvs::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
     m_model.dropFiles(paths);
     sync();
+    m_design.sync();
 }
 
 } // namespace quillora

@@ -8,6 +8,7 @@
 #include "windows/frmQlvs/BackgroundView.h"
 #include "windows/frmQlvs/BoardDialogs.h"
 #include "windows/frmQlvs/CountdownLabel.h"
+#include "windows/frmQlvs/DesignLink.h"
 #include "windows/frmQlvs/PlayPanel.h"
 #include "windows/frmQlvs/ScorePanel.h"
 #include "windows/frmQlvs/StrikeStrip.h"
@@ -108,6 +109,7 @@ public:
     frmWord2* themeWindow() const { return m_themeWindow; }
     frmWord1* friendWindow() const { return m_friendWindow; }
     frmNames* namesWindow() const { return m_namesWindow; }
+    frmDiseno* designWindow() const { return m_design.window(); }
     // eNames: the board steps aside for the players window.
     void eNames();
     // The popup menu, built afresh for the state of the board.
@@ -148,6 +150,8 @@ private:
 
     BoardDialogs m_boardDialogs;
     QlvsModel m_model;
+    // Declared after the model: the design window works on it, and closes first.
+    DesignLink m_design;
     SoundPlayer& m_sounds;
     BackgroundView* m_imgFondo = nullptr;
 

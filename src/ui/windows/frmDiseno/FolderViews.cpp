@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/frmDiseno/FolderViews.h"
+
+#include "look/Colour.h"
+#include "windows/QtColour.h"
+
+#include <QDir>
+#include <QFileSystemModel>
+#include <QListView>
+
+namespace quillora {
+
+namespace {
+
+constexpr Rgb kRefusedList{255, 128, 128};
+
+// Rows of one height laid out in batches keep a folder of thousands of
+// entries from holding the window up while it fills.
+QListView* makeList(QWidget* window, const QString& tooltip) {
+    auto* list = new QListView(window);
+    list->setToolTip(tooltip);
+    list->setUniformItemSizes(true);
+    list->setLayoutMode(QListView::Batched);
+    list->setBatchSize(200);
+    return list;
+}
+
+} // namespace
+
+FolderViews::FolderViews(QWidget* window, std::function<void(const QString&)> folderChosen,
+                         std::function<void(const QString&)> fileChosen)
+    : QObject(window), m_folderChosen(std::move(folderChosen)),
+      m_fileChosen(std::move(fileChosen)) {
+    m_dir1 = makeList(window, QStringLiteral(" Examinador de carpetas. "));
+    // A folder opens on purpose, not while the arrows pass over it.
+    connect(m_dir1, &QListView::activated, this,
+            [this](const QModelIndex& index) { folderOpened(index); });
+    m_file1 = makeList(window, QStringLiteral(" Lista de imágenes. "));
+    m_file1->setAutoFillBackground(true);
+    setRefused(false);
+    makeModels();
+}
+
+void FolderViews::makeModels() {
+    // Reading a folder again from the disk is a fresh pair of models: the
+    // old ones go with whatever they had cached.
+    delete m_folders;
+    delete m_files;
+    m_folders = new QFileSystemModel(this);
+    m_folders->setFilter(QDir::AllDirs | QDir::NoDot);
+    m_dir1->setModel(m_folders);
+
+    m_files = new QFileSystemModel(this);
+    m_files->setFilter(QDir::Files | QDir::NoDotAndDotDot);
+    // Name filters of a file system model ignore case: "FOTO.JPG" lists too.
+    m_files->setNameFilters({QStringLiteral("*.jpg"), QStringLiteral("*.jpeg"),
+                             QStringLiteral("*.gif"), QStringLiteral("*.bmp"),
+                             QStringLiteral("*.png")});
+    m_files->setNameFilterDisables(false);
+    m_file1->setModel(m_files);
+    connect(m_file1->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex& current) { fileMoved(current); });
+}
+
+void FolderViews::show(const QString& folder, int reads) {
+    if (folder == m_shown && reads == m_reads) {
+        return;
+    }
+    m_following = true;
+    if (reads != m_reads && m_reads >= 0) {
+        makeModels();
+    }
+    m_shown = folder;
+    m_reads = reads;
+    m_dir1->setRootIndex(m_folders->setRootPath(folder));
+    m_dir1->scrollToTop();
+    m_file1->setRootIndex(m_files->setRootPath(folder));
+    m_file1->scrollToTop();
+    m_following = false;
+}
+
+void FolderViews::setRefused(bool refused) {
+    QPalette palette = m_file1->palette();
+    const QColor base = refused ? qc(kRefusedList) : QColor(Qt::white);
+    if (palette.color(QPalette::Base) == base) {
+        return;
+    }
+    palette.setColor(QPalette::Base, base);
+    m_file1->setPalette(palette);
+}
+
+void FolderViews::folderOpened(const QModelIndex& index) {
+    if (index.isValid()) {
+        // ".." comes back as the folder above.
+        m_folderChosen(QDir::cleanPath(m_folders->filePath(index)));
+    }
+}
+
+void FolderViews::fileMoved(const QModelIndex& current) {
+    if (m_following || !current.isValid()) {
+        return;
+    }
+    m_fileChosen(m_files->fileName(current));
+}
+
+} // namespace quillora

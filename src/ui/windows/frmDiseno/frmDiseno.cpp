@@ -1,0 +1,255 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/frmDiseno/frmDiseno.h"
+
+#include "look/Twips.h"
+#include "platform/Fonts.h"
+#include "windows/QtColour.h"
+#include "windows/frmDiseno/DesignToggle.h"
+#include "windows/frmDiseno/FolderViews.h"
+#include "windows/frmDiseno/GoButton.h"
+#include "windows/frmDiseno/PreviewView.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QTimer>
+
+namespace quillora {
+
+namespace {
+
+QRect twipRect(int left, int top, int width, int height) {
+    return QRect(px(left), px(top), px(width), px(height));
+}
+
+// The window, in twips: the address across the top, then three columns:
+// the folders over the pictures, the preview in the board's proportions over
+// the style and "&Quitar fondo", the toggles over "Guardar y cerrar". It is
+// wide and low, so above a board on a small screen it leaves the phrase in
+// sight.
+constexpr int kMargin = 120, kGap = 120;
+constexpr int kRowHeight = 375;
+constexpr int kGoWidth = 480;
+constexpr int kTop = kMargin + kRowHeight + kGap;
+constexpr int kListLeft = kMargin, kListWidth = 3000;
+constexpr int kDirHeight = 1500, kListGap = 90, kFileHeight = 1800;
+constexpr int kFileTop = kTop + kDirHeight + kListGap;
+constexpr int kBottom = kFileTop + kFileHeight;
+constexpr int kMiddleLeft = kListLeft + kListWidth + kGap, kMiddleWidth = 4500;
+// The board's picture area is 11745 by 5340 twips: the preview keeps its shape.
+constexpr int kPreviewHeight = kMiddleWidth * 5340 / 11745;
+constexpr int kStyleTop = kTop + kPreviewHeight + kGap;
+constexpr int kButtonTop = kStyleTop + kRowHeight + kGap;
+constexpr int kButtonHeight = kBottom - kButtonTop;
+constexpr int kRightLeft = kMiddleLeft + kMiddleWidth + kGap, kRightWidth = 2520;
+constexpr int kToggleHeight = 540;
+constexpr int kToggleGap = (kButtonTop - kGap - kTop - 4 * kToggleHeight) / 3;
+constexpr int kWidth = kRightLeft + kRightWidth + kMargin;
+constexpr int kHeight = kBottom + kMargin;
+
+struct ToggleText {
+    const char* caption;
+    const char* tooltip;
+};
+// In the order of DisenoModel::Toggle.
+constexpr std::array<ToggleText, 4> kToggleTexts{{
+    {"&Tamaño Real", " La imagen del fondo toma su tamaño real. "},
+    {"Lineas &blancas", " Las lineas bajo las letras se hacen blancas. "},
+    {"&Sombras opacas", " Las letras toman un fondo opaco. "},
+    {"&Letras blancas", " Las letras se hacen blancas. "},
+}};
+
+// A pressed "&Quitar fondo" darkens as the red lamp's lines do.
+constexpr Rgb kRedLampDark{194, 37, 37};
+
+QString buttonSheet(Rgb face, Rgb pressed) {
+    return QStringLiteral("QPushButton { background: %1; color: white; border: none;"
+                          " border-radius: 6px; }"
+                          "QPushButton:hover, QPushButton:focus { background: %2; }"
+                          "QPushButton:pressed { background: %3; }")
+        .arg(css(face), qc(face).darker(112).name(), css(pressed));
+}
+
+} // namespace
+
+frmDiseno::frmDiseno(QlvsModel& board, std::function<void()> boardChanged, const QString& pictures,
+                     const QString& home, QWidget* parent)
+    : QWidget(parent, Qt::Dialog), m_image1(new PreviewView(this)),
+      m_model(board, *m_image1, userPictureFolder(pictures.toStdString(), home.toStdString()),
+              home.toStdString()),
+      m_boardChanged(std::move(boardChanged)) {
+    setWindowTitle(QStringLiteral("Diseño:"));
+    // The window's own colour through its palette: a style sheet here would
+    // take over the lists' palettes, and File1 turns red through its own.
+    QPalette background = palette();
+    background.setColor(QPalette::Window, qc(kNearWhite));
+    setPalette(background);
+    setAutoFillBackground(true);
+    setFixedSize(px(kWidth), px(kHeight));
+    buildControls();
+    paintButtons();
+    m_model.open();
+    // Opening puts the list on the style in use, which may set its flags:
+    // the board shows them at once.
+    changed();
+}
+
+frmDiseno::~frmDiseno() = default;
+
+QListView* frmDiseno::folderList() const {
+    return m_lists->folderList();
+}
+
+QListView* frmDiseno::fileList() const {
+    return m_lists->fileList();
+}
+
+void frmDiseno::buildControls() {
+    const int addressWidth = kWidth - 2 * kMargin - kGoWidth - kGap / 2;
+    m_txtDireccion = new QLineEdit(this);
+    m_txtDireccion->setGeometry(twipRect(kMargin, kMargin, addressWidth, kRowHeight));
+    m_txtDireccion->setToolTip(QStringLiteral(" Barra de dirección.  "));
+    connect(m_txtDireccion, &QLineEdit::textEdited, this, [this](const QString& text) {
+        m_model.typeAddress(text.toStdString());
+        sync();
+    });
+    connect(m_txtDireccion, &QLineEdit::returnPressed, this, [this] {
+        m_model.cmdGo();
+        sync();
+    });
+
+    m_cmdGo = new GoButton(this);
+    m_cmdGo->setGeometry(twipRect(kWidth - kMargin - kGoWidth, kMargin, kGoWidth, kRowHeight));
+    connect(m_cmdGo, &GoButton::clicked, this, [this] {
+        m_model.cmdGo();
+        sync();
+    });
+
+    m_lists = new FolderViews(
+        this,
+        [this](const QString& folder) {
+            m_model.folderChanged(folder.toStdString());
+            sync();
+        },
+        [this](const QString& name) {
+            m_model.chooseFile(name.toStdString());
+            changed();
+        });
+    folderList()->setGeometry(twipRect(kListLeft, kTop, kListWidth, kDirHeight));
+    fileList()->setGeometry(twipRect(kListLeft, kFileTop, kListWidth, kFileHeight));
+
+    m_image1->setGeometry(twipRect(kMiddleLeft, kTop, kMiddleWidth, kPreviewHeight));
+
+    m_estilo = new QComboBox(this);
+    m_estilo->setGeometry(twipRect(kMiddleLeft, kStyleTop, kMiddleWidth, kRowHeight));
+    m_estilo->setToolTip(QStringLiteral(" Estilo de las letras.  "));
+    for (const StyleItem& item : kStyleItems) {
+        m_estilo->addItem(QString::fromUtf8(item.name.data(), static_cast<int>(item.name.size())));
+    }
+    connect(m_estilo, &QComboBox::activated, this, [this](int item) {
+        m_model.chooseStyle(item);
+        changed();
+    });
+
+    for (std::size_t i = 0; i < m_toggles.size(); ++i) {
+        auto* toggle = new DesignToggle(QString::fromUtf8(kToggleTexts[i].caption),
+                                        QString::fromUtf8(kToggleTexts[i].tooltip), this);
+        toggle->setGeometry(twipRect(kRightLeft,
+                                     kTop + static_cast<int>(i) * (kToggleHeight + kToggleGap),
+                                     kRightWidth, kToggleHeight));
+        const auto which = static_cast<DisenoModel::Toggle>(i);
+        connect(toggle, &DesignToggle::clicked, this, [this, which] {
+            m_model.flip(which);
+            changed();
+        });
+        m_toggles[i] = toggle;
+    }
+
+    m_cmdNormal = new QPushButton(QStringLiteral("&Quitar fondo"), this);
+    m_cmdNormal->setToolTip(QStringLiteral(" Quitar fondo. "));
+    m_cmdNormal->setGeometry(twipRect(kMiddleLeft, kButtonTop, kMiddleWidth, kButtonHeight));
+    connect(m_cmdNormal, &QPushButton::clicked, this, [this] {
+        m_model.quitarFondo();
+        changed();
+    });
+
+    m_cmdOk = new QPushButton(QStringLiteral("Guardar y cerrar"), this);
+    m_cmdOk->setGeometry(twipRect(kRightLeft, kButtonTop, kRightWidth, kButtonHeight));
+    connect(m_cmdOk, &QPushButton::clicked, this, [this] {
+        if (m_model.save()) {
+            close();
+        } else {
+            sync();
+        }
+    });
+
+    m_tmrStyle = new QTimer(this);
+    m_tmrStyle->setInterval(DisenoModel::kStyleTickMs);
+    connect(m_tmrStyle, &QTimer::timeout, this, [this] {
+        m_model.tickStyle();
+        m_boardChanged();
+    });
+}
+
+void frmDiseno::paintButtons() {
+    const Rgb game = m_model.buttonColour();
+    m_cmdOk->setStyleSheet(buttonSheet(game, kGreenLamp));
+    const Rgb red = m_model.quitarColour();
+    m_cmdNormal->setStyleSheet(buttonSheet(red, kRedLampDark));
+    for (QPushButton* button : {m_cmdOk, m_cmdNormal}) {
+        button->setFont(Fonts::display(9));
+        button->setCursor(Qt::PointingHandCursor);
+    }
+}
+
+void frmDiseno::sync() {
+    const QString address = qs(m_model.address());
+    if (m_txtDireccion->text() != address) {
+        m_txtDireccion->setText(address);
+    }
+    const Rgb game = m_model.buttonColour();
+    m_cmdGo->setLook(m_model.goShown(), game);
+    m_cmdGo->setToolTip(QString::fromUtf8(m_model.goTooltip()));
+    m_lists->show(qs(m_model.listFolder()), m_model.listReads());
+    m_lists->setRefused(m_model.listRefused());
+    m_image1->follow(m_model.preview(), m_model.previewRealSize());
+    m_estilo->setCurrentIndex(m_model.styleItem());
+    for (std::size_t i = 0; i < m_toggles.size(); ++i) {
+        const DisenoModel::ToggleLook look = m_model.toggle(static_cast<DisenoModel::Toggle>(i));
+        m_toggles[i]->setLook(look.enabled, look.lit, game);
+    }
+    m_cmdNormal->setVisible(m_model.quitarShown());
+    const bool running = m_model.styleTimerRunning();
+    if (running && !m_tmrStyle->isActive()) {
+        m_tmrStyle->start();
+    } else if (!running && m_tmrStyle->isActive()) {
+        m_tmrStyle->stop();
+    }
+}
+
+void frmDiseno::changed() {
+    m_model.tickStyle();
+    m_boardChanged();
+    sync();
+}
+
+void frmDiseno::keyPressEvent(QKeyEvent* event) {
+    // Esc is the close box: nothing is saved.
+    if (event->key() == Qt::Key_Escape) {
+        close();
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}
+
+void frmDiseno::closeEvent(QCloseEvent* event) {
+    m_model.close();
+    m_boardChanged();
+    event->accept();
+}
+
+} // namespace quillora

@@ -1,0 +1,543 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "models/frmDiseno/DisenoModel.h"
+
+#include "ports/PictureLoader.h"
+#include "storage/ConfigFile.h"
+#include "support/BoardModel.h"
+#include "support/RefusedWrites.h"
+
+#include <gtest/gtest.h>
+
+#include <cctype>
+#include <filesystem>
+#include <optional>
+#include <ostream>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quillora {
+namespace {
+
+namespace fs = std::filesystem;
+using Toggle = DisenoModel::Toggle;
+
+// A preview that can read only the pictures the test calls good, and keeps
+// what it was asked for.
+class FakePreview : public PictureLoader {
+public:
+    bool load(const std::string& path, bool realSize) override {
+        asked.push_back(path);
+        realSizes.push_back(realSize);
+        return good.contains(path);
+    }
+
+    std::set<std::string> good;
+    std::vector<std::string> asked;
+    std::vector<bool> realSizes;
+};
+
+// The design window's model over a board loaded from its file.
+class DesignModel : public BoardModel {
+protected:
+    DesignModel() { fs::create_directories(pictures); }
+
+    // The board reads the options as they now stand from its file.
+    void loadBoard() {
+        ASSERT_TRUE(ConfSave(shared, dialogs));
+        model.load();
+    }
+    DisenoModel& open() {
+        design.emplace(model, preview, pictures.string(), temp.path().string());
+        design->open();
+        return *design;
+    }
+    // Line `n` of the configuration file as it is on disk.
+    std::string storedLine(int n) const {
+        const auto lines = readConfigLines(shared.currentSession().Archivo);
+        return lines && static_cast<int>(lines->size()) >= n ? (*lines)[n - 1] : "(no line)";
+    }
+
+    const fs::path pictures = temp.path() / "Imágenes";
+    FakePreview preview;
+    std::optional<DisenoModel> design;
+};
+
+// --- the style list and Option0 ... Option4 ---------------------------------------------
+
+// -1 where the toggle's rectangle shows the flag itself.
+constexpr int kFlag = -1;
+struct StyleRow {
+    int item;
+    const char* name;
+    int estilo;
+    // letraOpaca after the choice; kFlag keeps it.
+    int opaque;
+    bool togglesEnabled;
+    int opaqueLit;
+    int letterLit;
+};
+
+void PrintTo(const StyleRow& row, std::ostream* out) {
+    *out << row.name;
+}
+
+// A test's name from a path: its letters and digits, behind the case's number.
+std::string nameOf(std::size_t index, std::string_view text) {
+    std::string name = std::to_string(index) + "_";
+    for (const char c : text) {
+        name += std::isalnum(static_cast<unsigned char>(c)) ? c : '_';
+    }
+    return name;
+}
+
+class StyleOptions : public DesignModel, public ::testing::WithParamInterface<StyleRow> {};
+
+TEST_P(StyleOptions, EachItemStoresItsStyleSetsTheShadowsAndLightsTheToggles) {
+    const StyleRow& row = GetParam();
+    EXPECT_EQ(kStyleItems[static_cast<std::size_t>(row.item)].name, row.name);
+    EXPECT_EQ(kStyleItems[static_cast<std::size_t>(row.item)].value, row.estilo);
+
+    for (const bool flags : {false, true}) {
+        SCOPED_TRACE(flags ? "letter flags on" : "letter flags off");
+        shared.settings.estilo = 0;
+        shared.settings.letraOpaca = flags;
+        shared.settings.letraBlanca = flags;
+        loadBoard();
+        DisenoModel& window = open();
+        window.chooseStyle(row.item);
+
+        EXPECT_EQ(window.styleItem(), row.item);
+        EXPECT_EQ(shared.settings.estilo, row.estilo);
+        EXPECT_EQ(shared.settings.letraOpaca, row.opaque == kFlag ? flags : row.opaque == 1);
+        EXPECT_EQ(shared.settings.letraBlanca, flags) << "no style touches the white letters";
+        const auto opaque = window.toggle(Toggle::Opaque);
+        const auto letter = window.toggle(Toggle::Letter);
+        EXPECT_EQ(opaque.enabled, row.togglesEnabled);
+        EXPECT_EQ(letter.enabled, row.togglesEnabled);
+        EXPECT_EQ(opaque.lit, row.opaqueLit == kFlag ? flags : row.opaqueLit == 1);
+        EXPECT_EQ(letter.lit, row.letterLit == kFlag ? flags : row.letterLit == 1);
+        EXPECT_TRUE(window.toggle(Toggle::Size).enabled);
+        EXPECT_TRUE(window.toggle(Toggle::White).enabled);
+
+        // Opened on a stored style, the list shows its item.
+        window.close();
+        shared.settings.estilo = row.estilo;
+        EXPECT_EQ(open().styleItem(), row.item);
+        design.reset();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(DesignWindow, StyleOptions,
+                         ::testing::Values(StyleRow{0, "Libre", 0, kFlag, true, kFlag, kFlag},
+                                           StyleRow{1, "Tinta Negra", 1, 0, false, 0, 0},
+                                           StyleRow{2, "Tinta Azul", 4, 0, false, 0, 0},
+                                           StyleRow{3, "Colorido", 2, 1, false, 1, 0},
+                                           StyleRow{4, "Sombra Negra", 3, 1, false, 1, 1}),
+                         [](const auto& info) { return "Item" + std::to_string(info.param.item); });
+
+TEST_F(DesignModel, TogglesFlipTheirFlagsUnlessTheStyleHasTakenThemOver) {
+    shared.settings.estilo = 0;
+    loadBoard();
+    DisenoModel& window = open();
+
+    window.flip(Toggle::Opaque);
+    EXPECT_TRUE(shared.settings.letraOpaca);
+    EXPECT_TRUE(window.toggle(Toggle::Opaque).lit);
+    window.flip(Toggle::Letter);
+    EXPECT_TRUE(shared.settings.letraBlanca);
+    window.flip(Toggle::White);
+    EXPECT_TRUE(shared.settings.lineaBlanca);
+    EXPECT_TRUE(window.toggle(Toggle::White).lit);
+    window.flip(Toggle::White);
+    EXPECT_FALSE(shared.settings.lineaBlanca);
+    EXPECT_FALSE(window.toggle(Toggle::White).lit);
+
+    window.chooseStyle(1); // "Tinta Negra"
+    window.flip(Toggle::Letter);
+    window.flip(Toggle::Opaque);
+    EXPECT_TRUE(shared.settings.letraBlanca) << "a disabled toggle does nothing";
+    EXPECT_FALSE(shared.settings.letraOpaca);
+    EXPECT_FALSE(window.toggle(Toggle::Letter).lit);
+
+    // Back in "Libre" the rectangles tell the flags again.
+    window.chooseStyle(0);
+    EXPECT_TRUE(window.toggle(Toggle::Letter).lit);
+    EXPECT_FALSE(window.toggle(Toggle::Opaque).lit);
+
+    // The real size takes the board's picture and the preview with it.
+    window.flip(Toggle::Size);
+    EXPECT_TRUE(shared.settings.tamanoReal);
+    EXPECT_TRUE(model.pictureRealSize());
+    EXPECT_TRUE(window.previewRealSize());
+    preview.good.insert("/fotos/playa.jpg");
+    window.typeAddress("/fotos/playa.jpg");
+    window.LoadImg();
+    EXPECT_EQ(preview.realSizes.back(), true);
+}
+
+TEST_F(DesignModel, OpeningLightsTheToggleOfEveryFlagThatIsOn) {
+    shared.settings.estilo = 2; // "Colorido" darkens the white letters...
+    shared.settings.letraBlanca = true;
+    shared.settings.tamanoReal = true;
+    loadBoard();
+    DisenoModel& window = open();
+    // ...but the flag is on, and the opening lights what is on.
+    EXPECT_TRUE(window.toggle(Toggle::Letter).lit);
+    EXPECT_FALSE(window.toggle(Toggle::Letter).enabled);
+    EXPECT_TRUE(window.toggle(Toggle::Size).lit);
+    EXPECT_FALSE(window.toggle(Toggle::White).lit);
+    EXPECT_TRUE(window.toggle(Toggle::Opaque).lit);
+}
+
+TEST_F(DesignModel, TheStyleTickBringsTheBoardInStep) {
+    shared.settings.estilo = 1;
+    loadBoard();
+    DisenoModel& window = open();
+    EXPECT_TRUE(window.styleTimerRunning());
+    const CellLook before = model.phraseLabel();
+
+    window.chooseStyle(4); // "Sombra Negra"
+    EXPECT_EQ(model.phraseLabel().background, before.background) << "not before the tick";
+    window.tickStyle();
+    EXPECT_EQ(model.phraseLabel().background, kBlack);
+    EXPECT_TRUE(model.phraseLabel().filled);
+
+    window.flip(Toggle::White);
+    EXPECT_EQ(model.background(), kLightBlueBackground);
+    window.close();
+    EXPECT_FALSE(window.styleTimerRunning());
+    EXPECT_EQ(shared.settings.estilo, 3) << "the style stays in effect unsaved";
+}
+
+// --- opening, saving, closing ------------------------------------------------------------
+
+TEST_F(DesignModel, OpeningTakesTheStoredPictureAndBrowsesThePicturesFolder) {
+    shared.settings.fondo = "/fotos/playa.jpg";
+    shared.settings.carpetaFondo = "/fotos";
+    loadBoard();
+    preview.good.insert("/fotos/playa.jpg");
+    DisenoModel& window = open();
+
+    EXPECT_EQ(window.address(), pictures.string());
+    EXPECT_EQ(window.listFolder(), pictures.string());
+    EXPECT_FALSE(window.goShown());
+    EXPECT_STREQ(window.goTooltip(), " Actualizar Dirección ");
+    EXPECT_EQ(window.picture(), "/fotos/playa.jpg");
+    EXPECT_EQ(window.folder(), "/fotos");
+    EXPECT_EQ(window.preview(), "/fotos/playa.jpg");
+    EXPECT_TRUE(window.quitarShown());
+    EXPECT_FALSE(window.listRefused());
+    EXPECT_TRUE(dialogs.shown.empty());
+}
+
+TEST_F(DesignModel, AStoredPictureThePreviewCannotReadIsToldWhileOpening) {
+    shared.settings.fondo = "/fotos/borrada.jpg";
+    loadBoard();
+    DisenoModel& window = open();
+    ASSERT_EQ(dialogs.shown.size(), 1U);
+    EXPECT_EQ(dialogs.shown[0].text, "Hubo un problema al cargar el diseño de esta ventana.");
+    // The window goes on as far as it got.
+    EXPECT_EQ(window.address(), pictures.string());
+    EXPECT_EQ(window.preview(), "");
+    EXPECT_EQ(window.picture(), "/fotos/borrada.jpg");
+    EXPECT_TRUE(window.quitarShown()) << "the dead picture can still be taken away";
+}
+
+TEST_F(DesignModel, QuitarFondoThenSaveStoresAnEmptyPicture) {
+    shared.settings.fondo = "/fotos/playa.jpg";
+    shared.settings.carpetaFondo = "/fotos";
+    loadBoard();
+    preview.good.insert("/fotos/playa.jpg");
+    DisenoModel& window = open();
+
+    window.quitarFondo();
+    EXPECT_EQ(model.backgroundPicture(), "");
+    EXPECT_EQ(window.preview(), "");
+    EXPECT_FALSE(window.quitarShown());
+    ASSERT_TRUE(window.save());
+    EXPECT_FALSE(window.isOpen());
+    EXPECT_EQ(shared.settings.fondo, "");
+    EXPECT_EQ(storedLine(1), "");
+    EXPECT_EQ(storedLine(2), "/fotos");
+    EXPECT_EQ(model.backgroundPicture(), "");
+}
+
+TEST_F(DesignModel, SavingStoresTheChosenPictureTheStyleAndTheFlags) {
+    loadBoard();
+    const std::string playa = (pictures / "playa.png").string();
+    preview.good.insert(playa);
+    DisenoModel& window = open();
+    window.chooseFile("playa.png");
+    window.chooseStyle(2); // "Tinta Azul"
+    window.flip(Toggle::White);
+    ASSERT_TRUE(window.save());
+    EXPECT_EQ(storedLine(1), playa);
+    EXPECT_EQ(storedLine(2), pictures.string());
+    EXPECT_EQ(storedLine(3), "4");
+    EXPECT_EQ(storedLine(6), "1");
+    EXPECT_EQ(model.backgroundPicture(), playa);
+    EXPECT_TRUE(dialogs.shown.empty());
+}
+
+TEST_F(DesignModel, ClosingWithoutSavingPutsTheStoredPictureBackAndKeepsTheStyle) {
+    shared.settings.fondo = "/fotos/playa.jpg";
+    loadBoard();
+    const std::string before = slurp(shared.currentSession().Archivo);
+    preview.good = {"/fotos/playa.jpg", "/fotos/monte.gif"};
+    DisenoModel& window = open();
+    window.folderChanged("/fotos");
+    window.chooseFile("monte.gif");
+    window.chooseStyle(3);
+    EXPECT_EQ(model.backgroundPicture(), "/fotos/monte.gif");
+
+    window.close();
+    EXPECT_EQ(model.backgroundPicture(), "/fotos/playa.jpg");
+    EXPECT_EQ(shared.settings.fondo, "/fotos/playa.jpg");
+    EXPECT_EQ(shared.settings.estilo, 2);
+    EXPECT_EQ(slurp(shared.currentSession().Archivo), before) << "nothing was written";
+}
+
+TEST_F(DesignModel, ASaveTheDiskRefusesIsToldInTheWindowsOwnWords) {
+    shared.settings.fondo = "/fotos/playa.jpg";
+    loadBoard();
+    const std::string before = slurp(shared.currentSession().Archivo);
+    preview.good = {"/fotos/playa.jpg", "/fotos/monte.gif"};
+    DisenoModel& window = open();
+    window.folderChanged("/fotos");
+    window.chooseFile("monte.gif");
+    {
+        RefusedWrites full;
+        EXPECT_FALSE(window.save());
+    }
+    ASSERT_EQ(dialogs.shown.size(), 1U) << "one box, the window's";
+    EXPECT_EQ(dialogs.shown[0].text, "El diseño no se guardó, para ver la causa véalo en Ayuda.");
+    EXPECT_TRUE(window.isOpen());
+    EXPECT_EQ(slurp(shared.currentSession().Archivo), before);
+    EXPECT_EQ(shared.settings.fondo, "/fotos/playa.jpg") << "what was not saved is not kept";
+    window.close();
+    EXPECT_EQ(model.backgroundPicture(), "/fotos/playa.jpg");
+}
+
+// --- pictures ----------------------------------------------------------------------------
+
+struct AddressCase {
+    const char* path;
+    bool taken;
+};
+
+void PrintTo(const AddressCase& c, std::ostream* out) {
+    *out << '"' << c.path << '"';
+}
+
+class LoadImgPaths : public DesignModel, public ::testing::WithParamInterface<AddressCase> {};
+
+TEST_P(LoadImgPaths, OnlyAPictureNameIsLoaded) {
+    shared.settings.fondo = "/fotos/playa.jpg";
+    loadBoard();
+    preview.good = {"/fotos/playa.jpg", GetParam().path};
+    DisenoModel& window = open();
+    preview.asked.clear();
+
+    window.typeAddress(GetParam().path);
+    window.LoadImg();
+    if (GetParam().taken) {
+        EXPECT_EQ(model.backgroundPicture(), GetParam().path);
+        EXPECT_EQ(window.preview(), GetParam().path);
+        EXPECT_EQ(window.picture(), GetParam().path);
+        EXPECT_EQ(window.folder(), "/otras");
+    } else {
+        EXPECT_TRUE(preview.asked.empty()) << "not even tried";
+        EXPECT_EQ(model.backgroundPicture(), "/fotos/playa.jpg");
+        EXPECT_EQ(window.picture(), "/fotos/playa.jpg");
+    }
+    EXPECT_FALSE(window.listRefused());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    DesignWindow, LoadImgPaths,
+    ::testing::Values(
+        AddressCase{"/otras/playa.jpg", true}, AddressCase{"/otras/PLAYA.JPG", true},
+        AddressCase{"/otras/mapa.gif", true}, AddressCase{"/otras/Mapa.Gif", true},
+        AddressCase{"/otras/icono.bmp", true}, AddressCase{"/otras/ICONO.BMP", true},
+        AddressCase{"/otras/captura.png", true}, AddressCase{"/otras/captura.Png", true},
+        AddressCase{"/otras/retrato.jpeg", true}, AddressCase{"/otras/notas.txt", false},
+        AddressCase{"/otras/playa.jpg.txt", false}, AddressCase{"/otras/playa.tiff", false},
+        AddressCase{"/otras/jpg", false}, AddressCase{"/otras/.jpg", false},
+        AddressCase{"/otras", false}, AddressCase{"", false}),
+    [](const auto& info) { return nameOf(info.index, info.param.path); });
+
+TEST_F(DesignModel, APictureThatCannotBeReadTurnsTheListRedAndChangesNothingElse) {
+    shared.settings.fondo = "/fotos/playa.jpg";
+    loadBoard();
+    preview.good = {"/fotos/playa.jpg", "/fotos/monte.png"};
+    DisenoModel& window = open();
+    window.folderChanged("/fotos");
+
+    for (const char* bad : {"rota.jpg", "cortada.jpg"}) {
+        window.chooseFile(bad);
+        EXPECT_TRUE(window.listRefused()) << bad;
+        EXPECT_EQ(model.backgroundPicture(), "/fotos/playa.jpg");
+        EXPECT_EQ(window.preview(), "/fotos/playa.jpg");
+        EXPECT_EQ(window.picture(), "/fotos/playa.jpg");
+    }
+    window.typeAddress("/fotos/rota.bmp");
+    window.LoadImg();
+    EXPECT_TRUE(window.listRefused());
+    EXPECT_EQ(model.backgroundPicture(), "/fotos/playa.jpg");
+
+    window.chooseFile("monte.png");
+    EXPECT_FALSE(window.listRefused()) << "a good picture makes the list white again";
+    EXPECT_EQ(model.backgroundPicture(), "/fotos/monte.png");
+}
+
+TEST_F(DesignModel, APathTheConfigurationFileCannotHoldIsRefused) {
+    loadBoard();
+    DisenoModel& window = open();
+    window.folderChanged("/fotos/写真");
+    preview.good.insert("/fotos/写真/a.jpg");
+    preview.asked.clear();
+    window.chooseFile("a.jpg");
+    EXPECT_TRUE(window.listRefused());
+    EXPECT_TRUE(preview.asked.empty());
+    EXPECT_EQ(model.backgroundPicture(), "");
+
+    // A line break in a name would split the file's line in two.
+    window.folderChanged("/fotos");
+    preview.good.insert("/fotos/dos\nlineas.png");
+    window.chooseFile("dos\nlineas.png");
+    EXPECT_TRUE(window.listRefused());
+}
+
+struct JoinCase {
+    const char* folder;
+    const char* name;
+    const char* path;
+};
+
+void PrintTo(const JoinCase& c, std::ostream* out) {
+    *out << '"' << c.folder << "\" + \"" << c.name << '"';
+}
+
+class PicturePaths : public DesignModel, public ::testing::WithParamInterface<JoinCase> {};
+
+TEST_P(PicturePaths, TheFolderAndTheNameMeetWithOneSeparator) {
+    EXPECT_EQ(joinPicturePath(GetParam().folder, GetParam().name), GetParam().path);
+    loadBoard();
+    DisenoModel& window = open();
+    window.folderChanged(GetParam().folder);
+    window.chooseFile(GetParam().name);
+    ASSERT_FALSE(preview.asked.empty());
+    EXPECT_EQ(preview.asked.back(), GetParam().path);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    DesignWindow, PicturePaths,
+    ::testing::Values(JoinCase{"/home/ana/Imágenes", "playa.jpg", "/home/ana/Imágenes/playa.jpg"},
+                      JoinCase{"/home/ana/Imágenes/", "playa.jpg", "/home/ana/Imágenes/playa.jpg"},
+                      JoinCase{"/", "raiz.png", "/raiz.png"}),
+    [](const auto& info) { return nameOf(info.index, info.param.folder); });
+
+// --- drops on the board ------------------------------------------------------------------
+
+TEST_F(DesignModel, APictureDroppedBeforeOpeningIsTheWindowsToKeepOrDrop) {
+    shared.settings.fondo = "/fotos/playa.jpg";
+    loadBoard();
+    preview.good = {"/fotos/playa.jpg", "/descargas/luna.png"};
+    model.dropFiles({"/descargas/luna.png"});
+    DisenoModel& window = open();
+    EXPECT_EQ(window.picture(), "/descargas/luna.png");
+    EXPECT_EQ(window.address(), "/descargas/luna.png");
+    EXPECT_EQ(window.folder(), "/descargas");
+    EXPECT_EQ(window.preview(), "/descargas/luna.png");
+    window.close();
+    EXPECT_EQ(model.backgroundPicture(), "/fotos/playa.jpg");
+}
+
+TEST_F(DesignModel, WhileOpenADropOnTheBoardIsHandedToTheWindow) {
+    shared.settings.fondo = "/fotos/playa.jpg";
+    loadBoard();
+    preview.good = {"/fotos/playa.jpg", "/descargas/luna.png"};
+    DisenoModel& window = open();
+
+    model.dropFiles({"/descargas/rota.jpg"});
+    EXPECT_TRUE(window.listRefused());
+    EXPECT_EQ(model.backgroundPicture(), "/fotos/playa.jpg") << "the board waits for the window";
+    model.dropFiles({"/descargas/luna.png"});
+    EXPECT_EQ(model.backgroundPicture(), "/descargas/luna.png");
+    EXPECT_EQ(window.address(), "/descargas/luna.png");
+    EXPECT_EQ(window.preview(), "/descargas/luna.png");
+
+    // Closed, the board takes its drops itself again.
+    window.close();
+    model.dropFiles({"/descargas/rota.jpg"});
+    EXPECT_EQ(model.backgroundPicture(), "/descargas/rota.jpg");
+}
+
+// --- folders -------------------------------------------------------------------------------
+
+TEST_F(DesignModel, TheAddressGoesToATypedFolderAndReadsAShownOneAgain) {
+    loadBoard();
+    DisenoModel& window = open();
+    const fs::path fotos = temp.path() / "fotos";
+    fs::create_directories(fotos);
+
+    window.typeAddress(fotos.string() + "/");
+    EXPECT_TRUE(window.goShown());
+    EXPECT_STREQ(window.goTooltip(), " Ir a Esta Dirección ");
+    window.cmdGo();
+    EXPECT_EQ(window.listFolder(), fotos.string());
+    EXPECT_EQ(window.folder(), fotos.string());
+    EXPECT_EQ(window.address(), fotos.string());
+    EXPECT_STREQ(window.goTooltip(), " Actualizar Dirección ");
+
+    const int reads = window.listReads();
+    window.cmdGo();
+    EXPECT_EQ(window.listReads(), reads + 1);
+    EXPECT_EQ(window.listFolder(), fotos.string());
+
+    // "~" is the home folder.
+    window.typeAddress("~");
+    window.cmdGo();
+    EXPECT_EQ(window.listFolder(), temp.path().string());
+    window.typeAddress("~/fotos");
+    window.cmdGo();
+    EXPECT_EQ(window.listFolder(), fotos.string());
+
+    // A picture's path is loaded, and the lists stay where they are.
+    const std::string luna = (fotos / "luna.PNG").string();
+    preview.good.insert(luna);
+    window.typeAddress(luna);
+    window.cmdGo();
+    EXPECT_EQ(model.backgroundPicture(), luna);
+    EXPECT_EQ(window.listFolder(), fotos.string());
+
+    // No folder there, or not a place at all: the lists stay put.
+    for (const std::string& typed :
+         {(temp.path() / "no-existe").string(), std::string("fotos"), std::string("")}) {
+        window.typeAddress(typed);
+        window.cmdGo();
+        EXPECT_EQ(window.listFolder(), fotos.string()) << typed;
+        EXPECT_TRUE(window.goShown());
+    }
+
+    // Moving the folder list shows and keeps the folder it reaches.
+    window.folderChanged(pictures.string());
+    EXPECT_EQ(window.address(), pictures.string());
+    EXPECT_EQ(window.folder(), pictures.string());
+    EXPECT_FALSE(window.goShown());
+}
+
+TEST(UserPictureFolder, FallsBackToTheHomeFolderWithoutAPicturesFolder) {
+    TempFolder home("quillora-home");
+    const fs::path pictures = home.path() / "Imágenes";
+    EXPECT_EQ(userPictureFolder(pictures.string(), home.path().string()), home.path().string());
+    EXPECT_EQ(userPictureFolder("", home.path().string()), home.path().string());
+    fs::create_directories(pictures);
+    EXPECT_EQ(userPictureFolder(pictures.string(), home.path().string()), pictures.string());
+}
+
+} // namespace
+} // namespace quillora
