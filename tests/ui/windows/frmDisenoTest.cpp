@@ -88,16 +88,24 @@ protected:
     void open(frmDiseno* design, const QString& name) {
         QListView* list = design->folderList();
         QFileSystemModel* folders = design->folderViews()->folderModel();
-        for (int row = 0; row < folders->rowCount(list->rootIndex()); ++row) {
-            const QModelIndex entry = folders->index(row, 0, list->rootIndex());
-            if (folders->fileName(entry) == name) {
-                list->setFocus();
-                list->setCurrentIndex(entry);
-                QTest::keyClick(list, Qt::Key_Return);
-                return;
+        // The model lists on its own thread: the entry may still be coming.
+        QModelIndex entry;
+        const auto found = [&] {
+            for (int row = 0; row < folders->rowCount(list->rootIndex()); ++row) {
+                entry = folders->index(row, 0, list->rootIndex());
+                if (folders->fileName(entry) == name) {
+                    return true;
+                }
             }
+            return false;
+        };
+        if (!QTest::qWaitFor(found, 10000)) {
+            ADD_FAILURE() << "no " << name.toStdString() << " in the folder list";
+            return;
         }
-        ADD_FAILURE() << "no " << name.toStdString() << " in the folder list";
+        list->setFocus();
+        list->setCurrentIndex(entry);
+        QTest::keyClick(list, Qt::Key_Return);
     }
     // A click on a file of File1, as the player picks it.
     void pick(frmDiseno* design, const fs::path& file) {

@@ -12,6 +12,7 @@
 #include "windows/frmQlvs/AnswerPanel.h"
 #include "windows/frmQlvs/AutoMarker.h"
 #include "windows/frmQlvs/BackgroundView.h"
+#include "windows/frmQlvs/BoardDrops.h"
 #include "windows/frmQlvs/BoardKeys.h"
 #include "windows/frmQlvs/BoardPopup.h"
 #include "windows/frmQlvs/CountdownLabel.h"
@@ -34,12 +35,9 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QContextMenuEvent>
-#include <QDragEnterEvent>
-#include <QDropEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
-#include <QMimeData>
 #include <QPointer>
 #include <QPushButton>
 #include <QTimer>
@@ -68,7 +66,10 @@ frmQlvs::frmQlvs(SharedState& shared, Dialogs& dialogs, Random& random, SoundPla
     setWindowTitle(QString::fromUtf8(kAppTitle.data(), static_cast<int>(kAppTitle.size())));
     setFocusPolicy(Qt::StrongFocus);
     setAutoFillBackground(true);
-    setAcceptDrops(true);
+    new BoardDrops(m_model, this, [this] {
+        sync();
+        m_design.sync();
+    });
     m_sounds.load();
     m_model.load();
     buildControls();
@@ -354,13 +355,7 @@ void frmQlvs::drawNow() {
 
 void frmQlvs::placeOver(QPoint menuCentre) {
     fitFrame();
-    move(menuCentre - QPoint(px(QlvsModel::kWidthTwips) / 2,
-                             px(QlvsModel::kBaseHeightTwips) / 2 - px(m_model.openingDropTwips())));
-}
-
-QPoint frmQlvs::menuCentre() const {
-    return pos() + QPoint(px(QlvsModel::kWidthTwips) / 2,
-                          px(QlvsModel::kBaseHeightTwips) / 2 - px(m_model.openingDropTwips()));
+    move(menuCentre - menuOffset());
 }
 
 void frmQlvs::followRestart() {
@@ -596,25 +591,6 @@ void frmQlvs::contextMenuEvent(QContextMenuEvent* event) {
         return;
     }
     buildPopup()->popup(event->globalPos());
-}
-
-void frmQlvs::dragEnterEvent(QDragEnterEvent* event) {
-    if (event->mimeData()->hasUrls() && m_model.dropsAccepted()) {
-        event->acceptProposedAction();
-    }
-}
-
-void frmQlvs::dropEvent(QDropEvent* event) {
-    std::vector<std::string> paths;
-    for (const QUrl& url : event->mimeData()->urls()) {
-        if (url.isLocalFile()) {
-            paths.push_back(url.toLocalFile().toStdString());
-        }
-    }
-    event->acceptProposedAction();
-    m_model.dropFiles(paths);
-    sync();
-    m_design.sync();
 }
 
 } // namespace quillora

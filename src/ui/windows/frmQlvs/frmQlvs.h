@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "look/Twips.h"
 #include "models/frmQlvs/QlvsModel.h"
 #include "windows/frmQlvs/AnswerPanel.h"
 #include "windows/frmQlvs/AutoMarker.h"
@@ -68,7 +69,7 @@ public:
     // other way round: where the menu goes back to, so trips between the two
     // leave both where they were.
     void placeOver(QPoint menuCentre);
-    QPoint menuCentre() const;
+    QPoint menuCentre() const { return pos() + menuOffset(); }
 
     // Brings every control in step with the model and starts or stops the
     // timers it asks for.
@@ -125,14 +126,18 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
 
 private:
+    // From the board's top left corner to the centre of the menu it stands
+    // over: the middle of the board before the keyboard lowered it.
+    QPoint menuOffset() const {
+        return QPoint(px(QlvsModel::kWidthTwips) / 2,
+                      px(QlvsModel::kBaseHeightTwips) / 2 - px(m_model.openingDropTwips()));
+    }
     void buildControls();
     void buildTimers();
     void paintPanels();
