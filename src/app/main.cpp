@@ -1,9 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/WebLookUp.h"
 #include "look/Twips.h"
 #include "platform/AlsaSoundPlayer.h"
 #include "platform/Fonts.h"
+#include "platform/HelpPage.h"
 #include "platform/QtDialogs.h"
+#include "platform/QtNetworkCheck.h"
 #include "platform/QtWeb.h"
 #include "ports/ClockRandom.h"
 #include "state/SharedState.h"
@@ -44,7 +47,7 @@ public:
 
     // The start screen, at program start and after every restart.
     void start() {
-        auto screen = std::make_unique<quillora::frmInicio>(m_shared, m_dialogs, m_web,
+        auto screen = std::make_unique<quillora::frmInicio>(m_shared, m_lookUp,
                                                             quillora::Fonts::displayAvailable());
         screen->onMenu = [this] { later([this] { openMenu(std::nullopt); }); };
         screen->onRestart = [] {
@@ -121,7 +124,8 @@ private:
         const QRect menuFrame = m_window ? m_window->frameGeometry() : QRect();
         const QPoint menuCentre =
             menuFrame.topLeft() + QPoint(menuFrame.width() / 2, menuFrame.height() / 2);
-        auto board = std::make_unique<quillora::frmQlvs>(m_shared, m_dialogs, m_random, m_sounds);
+        auto board =
+            std::make_unique<quillora::frmQlvs>(m_shared, m_dialogs, m_random, m_sounds, m_lookUp);
         board->onRestart = [this] { later([this] { start(); }); };
         board->onClose = [] { QCoreApplication::quit(); };
         board->onMenu = [this, window = board.get()] {
@@ -162,7 +166,10 @@ private:
     quillora::SharedState m_shared;
     quillora::QtDialogs m_dialogs;
     quillora::ClockRandom m_random;
+    quillora::QtNetworkCheck m_network;
     quillora::QtWeb m_web;
+    quillora::WebLookUp m_lookUp{m_network, m_web, m_dialogs,
+                                 quillora::Endpoints::fromBuild(quillora::installedHelpPage())};
     quillora::AlsaSoundPlayer m_sounds;
     std::unique_ptr<QWidget> m_window;
     // What the window system's frame adds to a window of the game.

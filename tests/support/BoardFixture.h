@@ -34,7 +34,7 @@ protected:
     void SetUpBoard() {
         // No file yet: the theme is drawn, and a 0 reads as theme 1.
         random.queue({0.0});
-        window = std::make_unique<frmQlvs>(shared, dialogs, random, sounds);
+        window = std::make_unique<frmQlvs>(shared, dialogs, random, sounds, desktop.lookUp);
         window->show();
         window->activateWindow();
         window->setFocus();
@@ -69,6 +69,7 @@ protected:
     ScriptedDialogs dialogs;
     QueuedRandom random;
     RecordingSounds sounds;
+    FakeDesktop desktop{dialogs};
     std::unique_ptr<frmQlvs> window;
 };
 

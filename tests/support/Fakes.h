@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "desktop/WebLookUp.h"
 #include "ports/Dialogs.h"
+#include "ports/NetworkCheck.h"
 #include "ports/Random.h"
 #include "ports/SoundPlayer.h"
 #include "ports/Web.h"
@@ -55,6 +57,7 @@ public:
         std::string text;
         std::string title;
         Question kind = Question::YesNo;
+        bool about = false;
     };
 
     void answer(std::initializer_list<bool> answers) {
@@ -73,6 +76,12 @@ public:
         const bool yes = m_answers.front();
         m_answers.pop_front();
         return yes;
+    }
+
+    void about(const std::string& title, const std::string& text) override {
+        Shown box{false, Icon::Information, text, title};
+        box.about = true;
+        show(std::move(box));
     }
 
     bool scriptUsedUp() const { return m_answers.empty(); }
@@ -129,14 +138,34 @@ struct RecordingEvents : RoundEvents {
     std::vector<bool> panelShown;
 };
 
-// A network that is up or down as the test says, and remembers the pages
-// it was asked to open.
-struct FakeWeb : Web {
-    bool networkAlive() override { return alive; }
-    void openUrl(const std::string& url) override { opened.push_back(url); }
+// A network that is up or down as the test says.
+struct FakeNetwork : NetworkCheck {
+    bool networkAlive() override {
+        ++asked;
+        return alive;
+    }
 
     bool alive = true;
+    int asked = 0;
+};
+
+// A browser that remembers the pages it was asked to open.
+struct FakeWeb : Web {
+    void openUrl(const std::string& url) override { opened.push_back(url); }
+
     std::vector<std::string> opened;
+};
+
+// The desktop as a test sees it: the look-ups of the game on a network and a
+// browser the test controls, telling the player through the test's boxes.
+struct FakeDesktop {
+    static constexpr const char* kHelpPage = "file:///usr/share/quillora-vesta/ayuda.html";
+    explicit FakeDesktop(Dialogs& dialogs)
+        : lookUp(network, web, dialogs, Endpoints::fromBuild(kHelpPage)) {}
+
+    FakeNetwork network;
+    FakeWeb web;
+    WebLookUp lookUp;
 };
 
 } // namespace quillora

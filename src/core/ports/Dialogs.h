@@ -21,6 +21,8 @@ public:
     virtual void message(Icon icon, const std::string& text, const std::string& title) = 0;
     // True for Yes or OK.
     virtual bool ask(Question kind, const std::string& text, const std::string& title) = 0;
+    // The about box: the game's title and words beside the window's icon.
+    virtual void about(const std::string& title, const std::string& text) = 0;
 
     void information(const std::string& text) { message(Icon::Information, text, title()); }
     void exclamation(const std::string& text) { message(Icon::Exclamation, text, title()); }

@@ -6,19 +6,13 @@
 
 namespace quillora {
 
-// The outside world of the browser: whether a network is up, and opening a
-// page with the desktop's own handler.
+// The desktop's own handler for pages and files: the browser, as the player
+// has chosen it.
 class Web {
 public:
     virtual ~Web() = default;
-    virtual bool networkAlive() = 0;
+    // A full URL, already encoded; a failure is not the game's to report.
     virtual void openUrl(const std::string& url) = 0;
 };
-
-// Where the game sends the player.
-inline constexpr const char* kSearchUrl = "https://www.bing.com/search?q=";
-inline constexpr const char* kEncyclopediaUrl = "https://es.wikipedia.org/wiki/";
-inline constexpr const char* kFontDownloadUrl =
-    "https://www.bing.com/search?q=Arial+Rounded+MT+Bold";
 
 } // namespace quillora

@@ -38,4 +38,9 @@ bool QtDialogs::ask(Question kind, const std::string& text, const std::string& t
     return answer == QMessageBox::Yes || answer == QMessageBox::Ok;
 }
 
+void QtDialogs::about(const std::string& title, const std::string& text) {
+    QMessageBox::about(QApplication::activeWindow(), QString::fromStdString(title),
+                       QString::fromStdString(text));
+}
+
 } // namespace quillora

@@ -13,6 +13,7 @@ class QtDialogs final : public Dialogs {
 public:
     void message(Icon icon, const std::string& text, const std::string& title) override;
     bool ask(Question kind, const std::string& text, const std::string& title) override;
+    void about(const std::string& title, const std::string& text) override;
 };
 
 } // namespace quillora

@@ -3,26 +3,14 @@
 #include "platform/QtWeb.h"
 
 #include <QDesktopServices>
-#include <QNetworkInterface>
 #include <QUrl>
 
 namespace quillora {
 
-bool QtWeb::networkAlive() {
-    const auto interfaces = QNetworkInterface::allInterfaces();
-    for (const QNetworkInterface& i : interfaces) {
-        const auto flags = i.flags();
-        if (flags.testFlag(QNetworkInterface::IsUp) &&
-            flags.testFlag(QNetworkInterface::IsRunning) &&
-            !flags.testFlag(QNetworkInterface::IsLoopBack) && !i.addressEntries().isEmpty()) {
-            return true;
-        }
-    }
-    return false;
-}
-
 void QtWeb::openUrl(const std::string& url) {
-    QDesktopServices::openUrl(QUrl(QString::fromStdString(url)));
+    // Strict mode: the URL arrives encoded, and nothing in it may be taken
+    // for something else on the way to the browser.
+    QDesktopServices::openUrl(QUrl(QString::fromStdString(url), QUrl::StrictMode));
 }
 
 } // namespace quillora

@@ -8,8 +8,6 @@ namespace quillora {
 
 class QtWeb final : public Web {
 public:
-    // Some interface other than loopback is up, running and has an address.
-    bool networkAlive() override;
     void openUrl(const std::string& url) override;
 };
 

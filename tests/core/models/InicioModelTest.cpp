@@ -44,17 +44,18 @@ TEST(StartScreen, TheLineRunsSixtyFiveTicksThenShowsTheMenuOrOffersTheFont) {
     EXPECT_EQ(withoutFont.outcome(), InicioModel::Outcome::Waiting);
 
     ScriptedDialogs dialogs;
-    FakeWeb web;
-    web.alive = false;
-    withoutFont.download(web, dialogs);
+    FakeDesktop desktop(dialogs);
+    const FakeWeb& web = desktop.web;
+    desktop.network.alive = false;
+    withoutFont.download(desktop.lookUp);
     ASSERT_EQ(dialogs.shown.size(), 1U);
     EXPECT_EQ(dialogs.shown[0].text,
               "Se requiere una conexión a Internet para descargar, intente más tarde.");
     EXPECT_TRUE(web.opened.empty());
     EXPECT_FALSE(withoutFont.downloaded());
 
-    web.alive = true;
-    withoutFont.download(web, dialogs);
+    desktop.network.alive = true;
+    withoutFont.download(desktop.lookUp);
     EXPECT_EQ(web.opened.size(), 1U);
     EXPECT_TRUE(withoutFont.downloaded());
     EXPECT_EQ(withoutFont.pointerLeft(), InicioModel::kPointerAtRestart);

@@ -16,10 +16,10 @@ namespace {
 TEST(StartScreenWindow, TheMenuComesAfterTheLineOrTheNoticeStaysAndItsButtonsWork) {
     SharedState shared;
     ScriptedDialogs dialogs;
-    FakeWeb web;
+    FakeDesktop desktop(dialogs);
     int menus = 0, restarts = 0;
     for (const bool font : {true, false}) {
-        frmInicio screen(shared, dialogs, web, font);
+        frmInicio screen(shared, desktop.lookUp, font);
         screen.onMenu = [&menus] { ++menus; };
         screen.onRestart = [&restarts] { ++restarts; };
         screen.show();
@@ -31,7 +31,7 @@ TEST(StartScreenWindow, TheMenuComesAfterTheLineOrTheNoticeStaysAndItsButtonsWor
         EXPECT_EQ(screen.notice()->isVisible(), !font);
         if (!font) {
             QTest::mouseClick(screen.downloadButton(), Qt::LeftButton);
-            EXPECT_EQ(web.opened.size(), 1U);
+            EXPECT_EQ(desktop.web.opened.size(), 1U);
             QTest::mouseClick(screen.restartButton(), Qt::LeftButton);
             EXPECT_EQ(restarts, 1);
         }

@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "models/frmInicio/InicioModel.h"
 
-#include "ports/Dialogs.h"
-#include "ports/Web.h"
+#include "desktop/WebLookUp.h"
 #include "state/SharedState.h"
 #include "storage/ConfigFile.h"
 #include "storage/FileReplace.h"
@@ -65,13 +64,10 @@ void InicioModel::eGoForm() {
     m_noticeShown = true;
 }
 
-void InicioModel::download(Web& web, Dialogs& dialogs) {
-    if (!web.networkAlive()) {
-        dialogs.information(
-            "Se requiere una conexión a Internet para descargar, intente más tarde.");
+void InicioModel::download(WebLookUp& lookUp) {
+    if (!lookUp.downloadFont()) {
         return;
     }
-    web.openUrl(kFontDownloadUrl);
     m_pointerLeft = kPointerAtRestart;
     m_downloaded = true;
 }

@@ -4,8 +4,7 @@
 
 namespace quillora {
 
-class Dialogs;
-class Web;
+class WebLookUp;
 struct SharedState;
 
 // What the start of the program sets before the first board opens, and again
@@ -40,7 +39,7 @@ public:
     bool downloaded() const { return m_downloaded; }
 
     // "DESCARGAR", or D while it shows.
-    void download(Web& web, Dialogs& dialogs);
+    void download(WebLookUp& lookUp);
     void restart() { m_outcome = Outcome::Restart; }
     void close() { m_outcome = Outcome::Close; }
     Outcome outcome() const { return m_outcome; }

@@ -32,9 +32,8 @@ QLabel* buttonLabel(const QString& text, int left, QWidget* parent) {
 
 } // namespace
 
-frmInicio::frmInicio(SharedState& shared, Dialogs& dialogs, Web& web, bool fontAvailable,
-                     QWidget* parent)
-    : QWidget(parent), m_model(shared, fontAvailable), m_dialogs(dialogs), m_web(web) {
+frmInicio::frmInicio(SharedState& shared, WebLookUp& lookUp, bool fontAvailable, QWidget* parent)
+    : QWidget(parent), m_model(shared, fontAvailable), m_lookUp(lookUp) {
     setWindowTitle(QStringLiteral("Quillora Vesta"));
     setWindowFlag(Qt::FramelessWindowHint);
     setFixedSize(px(kWidth), px(kHeight));
@@ -152,7 +151,7 @@ bool frmInicio::eventFilter(QObject* watched, QEvent* event) {
     } else if (label == m_cmdRestart) {
         m_model.restart();
     } else if (label == m_cmdDownload) {
-        m_model.download(m_web, m_dialogs);
+        m_model.download(m_lookUp);
     }
     follow();
     return true;
@@ -160,7 +159,7 @@ bool frmInicio::eventFilter(QObject* watched, QEvent* event) {
 
 void frmInicio::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_D && m_model.noticeShown()) {
-        m_model.download(m_web, m_dialogs);
+        m_model.download(m_lookUp);
         follow();
         return;
     }

@@ -17,7 +17,7 @@ namespace quillora {
 // missing display font.
 class frmInicio final : public QWidget {
 public:
-    frmInicio(SharedState& shared, Dialogs& dialogs, Web& web, bool fontAvailable,
+    frmInicio(SharedState& shared, WebLookUp& lookUp, bool fontAvailable,
               QWidget* parent = nullptr);
 
     InicioModel& model() { return m_model; }
@@ -44,8 +44,7 @@ private:
     void follow();
 
     InicioModel m_model;
-    Dialogs& m_dialogs;
-    Web& m_web;
+    WebLookUp& m_lookUp;
     QTimer* m_timer = nullptr;
     QWidget* m_notice = nullptr;
     QLabel* m_cmdDownload = nullptr;

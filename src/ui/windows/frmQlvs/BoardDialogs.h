@@ -25,6 +25,11 @@ public:
         return m_boxes.ask(kind, text, title);
     }
 
+    void about(const std::string& title, const std::string& text) override {
+        m_drawBoard();
+        m_boxes.about(title, text);
+    }
+
 private:
     Dialogs& m_boxes;
     std::function<void()> m_drawBoard;

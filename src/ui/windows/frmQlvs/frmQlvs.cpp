@@ -59,10 +59,10 @@ constexpr int kCopyLeft = 2130, kCopyTop = 3630, kCopyWidth = 780, kCopyHeight =
 } // namespace
 
 frmQlvs::frmQlvs(SharedState& shared, Dialogs& dialogs, Random& random, SoundPlayer& sounds,
-                 QWidget* parent)
+                 WebLookUp& lookUp, QWidget* parent)
     : QWidget(parent), m_boardDialogs(dialogs, [this] { drawNow(); }),
       m_model(shared, m_boardDialogs, random), m_design(m_model, this, [this] { sync(); }),
-      m_sounds(sounds) {
+      m_sounds(sounds), m_lookUp(lookUp) {
     setWindowTitle(QString::fromUtf8(kAppTitle.data(), static_cast<int>(kAppTitle.size())));
     setFocusPolicy(Qt::StrongFocus);
     setAutoFillBackground(true);

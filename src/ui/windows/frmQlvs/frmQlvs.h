@@ -39,6 +39,7 @@ class RoundedLabel;
 class SidePanel;
 class StatsPanel;
 class ThemesPanel;
+class WebLookUp;
 class frmNames;
 class frmWord1;
 class frmWord2;
@@ -48,7 +49,7 @@ class frmWord2;
 class frmQlvs final : public QWidget {
 public:
     frmQlvs(SharedState& shared, Dialogs& dialogs, Random& random, SoundPlayer& sounds,
-            QWidget* parent = nullptr);
+            WebLookUp& lookUp, QWidget* parent = nullptr);
     ~frmQlvs() override;
 
     QlvsModel& model() { return m_model; }
@@ -158,6 +159,7 @@ private:
     // Declared after the model: the design window works on it, and closes first.
     DesignLink m_design;
     SoundPlayer& m_sounds;
+    WebLookUp& m_lookUp;
     BackgroundView* m_imgFondo = nullptr;
 
     GallowsView* m_gallows = nullptr;
