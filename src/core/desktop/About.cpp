@@ -20,6 +20,8 @@ std::string aboutText() {
            "libsndfile y alsa-lib: GNU LGPL 2.1 o posterior";
 }
 
-void eAbout(Dialogs& dialogs) { dialogs.about(std::string(kAppTitle), aboutText()); }
+void eAbout(Dialogs& dialogs) {
+    dialogs.about(std::string(kAppTitle), aboutText());
+}
 
 } // namespace quillora

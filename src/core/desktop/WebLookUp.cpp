@@ -40,8 +40,7 @@ std::string lookUpUrl(std::string_view text, bool encyclopedia, const Endpoints&
     if (encyclopedia) {
         return endpoints.encyclopedia + word;
     }
-    return endpoints.search + word + "&qs=n&form=QBRE&filt=all&pq=" + word +
-           "&sc=0-0&sp=-1&sk=";
+    return endpoints.search + word + "&qs=n&form=QBRE&filt=all&pq=" + word + "&sc=0-0&sp=-1&sk=";
 }
 
 bool isWebAddress(std::string_view url) {
