@@ -5,6 +5,7 @@
 #include "platform/AlsaSoundPlayer.h"
 #include "platform/Fonts.h"
 #include "platform/HelpPage.h"
+#include "platform/ProgramRestart.h"
 #include "platform/QtDialogs.h"
 #include "platform/QtNetworkCheck.h"
 #include "platform/QtWeb.h"
@@ -19,7 +20,6 @@
 #include <QDir>
 #include <QLibraryInfo>
 #include <QLocale>
-#include <QProcess>
 #include <QScreen>
 #include <QStandardPaths>
 #include <QTranslator>
@@ -50,10 +50,7 @@ public:
         auto screen = std::make_unique<quillora::frmInicio>(m_shared, m_lookUp,
                                                             quillora::Fonts::displayAvailable());
         screen->onMenu = [this] { later([this] { openMenu(std::nullopt); }); };
-        screen->onRestart = [] {
-            QProcess::startDetached(QCoreApplication::applicationFilePath(), {});
-            QCoreApplication::quit();
-        };
+        screen->onRestart = [] { quillora::restartProgram(); };
         screen->onClose = [] { QCoreApplication::quit(); };
         centre(*screen);
         screen->show();

@@ -9,6 +9,7 @@
 #include "windows/frmWord2/frmWord2.h"
 
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QTest>
 
@@ -60,6 +61,16 @@ protected:
             window->model().tickOpen();
         }
         window->sync();
+    }
+    // An entry of the board's popup menu as it is built now.
+    QAction* popupEntry(const QString& text) {
+        for (QAction* action : window->buildPopup()->actions()) {
+            if (action->text() == text) {
+                return action;
+            }
+        }
+        ADD_FAILURE() << "no " << text.toStdString() << " in the popup";
+        return nullptr;
     }
     QString strike(int slot) const { return window->strikeLabel(slot)->text(); }
 

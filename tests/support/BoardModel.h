@@ -44,7 +44,8 @@ protected:
     ScriptedDialogs dialogs;
     QueuedRandom random;
     RecordingEvents events;
-    QlvsModel model{shared, dialogs, random, &events};
+    FakeDesktop desktop{dialogs};
+    QlvsModel model{shared, dialogs, random, desktop.lookUp, &events};
 };
 
 } // namespace quillora

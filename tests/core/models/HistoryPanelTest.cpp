@@ -36,7 +36,7 @@ protected:
     }
     // The board as the next opening builds it.
     Entries reopened() {
-        QlvsModel board{shared, dialogs, random};
+        QlvsModel board{shared, dialogs, random, desktop.lookUp};
         board.load();
         return board.history().entries();
     }

@@ -199,7 +199,7 @@ TEST_F(TourTest, TheTourStaysWithItsUserThroughASwitchAndBack) {
     EXPECT_EQ(shared.tourPosition, 4);
 
     // The switch opens a fresh board for the user who came back.
-    QlvsModel board{shared, dialogs, random};
+    QlvsModel board{shared, dialogs, random, desktop.lookUp};
     board.load();
     EXPECT_TRUE(shared.settings.fraseAutomatica);
     EXPECT_EQ(board.round().autoMarkerCaption(), "T");

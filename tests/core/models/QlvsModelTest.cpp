@@ -136,7 +136,7 @@ TEST_F(QlvsModelTest, KeyboardGrowsSixtyTwipsATickAndLampsFollowTheRound) {
 TEST_F(QlvsModelTest, AKeptKeyboardIsThereAtOnceAndOnlyASlidingOneClimbs) {
     shared.settings.tecladoPermanente = true;
     ASSERT_TRUE(ConfSave(shared, dialogs)); // the board takes it from the file
-    QlvsModel kept{shared, dialogs, random};
+    QlvsModel kept{shared, dialogs, random, desktop.lookUp};
     kept.load();
     EXPECT_TRUE(kept.keyboardShown());
     EXPECT_EQ(kept.heightTwips(), QlvsModel::kBaseHeightTwips + QlvsModel::kKeyboardExtraTwips);
@@ -146,7 +146,7 @@ TEST_F(QlvsModelTest, AKeptKeyboardIsThereAtOnceAndOnlyASlidingOneClimbs) {
     // A keyboard that slides out while the option is on climbs 600 twips.
     shared.settings.tecladoPermanente = false;
     ASSERT_TRUE(ConfSave(shared, dialogs));
-    QlvsModel sliding{shared, dialogs, random};
+    QlvsModel sliding{shared, dialogs, random, desktop.lookUp};
     sliding.load();
     shared.settings.tecladoPermanente = true;
     sliding.openKeyboard();

@@ -95,7 +95,7 @@ TEST_F(Survival, SwitchingSavesReopensAndIsToldOnce) {
     ASSERT_TRUE(saved);
     EXPECT_EQ((*saved)[12], "1") << "line 13 keeps the mode";
 
-    QlvsModel reopened{shared, dialogs, random};
+    QlvsModel reopened{shared, dialogs, random, desktop.lookUp};
     reopened.load();
     EXPECT_EQ(reopened.windowTitle(), "Quillora Vesta | Supervivencia");
     reopened.tickAnnounce();

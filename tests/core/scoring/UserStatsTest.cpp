@@ -115,7 +115,7 @@ TEST_F(BoardStatistics, TheCountsStayWithTheirUserAcrossASwitchAndANewBoard) {
     ASSERT_EQ(shared.currentSlot, 1);
     play(U"bdefghij");
 
-    QlvsModel next{shared, dialogs, random};
+    QlvsModel next{shared, dialogs, random, desktop.lookUp};
     next.stats().open();
     EXPECT_EQ(next.stats().value(StatsPanelModel::Games, false), "1");
     EXPECT_EQ(next.stats().value(StatsPanelModel::Errors, false), "8");
@@ -123,7 +123,7 @@ TEST_F(BoardStatistics, TheCountsStayWithTheirUserAcrossASwitchAndANewBoard) {
 
     next.switchSession(0);
     ASSERT_EQ(shared.currentSlot, 0);
-    QlvsModel main{shared, dialogs, random};
+    QlvsModel main{shared, dialogs, random, desktop.lookUp};
     main.stats().open();
     EXPECT_EQ(main.stats().value(StatsPanelModel::Games, false), "1");
     EXPECT_EQ(main.stats().value(StatsPanelModel::Best, false), "400");

@@ -27,7 +27,8 @@ TEST(SessionPanelUserBox, TakesOnlyCharactersAConfigurationLineCanHold) {
     InicioLoad(shared);
     ScriptedDialogs dialogs;
     QueuedRandom random;
-    QlvsModel model(shared, dialogs, random);
+    FakeDesktop desktop(dialogs);
+    QlvsModel model(shared, dialogs, random, desktop.lookUp);
     QWidget board;
     board.resize(800, 500);
     SessionPanel panel(

@@ -32,15 +32,6 @@ const QColor kRefused(255, 128, 128);
 
 class DesignWindow : public BoardWindow {
 protected:
-    QAction* popupEntry(const QString& text) {
-        for (QAction* action : window->buildPopup()->actions()) {
-            if (action->text() == text) {
-                return action;
-            }
-        }
-        ADD_FAILURE() << "no " << text.toStdString() << " in the popup";
-        return nullptr;
-    }
     frmDiseno* openFromMenu() {
         QAction* entry = popupEntry(QStringLiteral("Cambiar diseño"));
         EXPECT_TRUE(entry && entry->isEnabled());

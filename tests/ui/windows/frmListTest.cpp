@@ -169,8 +169,12 @@ TEST_F(ThemeLists, TheHistoryListKeepsEnterAndAltBackspaceAndGivesTheBoardTheRes
     QMenu* search = window->historyPanel()->buildSearchMenu();
     ASSERT_NE(search, nullptr);
     EXPECT_EQ(search->title(), "Buscar");
-    EXPECT_NE(entry(search, QStringLiteral("¿Qué es eso?")), nullptr);
     EXPECT_EQ(window->model().history().lookUpText(), "árbol");
+    QAction* lookUp = entry(search, QStringLiteral("¿Qué es eso?"));
+    ASSERT_NE(lookUp, nullptr);
+    lookUp->trigger();
+    ASSERT_EQ(desktop.web.opened.size(), 1U);
+    EXPECT_EQ(desktop.web.opened[0].rfind("https://www.bing.com/search?q=%C3%A1rbol&", 0), 0U);
     delete search;
 
     dialogs.answer({true});

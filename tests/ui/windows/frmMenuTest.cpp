@@ -59,6 +59,9 @@ TEST_F(MenuWindow, TheMouseAndTheKeysReachTheModel) {
     }
     window->sync();
     EXPECT_EQ(window->legendLabel()->width(), window->numberBox()->parentWidget()->width());
+    QTest::mouseClick(window.get(), Qt::LeftButton, {}, centreOf(Spot::Legend));
+    ASSERT_EQ(dialogs.shown.size(), 1U);
+    EXPECT_TRUE(dialogs.shown[0].about) << "the legend tells about the game";
 
     // "0" swells the window towards the options, which are not ours to open.
     const QPoint centre = window->geometry().center();

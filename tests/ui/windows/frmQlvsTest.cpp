@@ -110,6 +110,27 @@ TEST_F(BoardWindow, AWinCountsItsPointsUpAndSavesTheOptions) {
     EXPECT_EQ(saved->size(), 20U);
 }
 
+TEST_F(BoardWindow, TheBoardHandsItsPagesAndItsAboutBoxToTheDesktop) {
+    startVaca();
+    type("vac");
+    ASSERT_TRUE(window->queEsLabel()->isVisible());
+    QTest::mouseClick(window->queEsLabel(), Qt::LeftButton);
+    ASSERT_EQ(desktop.web.opened.size(), 1U);
+    EXPECT_EQ(desktop.web.opened[0].rfind("https://www.bing.com/search?q=vaca&qs=n", 0), 0U);
+
+    desktop.network.alive = false;
+    QTest::keyClick(window.get(), Qt::Key_F1);
+    popupEntry(QStringLiteral("Ayuda"))->trigger();
+    EXPECT_EQ(desktop.web.opened,
+              (std::vector<std::string>{desktop.web.opened[0], FakeDesktop::kHelpPage,
+                                        FakeDesktop::kHelpPage}));
+    EXPECT_TRUE(dialogs.shown.empty()) << "the installed help needs no network";
+
+    popupEntry(QStringLiteral("Acerca"))->trigger();
+    ASSERT_EQ(dialogs.shown.size(), 1U);
+    EXPECT_TRUE(dialogs.shown[0].about);
+}
+
 TEST_F(BoardWindow, F3RestartsOnOkAndHandsOverOnceTheEventIsOver) {
     bool restarted = false;
     window->onRestart = [&restarted] { restarted = true; };

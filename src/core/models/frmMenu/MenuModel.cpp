@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "models/frmMenu/MenuModel.h"
 
+#include "desktop/About.h"
 #include "players/Players.h"
 
 #include "ports/Dialogs.h"
@@ -234,6 +235,10 @@ void MenuModel::placeWindow(int left, int top) {
 void MenuModel::sizeWindow(int width, int height) {
     m_width = width;
     m_height = height;
+}
+
+void MenuModel::eAbout() {
+    quillora::eAbout(m_dialogs);
 }
 
 } // namespace quillora

@@ -41,6 +41,8 @@ public:
     enum class Spot { Background, Solo, Friend, Several, Options, Lock, Legend };
     // What the window must do next.
     enum class Outcome { Stay, OpenBoard, OpenOptions, About, Quit };
+    // A click on the legend: the about box.
+    void eAbout();
     enum class Key { Character, Escape, Enter, Other };
 
     MenuModel(SharedState& shared, Dialogs& dialogs);

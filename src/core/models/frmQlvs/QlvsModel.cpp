@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "models/frmQlvs/QlvsModel.h"
 
+#include "desktop/About.h"
+#include "desktop/WebLookUp.h"
 #include "look/Picture.h"
 #include "ports/Dialogs.h"
 #include "round/Keyboard.h"
 #include "storage/ConfigFile.h"
+#include "words/Text.h"
 
 #include <exception>
 
@@ -17,11 +20,12 @@ constexpr int kSoundNewPhrase = 2;
 constexpr int kPlaying = 0;
 } // namespace
 
-QlvsModel::QlvsModel(SharedState& shared, Dialogs& dialogs, Random& random, RoundEvents* events)
-    : m_shared(shared), m_dialogs(dialogs), m_outer(events ? *events : m_noEvents),
-      m_round(shared, dialogs, random, this), m_scoring(shared, dialogs),
-      m_sessions(shared, dialogs, random), m_panel(shared), m_stats(shared),
-      m_history(shared, dialogs), m_themesPanel(shared), m_random(random) {
+QlvsModel::QlvsModel(SharedState& shared, Dialogs& dialogs, Random& random, WebLookUp& lookUp,
+                     RoundEvents* events)
+    : m_shared(shared), m_dialogs(dialogs), m_lookUp(lookUp),
+      m_outer(events ? *events : m_noEvents), m_round(shared, dialogs, random, this),
+      m_scoring(shared, dialogs), m_sessions(shared, dialogs, random), m_panel(shared),
+      m_stats(shared), m_history(shared, dialogs), m_themesPanel(shared), m_random(random) {
     // Scoring calls these only when points count. A loss is counted before
     // its points, under the same trap, so a full counter earns the gift.
     m_scoring.onWinStatistics = [this](int points) {
@@ -245,8 +249,10 @@ GameStart QlvsModel::keyTyped(WindowKey key, char32_t character) {
     case WindowKey::F5:
         eSinSVivencia();
         break;
-    case WindowKey::DeadKey:
     case WindowKey::F1:
+        eHelp();
+        break;
+    case WindowKey::DeadKey:
     case WindowKey::MenuKey:
     case WindowKey::Names:
     case WindowKey::Design:
@@ -529,6 +535,23 @@ int QlvsModel::tickTop() {
 
 LampColours QlvsModel::lampColours() const {
     return quillora::lampColours(m_round.lamp(), m_shared.palette);
+}
+
+void QlvsModel::queEsEso() {
+    m_lookUp.mWhat(lowerCase(toUtf8(m_round.board().answerText())),
+                   m_shared.settings.usarEnciclopedia);
+}
+
+void QlvsModel::lookUpHistoryEntry() {
+    m_lookUp.mWhat(m_history.lookUpText(), m_shared.settings.usarEnciclopedia);
+}
+
+void QlvsModel::eHelp() {
+    m_lookUp.eHelp();
+}
+
+void QlvsModel::eAbout() {
+    quillora::eAbout(m_dialogs);
 }
 
 } // namespace quillora

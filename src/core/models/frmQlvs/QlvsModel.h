@@ -21,6 +21,8 @@
 
 namespace quillora {
 
+class WebLookUp;
+
 // The board window's own state beside the game: the score, the countdown,
 // the sessions and their panel, the keyboard's faces under the mouse, the strike-correction
 // label, the keyboard's opening and which of the window's timers run. The
@@ -44,7 +46,8 @@ public:
     static constexpr int kPulseTickMs = 100;
     static constexpr int kGiftTickMs = 1;
 
-    QlvsModel(SharedState& shared, Dialogs& dialogs, Random& random, RoundEvents* events = nullptr);
+    QlvsModel(SharedState& shared, Dialogs& dialogs, Random& random, WebLookUp& lookUp,
+              RoundEvents* events = nullptr);
 
     // The board's opening: the options of the current session are read and
     // applied, and a locked session shows its key panel at once. A step that
@@ -184,6 +187,17 @@ public:
     // when the JUGAR button is hidden.
     GameStart backgroundClicked();
 
+    // --- the desktop ----------------------------------------------------------------
+    // "¿Qué es eso?" under the board once a game is over: the phrase, in
+    // small letters, on the search engine or the encyclopedia.
+    void queEsEso();
+    // The history's "Buscar" menu: the entry chosen for it.
+    void lookUpHistoryEntry();
+    // F1 and "Ayuda".
+    void eHelp();
+    // "Acerca".
+    void eAbout();
+
     // --- players -----------------------------------------------------------------
     // The player whose turn it is, as the label shows it.
     const PlayerLabel& playerLabel() const { return m_player; }
@@ -300,6 +314,7 @@ private:
 
     SharedState& m_shared;
     Dialogs& m_dialogs;
+    WebLookUp& m_lookUp;
     RoundEvents m_noEvents;
     RoundEvents& m_outer;
     Round m_round;

@@ -368,7 +368,7 @@ void frmMenu::follow(MenuModel::Outcome outcome) {
         call(onOptions);
         break;
     case Outcome::About:
-        call(onAbout);
+        m_model.eAbout();
         break;
     case Outcome::Stay:
         break;

@@ -29,8 +29,6 @@ public:
     std::function<void()> onPlay;
     std::function<void()> onQuit;
     std::function<void()> onOptions;
-    // A click on the legend.
-    std::function<void()> onAbout;
 
     // Brings the controls, the window's size and the timers in step with the model.
     void sync();

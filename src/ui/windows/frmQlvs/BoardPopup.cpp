@@ -30,7 +30,6 @@ QMenu* buildBoardPopup(QlvsModel& model, QWidget* board, const std::function<voi
         a->setCheckable(true);
         a->setChecked(on);
     };
-    // Entries whose windows come later are listed in their places, greyed.
     entry(
         "Nuevo partida", [&model] { model.eMenuNew(); }, round.newGameEnabled());
     menu->addSeparator();
@@ -54,8 +53,8 @@ QMenu* buildBoardPopup(QlvsModel& model, QWidget* board, const std::function<voi
     entry("Historial", [&model] { model.ePlayed(); });
     entry("Cambiar diseño", design, model.designOffered());
     menu->addSeparator();
-    entry("Ayuda", nullptr, false);
-    entry("Acerca", nullptr, false);
+    entry("Ayuda", [&model] { model.eHelp(); });
+    entry("Acerca", [&model] { model.eAbout(); });
     menu->addSeparator();
     entry("Salir", quit);
     return menu;

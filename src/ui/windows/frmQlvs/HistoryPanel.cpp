@@ -54,9 +54,8 @@ QMenu* HistoryPanel::buildSearchMenu() {
     }
     auto* menu = new QMenu(QStringLiteral("Buscar"), this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    // The look-up itself opens the browser, which comes with the web pages;
-    // the entry stands in its place until then.
-    menu->addAction(QStringLiteral("¿Qué es eso?"))->setEnabled(false);
+    connect(menu->addAction(QStringLiteral("¿Qué es eso?")), &QAction::triggered, this,
+            [this] { m_model.lookUpHistoryEntry(); });
     return menu;
 }
 

@@ -61,8 +61,8 @@ constexpr int kCopyLeft = 2130, kCopyTop = 3630, kCopyWidth = 780, kCopyHeight =
 frmQlvs::frmQlvs(SharedState& shared, Dialogs& dialogs, Random& random, SoundPlayer& sounds,
                  WebLookUp& lookUp, QWidget* parent)
     : QWidget(parent), m_boardDialogs(dialogs, [this] { drawNow(); }),
-      m_model(shared, m_boardDialogs, random), m_design(m_model, this, [this] { sync(); }),
-      m_sounds(sounds), m_lookUp(lookUp) {
+      m_model(shared, m_boardDialogs, random, lookUp), m_design(m_model, this, [this] { sync(); }),
+      m_sounds(sounds) {
     setWindowTitle(QString::fromUtf8(kAppTitle.data(), static_cast<int>(kAppTitle.size())));
     setFocusPolicy(Qt::StrongFocus);
     setAutoFillBackground(true);
@@ -219,6 +219,8 @@ void frmQlvs::buildControls() {
     m_lblQueEs->setGeometry(twipRect(kQueEsLeft, kQueEsTop, kQueEsWidth, kQueEsHeight));
     m_lblQueEs->setAlignment(Qt::AlignCenter);
     m_lblQueEs->setFont(Fonts::display(10));
+    m_lblQueEs->setCursor(Qt::PointingHandCursor);
+    m_lblQueEs->installEventFilter(this);
 
     m_answerPanel = new AnswerPanel(
         m_model, changed, [this](QKeyEvent* key) { return windowShortcut(key); }, this);
@@ -522,6 +524,10 @@ bool frmQlvs::eventFilter(QObject* watched, QEvent* event) {
     if (watched == m_lblCont && event->type() == QEvent::MouseButtonPress) {
         m_model.eWinClose();
         sync();
+        return true;
+    }
+    if (watched == m_lblQueEs && event->type() == QEvent::MouseButtonPress) {
+        m_model.queEsEso();
         return true;
     }
     return QWidget::eventFilter(watched, event);

@@ -81,6 +81,7 @@ public:
     QLabel* counterLabel() const { return m_lblCont; }
     QLabel* themeLabel() const { return m_themeBox->themeLabel(); }
     QLabel* timeLabel() const { return m_lblTime; }
+    QLabel* queEsLabel() const { return m_lblQueEs; }
     QTimer* countdownTimer() const { return m_tmrOver; }
     QTimer* soundTimer() const { return m_tmrSound; }
     QTimer* scoreTimer() const { return m_tmrScore; }
@@ -159,7 +160,6 @@ private:
     // Declared after the model: the design window works on it, and closes first.
     DesignLink m_design;
     SoundPlayer& m_sounds;
-    WebLookUp& m_lookUp;
     BackgroundView* m_imgFondo = nullptr;
 
     GallowsView* m_gallows = nullptr;
