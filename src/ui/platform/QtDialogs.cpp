@@ -39,8 +39,10 @@ bool QtDialogs::ask(Question kind, const std::string& text, const std::string& t
 }
 
 void QtDialogs::about(const std::string& title, const std::string& text) {
-    QMessageBox::about(QApplication::activeWindow(), QString::fromStdString(title),
-                       QString::fromStdString(text));
+    // The game's texts end their lines the Windows way; a label wants "\n".
+    QString words = QString::fromStdString(text);
+    words.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    QMessageBox::about(QApplication::activeWindow(), QString::fromStdString(title), words);
 }
 
 } // namespace quillora
