@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/WebLookUp.h"
 #include "look/Twips.h"
+#include "platform/AppIcon.h"
 #include "platform/AlsaSoundPlayer.h"
 #include "platform/Fonts.h"
 #include "platform/HelpPage.h"
@@ -178,6 +179,7 @@ private:
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quillora-vesta"));
+    QApplication::setWindowIcon(quillora::appIcon());
 
     // The standard buttons of the message boxes speak Spanish like the rest
     // of the game, whatever the desktop's language.
