@@ -5,6 +5,7 @@
 #include "windows/frmQlvs/KeyboardAccessible.h"
 #include "windows/frmQlvs/KeyboardView.h"
 #include "windows/frmQlvs/PhraseView.h"
+#include "windows/frmQlvs/SessionPanel.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -155,6 +156,21 @@ TEST_F(BoardAccess, TheKeyboardReachesTheMenuAndEveryFocusedControlShowsAMark) {
     QTest::keyClick(history, Qt::Key_Escape);
     EXPECT_FALSE(history->isVisible());
     EXPECT_TRUE(window->hasFocus()) << "typing goes back to the board";
+
+    // The session panel covers the board: Tab keeps to its boxes.
+    QTest::keyClick(window.get(), Qt::Key_F4);
+    while (window->model().panel().animating()) {
+        window->model().panel().tick();
+    }
+    window->sync();
+    QLineEdit* key = window->sessionPanel()->keyBox();
+    ASSERT_TRUE(key->hasFocus());
+    EXPECT_LT(edge(key), 60);
+    for (int tab = 0; tab < 3; ++tab) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        EXPECT_TRUE(window->sessionPanel()->isAncestorOf(QApplication::focusWidget()))
+            << QApplication::focusWidget()->metaObject()->className();
+    }
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include "windows/QtColour.h"
 #include "windows/frmQlvs/BoardAccessible.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -253,6 +254,24 @@ void SessionPanel::keyPressEvent(QKeyEvent* event) {
         return;
     }
     QWidget::keyPressEvent(event);
+}
+
+bool SessionPanel::focusNextPrevChild(bool next) {
+    QList<QWidget*> stops;
+    for (QWidget* box : {static_cast<QWidget*>(m_txtUser), static_cast<QWidget*>(m_lstSessions),
+                         static_cast<QWidget*>(activeKeyBox())}) {
+        if (box->isVisible()) {
+            stops.append(box);
+        }
+    }
+    if (!isVisible() || stops.isEmpty()) {
+        return QWidget::focusNextPrevChild(next);
+    }
+    const int at = static_cast<int>(stops.indexOf(QApplication::focusWidget()));
+    const int count = static_cast<int>(stops.size());
+    const int to = at < 0 ? 0 : (at + (next ? 1 : count - 1)) % count;
+    stops[to]->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
 }
 
 void SessionPanel::mousePressEvent(QMouseEvent* event) {
