@@ -5,6 +5,7 @@
 #include "look/Twips.h"
 #include "models/frmQlvs/QlvsModel.h"
 #include "platform/Fonts.h"
+#include "windows/frmQlvs/BoardAccessible.h"
 
 #include <QLabel>
 #include <QMouseEvent>
@@ -24,6 +25,7 @@ QLabel* makeLabel(const QString& text, int left, int width, QWidget* board) {
     label->setAlignment(Qt::AlignCenter);
     label->setFont(Fonts::display(11));
     label->setCursor(Qt::PointingHandCursor);
+    setAccessibleRole(label, QAccessible::Button);
     label->hide();
     return label;
 }

@@ -8,6 +8,7 @@
 #include "round/Keyboard.h"
 #include "windows/QtColour.h"
 #include "windows/TypedTextFilter.h"
+#include "windows/frmQlvs/BoardAccessible.h"
 
 #include <QKeyEvent>
 #include <QLabel>
@@ -27,12 +28,15 @@ AnswerPanel::AnswerPanel(QlvsModel& model, std::function<void()> changed,
     setObjectName(QStringLiteral("frmeWord"));
     setGeometry(px(kLeft), px(kTop), px(kWidth), px(kHeight));
     setAttribute(Qt::WA_StyledBackground);
+    setAccessibleRole(this, QAccessible::Grouping);
+    setAccessibleName(QStringLiteral("Introduzca Frase a Adivinar"));
     m_lblPrompt = new QLabel(QStringLiteral(" Introduzca Frase a Adivinar "), this);
     m_lblPrompt->setGeometry(px(60), px(75), px(3000), px(390));
     m_lblPrompt->setFont(Fonts::display(9));
     m_txtWord = new QLineEdit(this);
     m_txtWord->setGeometry(px(3060), px(75), px(4320), px(390));
     m_txtWord->setFont(Fonts::display(11));
+    m_txtWord->setAccessibleName(accessibleName());
     // The filter installed last looks first: the board's keys come first,
     // then "!" and Enter, then the typing rule.
     new TypedTextFilter(m_txtWord, [](char32_t c, const QString& before) {
@@ -54,7 +58,8 @@ void AnswerPanel::paint(const QString& gameColour) {
     setStyleSheet(QStringLiteral("#frmeWord { background: %1; border-radius: %2px; }"
                                  "QLabel { color: white; }")
                       .arg(gameColour)
-                      .arg(px(90)));
+                      .arg(px(90)) +
+                  focusMarkStyle(QStringLiteral("QLineEdit")));
 }
 
 void AnswerPanel::sync() {

@@ -3,9 +3,11 @@
 #include "windows/frmQlvs/AutoMarker.h"
 
 #include "look/Twips.h"
+#include "models/frmQlvs/BoardSpeech.h"
 #include "models/frmQlvs/QlvsModel.h"
 #include "platform/Fonts.h"
 #include "windows/QtColour.h"
+#include "windows/frmQlvs/BoardAccessible.h"
 
 namespace quillora {
 
@@ -19,6 +21,7 @@ AutoMarker::AutoMarker(QlvsModel& model, std::function<void()> changed, QWidget*
     setAlignment(Qt::AlignCenter);
     setFont(Fonts::display(9));
     setCursor(Qt::PointingHandCursor);
+    setAccessibleRole(this, QAccessible::Button);
     setStyleSheet(QStringLiteral("background: %1; color: %2; border-radius: 3px;")
                       .arg(css(kPictureButtonBack), css(kAutoMarkerText)));
 }
@@ -28,6 +31,7 @@ void AutoMarker::sync() {
     setVisible(round.autoMarkerVisible());
     setText(qs(round.autoMarkerCaption()));
     setToolTip(qs(round.autoMarkerTooltip()));
+    setSpokenName(this, qs(spokenAutoMarker(round.autoMarkerCaption())));
 }
 
 void AutoMarker::mousePressEvent(QMouseEvent*) {

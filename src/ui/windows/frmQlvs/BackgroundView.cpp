@@ -4,6 +4,7 @@
 
 #include "look/Twips.h"
 #include "models/frmQlvs/QlvsModel.h"
+#include "windows/frmQlvs/BoardAccessible.h"
 
 #include <QPainter>
 
@@ -12,6 +13,8 @@ namespace quillora {
 BackgroundView::BackgroundView(const QlvsModel& model, QWidget* board)
     : QWidget(board), m_model(model) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
+    setAccessibleRole(this, QAccessible::Graphic);
+    setAccessibleName(QStringLiteral("Imagen de fondo"));
     // The picture area is the board without its keyboard.
     setGeometry(0, 0, px(QlvsModel::kWidthTwips), px(QlvsModel::kBaseHeightTwips));
     lower();

@@ -28,6 +28,10 @@ QlvsModel::WindowKey shortcutOf(const QKeyEvent& event) {
     if (mods == Qt::AltModifier) {
         return event.key() == Qt::Key_Backspace ? WindowKey::BackToMenu : WindowKey::Other;
     }
+    // Shift+F10 stands in for the menu key on keyboards that have none.
+    if (event.key() == Qt::Key_F10 && event.modifiers() & Qt::ShiftModifier) {
+        return WindowKey::MenuKey;
+    }
     switch (event.key()) {
     case Qt::Key_F1:
         return WindowKey::F1;

@@ -3,9 +3,11 @@
 #include "windows/frmQlvs/GallowsView.h"
 
 #include "look/Twips.h"
+#include "models/frmQlvs/BoardSpeech.h"
 #include "platform/Fonts.h"
 #include "round/Figure.h"
 #include "windows/QtColour.h"
+#include "windows/frmQlvs/BoardAccessible.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -52,6 +54,12 @@ GallowsView::GallowsView(const Figure& figure, QWidget* parent)
     : QWidget(parent), m_figure(figure) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setGeometry(0, 0, px(kWidthTwips), px(kHeightTwips));
+    setAccessibleRole(this, QAccessible::Graphic);
+}
+
+void GallowsView::sync() {
+    update();
+    setSpokenName(this, qs(spokenFigure(m_figure)));
 }
 
 void GallowsView::paintEvent(QPaintEvent*) {

@@ -18,6 +18,9 @@ public:
     static constexpr int kWidthTwips = 2760;
     static constexpr int kHeightTwips = 4320;
 
+    // Repaints, and names the figure by the strikes it shows.
+    void sync();
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 

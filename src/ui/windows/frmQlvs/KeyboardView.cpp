@@ -3,9 +3,12 @@
 #include "windows/frmQlvs/KeyboardView.h"
 
 #include "look/Twips.h"
+#include "models/frmQlvs/BoardSpeech.h"
 #include "models/frmQlvs/QlvsModel.h"
 #include "platform/Fonts.h"
 #include "windows/QtColour.h"
+#include "windows/frmQlvs/BoardAccessible.h"
+#include "windows/frmQlvs/KeyboardAccessible.h"
 
 #include <QHelpEvent>
 #include <QMouseEvent>
@@ -25,6 +28,44 @@ KeyboardView::KeyboardView(QlvsModel& model, std::function<void()> changed, QWid
     : QWidget(parent), m_model(model), m_changed(std::move(changed)) {
     setMouseTracking(true);
     setGeometry(px(kLeftTwips), px(kTopTwips), px(kWidthTwips), px(kHeightTwips));
+    setAccessibleName(QStringLiteral("Teclado"));
+}
+
+bool KeyboardView::keyUsable(int key) const {
+    const Round& round = m_model.round();
+    const char32_t letter = keyLetter(key);
+    return round.inPlay() && (letter == 0 || !round.board().alreadyTried(letter));
+}
+
+void KeyboardView::press(int key) {
+    m_model.pressKey(key);
+    m_model.releaseMouse(key);
+    m_model.leaveKeys();
+    m_changed();
+}
+
+void KeyboardView::sync() {
+    update();
+    QList<int> named, described, restated;
+    for (int key = 0; key < kKeyCount; ++key) {
+        Spoken now{qs(spokenKeyName(m_model.round(), key)),
+                   qs(spokenKeyDescription(m_model.round(), key)), keyShown(key), keyUsable(key)};
+        Spoken& before = m_spoken[static_cast<std::size_t>(key)];
+        const int child = KeyboardAccessible::childOfKey(key);
+        if (now.name != before.name) {
+            named.append(child);
+        }
+        if (now.description != before.description) {
+            described.append(child);
+        }
+        if (now.shown != before.shown || now.usable != before.usable) {
+            restated.append(child);
+        }
+        before = std::move(now);
+    }
+    announceChildren(this, named, QAccessible::NameChanged);
+    announceChildren(this, described, QAccessible::DescriptionChanged);
+    announceChildren(this, restated, QAccessible::StateChanged);
 }
 
 bool KeyboardView::keyShown(int key) const {

@@ -2,8 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "round/Keyboard.h"
+
+#include <QString>
 #include <QWidget>
 
+#include <array>
 #include <functional>
 
 namespace quillora {
@@ -28,6 +32,15 @@ public:
     int keyAt(QPoint point) const;
     // The key's rectangle in this widget's pixels.
     QRect keyRect(int key) const;
+    // Whether the board shows the key, and whether a click on it would do
+    // anything now.
+    bool keyShown(int key) const;
+    bool keyUsable(int key) const;
+    const QlvsModel& model() const { return m_model; }
+    // A whole click on the key, as a screen reader asks for one.
+    void press(int key);
+    // Repaints, and tells a screen reader of every key that changed.
+    void sync();
 
 protected:
     bool event(QEvent* event) override;
@@ -38,10 +51,17 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
-    bool keyShown(int key) const;
+    // What a screen reader was last told of each key.
+    struct Spoken {
+        QString name;
+        QString description;
+        bool shown = false;
+        bool usable = false;
+    };
 
     QlvsModel& m_model;
     std::function<void()> m_changed;
+    std::array<Spoken, kKeyCount> m_spoken{};
 };
 
 } // namespace quillora

@@ -3,9 +3,11 @@
 #include "windows/frmQlvs/PhraseView.h"
 
 #include "look/Twips.h"
+#include "models/frmQlvs/BoardSpeech.h"
 #include "models/frmQlvs/QlvsModel.h"
 #include "platform/Fonts.h"
 #include "windows/QtColour.h"
+#include "windows/frmQlvs/BoardAccessible.h"
 
 #include <QPainter>
 
@@ -24,6 +26,7 @@ constexpr double kCellFontPoints = 20.25;
 
 PhraseView::PhraseView(const QlvsModel& model, QWidget* parent) : QWidget(parent), m_model(model) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
+    setAccessibleName(QStringLiteral("Frase"));
     const int width = kColumnPitch * (PhraseBoard::kColumns - 1) + kCellSize;
     const int height = kRowPitch * 2 + kCellSize + 30;
     setGeometry(px(kLeftTwips), px(kTopTwips), px(width), px(height));
@@ -35,6 +38,25 @@ QFont PhraseView::makeCellFont() {
     QFont font = Fonts::display(kCellFontPoints);
     font.setPixelSize(pointsToPixels(kCellFontPoints) * kTwipsPerPixel);
     return font;
+}
+
+QRect PhraseView::cellRect(int cell) const {
+    const int row = (cell - 1) / PhraseBoard::kColumns;
+    const int column = (cell - 1) % PhraseBoard::kColumns;
+    return QRect(px(kColumnPitch * column), px(kRowPitch * row), px(kCellSize), px(kCellSize));
+}
+
+void PhraseView::sync() {
+    update();
+    QList<int> changed;
+    for (int i = 1; i <= PhraseBoard::kCells; ++i) {
+        QString name = qs(spokenCellName(m_model.round().board().cell(i)));
+        if (name != m_spoken[static_cast<std::size_t>(i - 1)]) {
+            m_spoken[static_cast<std::size_t>(i - 1)] = std::move(name);
+            changed.append(i - 1);
+        }
+    }
+    announceChildren(this, changed, QAccessible::NameChanged);
 }
 
 void PhraseView::paintEvent(QPaintEvent*) {

@@ -2,8 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "round/PhraseBoard.h"
+
 #include <QFont>
 #include <QWidget>
+
+#include <array>
 
 namespace quillora {
 
@@ -19,6 +23,11 @@ public:
 
     // The face the cells' letters are painted in.
     const QFont& cellFont() const { return m_cellFont; }
+    const QlvsModel& model() const { return m_model; }
+    // Cell 1..42 in this widget's pixels.
+    QRect cellRect(int cell) const;
+    // Repaints, and tells a screen reader of every cell that reads anew.
+    void sync();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -28,6 +37,7 @@ private:
 
     const QlvsModel& m_model;
     QFont m_cellFont = makeCellFont();
+    std::array<QString, PhraseBoard::kCells> m_spoken;
 };
 
 } // namespace quillora

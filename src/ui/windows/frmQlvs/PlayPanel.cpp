@@ -6,6 +6,7 @@
 #include "models/frmQlvs/QlvsModel.h"
 #include "platform/Fonts.h"
 #include "windows/QtColour.h"
+#include "windows/frmQlvs/BoardAccessible.h"
 
 #include <QLabel>
 #include <QMenu>
@@ -25,6 +26,8 @@ PlayPanel::PlayPanel(QlvsModel& model, std::function<void()> changed, std::funct
                      QWidget* board)
     : QWidget(board), m_model(model), m_changed(std::move(changed)), m_play(std::move(play)) {
     setGeometry(px(kLeft), px(kTop), px(kWidth), px(kHeight));
+    setAccessibleRole(this, QAccessible::Grouping);
+    setAccessibleName(QStringLiteral("JUGAR"));
     m_cmdGame = new QPushButton(this);
     m_cmdGame->setGeometry(0, 0, px(kWidth), px(kHeight));
     m_cmdGame->setFocusPolicy(Qt::NoFocus);
@@ -39,6 +42,8 @@ PlayPanel::PlayPanel(QlvsModel& model, std::function<void()> changed, std::funct
     m_lblRestore->setGeometry(0, 0, px(kWidth), px(kHeight));
     m_lblRestore->setCursor(Qt::PointingHandCursor);
     m_lblRestore->installEventFilter(this);
+    setAccessibleRole(m_lblRestore, QAccessible::Button);
+    m_lblRestore->setAccessibleName(QStringLiteral("Regresar botón JUGAR"));
 }
 
 void PlayPanel::paint(const QString& buttonStyle, const QString& restoreStyle) {

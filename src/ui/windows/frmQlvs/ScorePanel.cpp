@@ -7,6 +7,7 @@
 #include "platform/Fonts.h"
 #include "windows/QtColour.h"
 #include "windows/RoundedLabel.h"
+#include "windows/frmQlvs/BoardAccessible.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -24,9 +25,13 @@ ScorePanel::ScorePanel(QlvsModel& model, std::function<void()> changed, std::fun
                        QWidget* board)
     : QWidget(board), m_model(model), m_changed(std::move(changed)), m_names(std::move(names)) {
     setGeometry(px(kLeft), px(kTop), px(kWidth), px(kHeight));
+    setAccessibleRole(this, QAccessible::Grouping);
+    setAccessibleName(QStringLiteral("Marcador"));
 
     m_frmeScore = new RoundedLabel(this);
     m_frmeScore->setObjectName(QStringLiteral("frmeScore"));
+    setAccessibleRole(m_frmeScore, QAccessible::Grouping);
+    m_frmeScore->setAccessibleName(QStringLiteral("Puntos"));
     m_frmeScore->setGeometry(0, 0, px(kWidth), px(kHeight));
     auto* caption = new QLabel(QStringLiteral(" Puntos "), m_frmeScore);
     caption->setGeometry(0, px(15), px(kWidth), px(kCaptionHeight));
@@ -36,6 +41,7 @@ ScorePanel::ScorePanel(QlvsModel& model, std::function<void()> changed, std::fun
     m_lblScore->setGeometry(0, px(kCaptionHeight), px(kWidth), px(kHeight - 240));
     m_lblScore->setAlignment(Qt::AlignCenter);
     m_lblScore->setFont(Fonts::display(14));
+    m_lblScore->setAccessibleDescription(QStringLiteral("Puntos"));
     // The score's menu is there only while it has something to offer.
     m_frmeScore->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(m_frmeScore, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
@@ -46,6 +52,8 @@ ScorePanel::ScorePanel(QlvsModel& model, std::function<void()> changed, std::fun
 
     m_frmePlayer = new RoundedLabel(this);
     m_frmePlayer->setObjectName(QStringLiteral("frmePlayer"));
+    setAccessibleRole(m_frmePlayer, QAccessible::Grouping);
+    m_frmePlayer->setAccessibleName(QStringLiteral("Jugador"));
     m_frmePlayer->setGeometry(0, 0, px(kWidth), px(kHeight));
     m_lblPlayer1 = new QLabel(m_frmePlayer);
     m_lblPlayer1->setGeometry(0, 0, px(kWidth), px(kHeight));

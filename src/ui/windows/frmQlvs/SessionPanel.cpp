@@ -7,7 +7,9 @@
 #include "platform/Fonts.h"
 #include "storage/ConfigFile.h"
 #include "windows/QtColour.h"
+#include "windows/frmQlvs/BoardAccessible.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -50,6 +52,8 @@ SessionPanel::SessionPanel(QlvsModel& model, std::function<void()> changed, QWid
     setAttribute(Qt::WA_StyledBackground);
     setObjectName(QStringLiteral("frmeSesion"));
     setFocusPolicy(Qt::StrongFocus);
+    setAccessibleRole(this, QAccessible::Grouping);
+    setAccessibleName(QStringLiteral("Sesión"));
 
     m_lblUser = new QLabel(QStringLiteral(" Usuario"), this);
     m_lblUser->setGeometry(px(240), px(180), px(5400), px(420));
@@ -57,6 +61,9 @@ SessionPanel::SessionPanel(QlvsModel& model, std::function<void()> changed, QWid
     m_lblUser->setCursor(Qt::PointingHandCursor);
     m_lblUser->setContextMenuPolicy(Qt::CustomContextMenu);
     m_lblUser->installEventFilter(this);
+    // The user's name is the label's text; a click opens the list of sessions.
+    setAccessibleRole(m_lblUser, QAccessible::Button);
+    m_lblUser->setAccessibleDescription(QStringLiteral("Usuario"));
     connect(m_lblUser, &QLabel::customContextMenuRequested, this, [this](const QPoint& at) {
         QMenu menu(this);
         QAction* add = menu.addAction(QStringLiteral("+ Agregar sesión"));
@@ -70,6 +77,7 @@ SessionPanel::SessionPanel(QlvsModel& model, std::function<void()> changed, QWid
 
     m_txtUser = new QLineEdit(this);
     m_txtUser->setPlaceholderText(QStringLiteral("Nombre"));
+    m_txtUser->setAccessibleName(QStringLiteral("Nombre"));
     m_txtUser->setValidator(new StorableNameValidator(m_txtUser));
     m_txtUser->setGeometry(px(5880), px(180), px(3240), px(420));
     m_txtUser->setFont(Fonts::display(11));
@@ -78,6 +86,7 @@ SessionPanel::SessionPanel(QlvsModel& model, std::function<void()> changed, QWid
     m_lstSessions->setFont(Fonts::display(12));
     m_lstSessions->setFrameShape(QFrame::NoFrame);
     m_lstSessions->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_lstSessions->setAccessibleName(QStringLiteral("Sesiones"));
     connect(m_lstSessions, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
         m_model.switchSession(item->data(Qt::UserRole).toInt());
         m_changed();
@@ -97,17 +106,20 @@ SessionPanel::SessionPanel(QlvsModel& model, std::function<void()> changed, QWid
         (*box)->setFont(Fonts::display(14));
         (*box)->setAlignment(Qt::AlignCenter);
         (*box)->installEventFilter(this);
+        (*box)->setAccessibleName(QStringLiteral("Clave"));
     }
     m_cmdEnter = new QPushButton(QStringLiteral(">"), m_frmeKey);
     m_cmdEnter->setGeometry(px(kKeyFrameWidth - 1080), px(660), px(600), px(540));
     m_cmdEnter->setFont(Fonts::display(14));
     m_cmdEnter->setFocusPolicy(Qt::NoFocus);
+    m_cmdEnter->setAccessibleName(QStringLiteral("Entrar"));
     connect(m_cmdEnter, &QPushButton::clicked, this, &SessionPanel::enter);
 
     m_lblCancel = new QLabel(QStringLiteral(" Cerrar "), this);
     m_lblCancel->setFont(Fonts::display(10));
     m_lblCancel->setCursor(Qt::PointingHandCursor);
     m_lblCancel->installEventFilter(this);
+    setAccessibleRole(m_lblCancel, QAccessible::Button);
 
     m_lblWarning = new QLabel(
         QStringLiteral("El progreso de la partida no se guarda, termine si piensa continuar."),
@@ -156,7 +168,10 @@ void SessionPanel::sync() {
             "#frmeSesion { background: %1; } QLabel { color: white; }"
             "QListWidget { background: %2; color: white; }"
             "QPushButton { background: %2; color: white; border: none; border-radius: 6px; }")
-            .arg(css(m_model.gameColour()), css(m_model.shade())));
+            .arg(css(m_model.gameColour()), css(m_model.shade())) +
+        focusMarkStyle(QStringLiteral("QLineEdit")) +
+        focusMarkStyle(QStringLiteral("QListWidget"), true) +
+        focusMarkStyle(QStringLiteral("#frmeSesion"), true));
     if (!panel.shown()) {
         return;
     }
@@ -239,6 +254,24 @@ void SessionPanel::keyPressEvent(QKeyEvent* event) {
         return;
     }
     QWidget::keyPressEvent(event);
+}
+
+bool SessionPanel::focusNextPrevChild(bool next) {
+    QList<QWidget*> stops;
+    for (QWidget* box : {static_cast<QWidget*>(m_txtUser), static_cast<QWidget*>(m_lstSessions),
+                         static_cast<QWidget*>(activeKeyBox())}) {
+        if (box->isVisible()) {
+            stops.append(box);
+        }
+    }
+    if (!isVisible() || stops.isEmpty()) {
+        return QWidget::focusNextPrevChild(next);
+    }
+    const int at = static_cast<int>(stops.indexOf(QApplication::focusWidget()));
+    const int count = static_cast<int>(stops.size());
+    const int to = at < 0 ? 0 : (at + (next ? 1 : count - 1)) % count;
+    stops[to]->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
 }
 
 void SessionPanel::mousePressEvent(QMouseEvent* event) {

@@ -38,6 +38,9 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    // While the panel covers the board, Tab walks its own boxes only: the
+    // board behind it can take no key.
+    bool focusNextPrevChild(bool next) override;
 
 private:
     QLineEdit* activeKeyBox() const;

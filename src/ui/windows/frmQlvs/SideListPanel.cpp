@@ -5,6 +5,7 @@
 #include "look/Twips.h"
 #include "platform/Fonts.h"
 #include "windows/QtColour.h"
+#include "windows/frmQlvs/BoardAccessible.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -26,6 +27,12 @@ SideListPanel::SideListPanel(const QString& name, const QString& title, std::fun
     setObjectName(name);
     setAttribute(Qt::WA_StyledBackground);
     setGeometry(px(kLeft), px(kTop), px(kWidth), px(kHeight));
+    setAccessibleRole(this, QAccessible::Grouping);
+    QString spoken = title.trimmed();
+    if (spoken.endsWith(QLatin1Char(':'))) {
+        spoken.chop(1);
+    }
+    setAccessibleName(spoken);
 
     auto* caption = new QLabel(title, this);
     caption->setGeometry(px(kMargin), px(45), px(kWidth - 2 * kMargin), px(540));
@@ -37,6 +44,7 @@ SideListPanel::SideListPanel(const QString& name, const QString& title, std::fun
     m_lblX->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_lblX->setCursor(Qt::PointingHandCursor);
     m_lblX->installEventFilter(this);
+    setAccessibleRole(m_lblX, QAccessible::Button);
 
     m_list = new QListWidget(this);
     m_list->setGeometry(px(kMargin), px(kListTop), px(kWidth - 2 * kMargin),
@@ -57,7 +65,8 @@ void SideListPanel::paint(const QString& gameColour, const QString& shade) {
                                  "QListWidget::item:selected { background: %4; color: white; }")
                       .arg(objectName(), gameColour)
                       .arg(px(90))
-                      .arg(shade));
+                      .arg(shade) +
+                  focusMarkStyle(QStringLiteral("QListWidget")));
 }
 
 void SideListPanel::present(bool shown, const std::vector<std::string>& entries) {

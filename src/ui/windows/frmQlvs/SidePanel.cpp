@@ -4,6 +4,7 @@
 
 #include "look/Twips.h"
 #include "models/frmQlvs/SidePanelModel.h"
+#include "windows/frmQlvs/BoardAccessible.h"
 
 namespace quillora {
 
@@ -15,6 +16,8 @@ constexpr int kLeft = 120, kTop = 840, kWidth = 2760, kHeight = 3900;
 SidePanel::SidePanel(const SidePanelModel& model, QWidget* board) : QWidget(board), m_model(model) {
     setObjectName(QStringLiteral("frmeSide"));
     setAttribute(Qt::WA_StyledBackground);
+    setAccessibleRole(this, QAccessible::Grouping);
+    setAccessibleName(QStringLiteral("Panel lateral"));
     setGeometry(px(kLeft), px(kTop), px(kWidth), px(kHeight));
     hide();
 }

@@ -5,6 +5,7 @@
 #include "look/Twips.h"
 #include "models/frmQlvs/QlvsModel.h"
 #include "windows/QtColour.h"
+#include "windows/frmQlvs/BoardAccessible.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -27,10 +28,12 @@ SoundButton::SoundButton(QlvsModel& model, std::function<void()> changed, QWidge
     setGeometry(px(kLeft), px(kTop), kPictureWidth + 2 * kMargin, kPictureHeight + 2 * kMargin);
     setCursor(Qt::PointingHandCursor);
     setMouseTracking(true);
+    setAccessibleRole(this, QAccessible::Button);
 }
 
 void SoundButton::sync() {
     setToolTip(QString::fromUtf8(m_model.soundButtonTooltip()));
+    setSpokenName(this, toolTip().trimmed());
     update();
 }
 

@@ -6,6 +6,7 @@
 #include "models/frmQlvs/StatsPanelModel.h"
 #include "platform/Fonts.h"
 #include "windows/QtColour.h"
+#include "windows/frmQlvs/BoardAccessible.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -60,11 +61,14 @@ StatsPanel::StatsPanel(StatsPanelModel& model, std::function<void()> changed, QW
     : QWidget(board), m_model(model), m_changed(std::move(changed)) {
     setObjectName(QStringLiteral("frmeStat"));
     setAttribute(Qt::WA_StyledBackground);
+    setAccessibleRole(this, QAccessible::Grouping);
+    setAccessibleName(QStringLiteral("Estadísticas"));
 
     label(QStringLiteral("Estadísticas"), this, QRect(120, 60, 1680, 360), 11, Qt::AlignLeft);
     m_lblX = label(QStringLiteral(" Cerrar "), this, QRect(1800, 90, 840, 300), 8, Qt::AlignRight);
     m_lblX->setCursor(Qt::PointingHandCursor);
     m_lblX->installEventFilter(this);
+    setAccessibleRole(m_lblX, QAccessible::Button);
 
     m_frmeDates = new QWidget(this);
     m_frmeDates->setGeometry(0, px(kFrameTop), px(kWidth), px(kFrameHeight));
@@ -89,6 +93,11 @@ StatsPanel::StatsPanel(StatsPanelModel& model, std::function<void()> changed, QW
                       QRect(left + 30, line.top + 15, kColumnWidth - 60, kRowHeight - 30), 8,
                       Qt::AlignHCenter);
             value->setObjectName(QStringLiteral("lblSDates"));
+            // A figure alone says nothing: it is read with its row and column.
+            value->setAccessibleDescription(QString::fromUtf8(line.tooltip).trimmed().chopped(1) +
+                                            (left == kSurvivalLeft
+                                                 ? QStringLiteral(", supervivencia")
+                                                 : QStringLiteral(", normal")));
             m_lblSDates[static_cast<std::size_t>(index)] = value;
         }
     }

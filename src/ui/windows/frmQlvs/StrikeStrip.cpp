@@ -3,10 +3,12 @@
 #include "windows/frmQlvs/StrikeStrip.h"
 
 #include "look/Twips.h"
+#include "models/frmQlvs/BoardSpeech.h"
 #include "models/frmQlvs/QlvsModel.h"
 #include "platform/Fonts.h"
 #include "windows/QtColour.h"
 #include "windows/RoundedLabel.h"
+#include "windows/frmQlvs/BoardAccessible.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -30,12 +32,14 @@ StrikeStrip::StrikeStrip(QlvsModel& model, std::function<void()> changed, QWidge
     : QWidget(board), m_model(model), m_changed(std::move(changed)) {
     setGeometry(px(kLeft - kMargin), px(kTop - kMargin), px(kPitch * 7 + kWidth + 2 * kMargin),
                 px(kHeight + 2 * kMargin));
+    setAccessibleRole(this, QAccessible::Grouping);
     for (int slot = 1; slot <= RoundState::kSlots; ++slot) {
         auto* label = new RoundedLabel(this);
         label->setGeometry(px(kMargin + kPitch * (slot - 1)), px(kMargin), px(kWidth), px(kHeight));
         label->setAlignment(Qt::AlignCenter);
         label->setFont(Fonts::display(14));
         label->setToolTip(QString::fromUtf8(kStrikeTips[static_cast<std::size_t>(slot - 1)]));
+        label->setAccessibleDescription(label->toolTip().trimmed());
         m_lblStrike[static_cast<std::size_t>(slot - 1)] = label;
     }
     m_lblQuit = new QLabel(this);
@@ -45,6 +49,11 @@ StrikeStrip::StrikeStrip(QlvsModel& model, std::function<void()> changed, QWidge
     m_lblQuit->setFont(Fonts::display(16));
     m_lblQuit->setCursor(Qt::PointingHandCursor);
     m_lblQuit->setMouseTracking(true);
+    // The correction is offered on the mouse's hover; a screen reader finds
+    // it as a button, there whether or not it can be used now.
+    setAccessibleRole(m_lblQuit, QAccessible::Button);
+    m_lblQuit->setAccessibleName(QStringLiteral("Borrar un strike"));
+    m_lblQuit->setAccessibleDescription(QStringLiteral("Corrección de strikes"));
     m_lblQuit->installEventFilter(this);
     QPalette white = m_lblQuit->palette();
     white.setColor(QPalette::WindowText, Qt::white);
@@ -70,11 +79,15 @@ void StrikeStrip::paintEvent(QPaintEvent*) {
 }
 
 void StrikeStrip::sync() {
+    const RoundState& state = m_model.round().state();
     for (int slot = 1; slot <= RoundState::kSlots; ++slot) {
-        strikeLabel(slot)->setText(qs(m_model.round().state().slot(slot)));
+        strikeLabel(slot)->setText(qs(state.slot(slot)));
+        setSpokenName(strikeLabel(slot), qs(spokenStrikeMark(state, slot)));
     }
+    setSpokenName(this, qs(spokenStrikes(state)));
     m_lblQuit->setText(qs(m_model.quitCaption()));
     m_lblQuit->setToolTip(qs(m_model.quitTooltip()));
+    setAccessibleUnavailable(m_lblQuit, !m_model.round().correctionOffered());
     m_lblQuit->raise();
 }
 

@@ -6,6 +6,7 @@
 #include "models/frmQlvs/QlvsModel.h"
 #include "platform/Fonts.h"
 #include "windows/QtColour.h"
+#include "windows/frmQlvs/BoardAccessible.h"
 
 #include <QFontMetrics>
 #include <QLabel>
@@ -26,12 +27,15 @@ constexpr int kSmallestPixels = 8;
 ThemeBox::ThemeBox(QlvsModel& model, std::function<void()> changed, QWidget* board)
     : RoundedLabel(board), m_model(model), m_changed(std::move(changed)) {
     setObjectName(QStringLiteral("shpTheme"));
+    setAccessibleRole(this, QAccessible::Grouping);
+    setAccessibleName(QStringLiteral("Tema"));
     m_lblCaption = new QLabel(QStringLiteral("Tema"), this);
     m_lblCaption->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     m_lblCaption->setFont(Fonts::display(7));
     m_lblTheme = new QLabel(this);
     m_lblTheme->setAlignment(Qt::AlignCenter);
     m_lblTheme->setFont(Fonts::display(kThemePoints));
+    m_lblTheme->setAccessibleDescription(QStringLiteral("Tema"));
     m_lblTheme->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(m_lblTheme, &QWidget::customContextMenuRequested, this,
             [this](const QPoint& at) { buildMenu()->popup(m_lblTheme->mapToGlobal(at)); });

@@ -3,6 +3,7 @@
 #include "windows/frmQlvs/frmQlvs.h"
 
 #include "look/Twips.h"
+#include "models/frmQlvs/BoardSpeech.h"
 #include "platform/Fonts.h"
 #include "ports/SoundPlayer.h"
 #include "windows/QtColour.h"
@@ -12,6 +13,7 @@
 #include "windows/frmQlvs/AnswerPanel.h"
 #include "windows/frmQlvs/AutoMarker.h"
 #include "windows/frmQlvs/BackgroundView.h"
+#include "windows/frmQlvs/BoardAccessible.h"
 #include "windows/frmQlvs/BoardDrops.h"
 #include "windows/frmQlvs/BoardKeys.h"
 #include "windows/frmQlvs/BoardPopup.h"
@@ -72,6 +74,8 @@ frmQlvs::frmQlvs(SharedState& shared, Dialogs& dialogs, Random& random, SoundPla
     });
     m_sounds.load();
     m_model.load();
+    installBoardAccessibility();
+    setAccessibleRole(this, QAccessible::Window);
     buildControls();
     buildTimers();
     // Every release of the mouse on the board puts the hover faces back.
@@ -302,8 +306,10 @@ void frmQlvs::syncView() {
     paintPanels();
 
     m_lblGame->setText(qs(round.status()));
+    setSpokenName(m_lblGame, qs(spokenStatus(round.status())));
     m_themeBox->sync();
     m_lblCont->setText(qs(round.board().counterText()));
+    setSpokenName(m_lblCont, qs(spokenCounter(round.board())));
     m_lblCont->setVisible(round.counterVisible());
     m_lblTime->sync();
     m_lblQueEs->setVisible(round.queEsEsoVisible());
@@ -327,9 +333,9 @@ void frmQlvs::syncView() {
     m_imgFondo->sync();
 
     m_keyboard->setVisible(m_model.keyboardShown());
-    m_keyboard->update();
-    m_phrase->update();
-    m_gallows->update();
+    m_keyboard->sync();
+    m_phrase->sync();
+    m_gallows->sync();
     fitFrame();
     m_sessionPanel->sync();
 }
