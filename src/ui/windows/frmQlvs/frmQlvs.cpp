@@ -225,6 +225,7 @@ void frmQlvs::buildControls() {
     m_lblQueEs->setFont(Fonts::display(10));
     m_lblQueEs->setCursor(Qt::PointingHandCursor);
     m_lblQueEs->installEventFilter(this);
+    setAccessibleRole(m_lblQueEs, QAccessible::PushButton);
 
     m_answerPanel = new AnswerPanel(
         m_model, changed, [this](QKeyEvent* key) { return windowShortcut(key); }, this);
