@@ -62,6 +62,7 @@ void QlvsModel::load() {
         applyLetterStyle();
         m_picture = m_shared.settings.fondo;
     });
+    m_tip.rest(m_shared.settings.animacion);
     step([this] {
         m_scoring.refreshTitle();
         m_scoring.showAccount();
@@ -326,6 +327,9 @@ void QlvsModel::toggleSounds() {
 
 void QlvsModel::toggleAnimation() {
     m_shared.settings.animacion = !m_shared.settings.animacion;
+    if (!m_shared.settings.animacion) {
+        m_tip.stop();
+    }
     ConfSave(m_shared, m_dialogs);
 }
 

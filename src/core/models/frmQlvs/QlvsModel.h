@@ -8,6 +8,7 @@
 #include "models/frmQlvs/SidePanelModel.h"
 #include "models/frmQlvs/StatsPanelModel.h"
 #include "models/frmQlvs/ThemesPanelModel.h"
+#include "models/frmQlvs/TipModel.h"
 #include "players/Players.h"
 #include "round/Round.h"
 #include "scoring/Countdown.h"
@@ -164,6 +165,8 @@ public:
     // "Temas seleccionados", from the theme label's menu.
     void eOpenList();
     const ThemesPanelModel& themesPanel() const { return m_themesPanel; }
+    // The tip strip and its ticker ("Dame un consejo").
+    TipModel& tip() { return m_tip; }
 
     // --- menu entries --------------------------------------------------------------
     void eMenuNew() { m_round.eMenuNew(); }
@@ -173,6 +176,7 @@ public:
     const char* soundButtonTooltip() const {
         return m_shared.settings.sonidos ? " Ocultar Sonidos " : " Mostrar Sonidos ";
     }
+    // "Estado animado"; a still board puts the tip strip away too.
     void toggleAnimation();
     // F3: asks first. The popup's "Reiniciar" restarts at once.
     void eReBoot();
@@ -336,6 +340,7 @@ private:
     static constexpr int kPulseStep = 10;
     bool m_loadFailed = false;
     Random& m_random;
+    TipModel m_tip{m_random};
     int m_hoveredKey = -1;
     int m_pressedKey = -1;
     std::string m_quitCaption;

@@ -49,8 +49,10 @@ QMenu* ThemeBox::buildMenu() {
                 m_model.eOpenList();
                 m_changed();
             });
-    // The tips come later; until then the entry is there, greyed.
-    menu->addAction(QStringLiteral("Dame un consejo"))->setEnabled(false);
+    connect(menu->addAction(QStringLiteral("Dame un consejo")), &QAction::triggered, this, [this] {
+        m_model.tip().mTip();
+        m_changed();
+    });
     return menu;
 }
 

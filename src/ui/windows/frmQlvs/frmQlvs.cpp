@@ -31,6 +31,7 @@
 #include "windows/frmQlvs/StrikeStrip.h"
 #include "windows/frmQlvs/ThemeBox.h"
 #include "windows/frmQlvs/ThemesPanel.h"
+#include "windows/frmQlvs/TipStrip.h"
 #include "windows/frmWord1/frmWord1.h"
 #include "windows/frmWord2/frmWord2.h"
 
@@ -208,6 +209,7 @@ void frmQlvs::buildControls() {
     m_lblTime = new CountdownLabel(m_model, this);
 
     m_strikes = new StrikeStrip(m_model, changed, this);
+    m_tipStrip = new TipStrip(m_model.tip(), this);
     m_playPanel = new PlayPanel(
         m_model, changed, [this] { playPressed(); }, this);
 
@@ -284,6 +286,7 @@ void frmQlvs::paintPanels() {
     m_historyPanel->paint(css(game), css(shade));
     m_themesPanel->paint(css(game), css(shade));
     m_statsPanel->paint(css(game), css(shade));
+    m_tipStrip->paint(qc(game));
 }
 
 void frmQlvs::paintLampPanels(const LampColours& lamp, Rgb score) {
@@ -315,6 +318,7 @@ void frmQlvs::syncView() {
     m_lblTime->sync();
     m_lblQueEs->setVisible(round.queEsEsoVisible());
     m_strikes->sync();
+    m_tipStrip->sync();
     m_playPanel->sync();
     m_answerPanel->sync();
     m_scorePanel->sync();

@@ -39,6 +39,7 @@ class RoundedLabel;
 class SidePanel;
 class StatsPanel;
 class ThemesPanel;
+class TipStrip;
 class WebLookUp;
 class frmNames;
 class frmWord1;
@@ -109,6 +110,7 @@ public:
     HistoryPanel* historyPanel() const { return m_historyPanel; }
     ThemesPanel* themesPanel() const { return m_themesPanel; }
     ThemeBox* themeBox() const { return m_themeBox; }
+    TipStrip* tipStrip() const { return m_tipStrip; }
     frmWord2* themeWindow() const { return m_themeWindow; }
     frmWord1* friendWindow() const { return m_friendWindow; }
     frmNames* namesWindow() const { return m_namesWindow; }
@@ -177,6 +179,7 @@ private:
     ThemesPanel* m_themesPanel = nullptr;
     RoundedLabel* m_lblGame = nullptr;
     ThemeBox* m_themeBox = nullptr;
+    TipStrip* m_tipStrip = nullptr;
     QLabel* m_lblCont = nullptr;
     CountdownLabel* m_lblTime = nullptr;
     QLabel* m_lblQueEs = nullptr;
