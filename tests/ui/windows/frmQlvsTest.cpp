@@ -5,6 +5,7 @@
 #include "support/BoardFixture.h"
 #include "windows/frmNames/frmNames.h"
 #include "windows/frmQlvs/KeyboardView.h"
+#include "windows/frmQlvs/LookUpLabel.h"
 #include "windows/frmWord1/frmWord1.h"
 
 #include <QLineEdit>

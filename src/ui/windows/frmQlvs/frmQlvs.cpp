@@ -21,11 +21,13 @@
 #include "windows/frmQlvs/GallowsView.h"
 #include "windows/frmQlvs/HistoryPanel.h"
 #include "windows/frmQlvs/KeyboardView.h"
+#include "windows/frmQlvs/LookUpLabel.h"
 #include "windows/frmQlvs/PhraseView.h"
 #include "windows/frmQlvs/PlayPanel.h"
 #include "windows/frmQlvs/ScorePanel.h"
 #include "windows/frmQlvs/SessionPanel.h"
 #include "windows/frmQlvs/SidePanel.h"
+#include "windows/frmQlvs/SmallPlayButton.h"
 #include "windows/frmQlvs/SoundButton.h"
 #include "windows/frmQlvs/StatsPanel.h"
 #include "windows/frmQlvs/StrikeStrip.h"
@@ -56,8 +58,6 @@ QRect twipRect(int left, int top, int width, int height) {
 // Where the board's own controls sit, in twips.
 constexpr int kStatusLeft = 3000, kStatusTop = 300, kStatusWidth = 5040, kStatusHeight = 720;
 constexpr int kCounterLeft = 10200, kCounterTop = 1050, kCounterWidth = 1095, kCounterHeight = 360;
-constexpr int kQueEsLeft = 240, kQueEsTop = 4380, kQueEsWidth = 2520, kQueEsHeight = 360;
-constexpr int kCopyLeft = 2130, kCopyTop = 3630, kCopyWidth = 780, kCopyHeight = 435;
 
 } // namespace
 
@@ -214,20 +214,10 @@ void frmQlvs::buildControls() {
         m_model, changed, [this] { playPressed(); }, this);
 
     // The small twin of JUGAR: it plays too, and keys typed on it are guesses.
-    m_cmdCopy = new QPushButton(QStringLiteral("JUGAR"), this);
-    m_cmdCopy->setGeometry(twipRect(kCopyLeft, kCopyTop, kCopyWidth, kCopyHeight));
-    m_cmdCopy->setFont(Fonts::display(5));
-    m_cmdCopy->setCursor(Qt::PointingHandCursor);
-    m_cmdCopy->setFocusPolicy(Qt::NoFocus);
-    connect(m_cmdCopy, &QPushButton::clicked, this, &frmQlvs::playPressed);
+    m_cmdCopy = new SmallPlayButton(
+        m_model, [this] { playPressed(); }, this);
 
-    m_lblQueEs = new QLabel(QStringLiteral("¿Qué es eso?"), this);
-    m_lblQueEs->setGeometry(twipRect(kQueEsLeft, kQueEsTop, kQueEsWidth, kQueEsHeight));
-    m_lblQueEs->setAlignment(Qt::AlignCenter);
-    m_lblQueEs->setFont(Fonts::display(10));
-    m_lblQueEs->setCursor(Qt::PointingHandCursor);
-    m_lblQueEs->installEventFilter(this);
-    setAccessibleRole(m_lblQueEs, QAccessible::PushButton);
+    m_lblQueEs = new LookUpLabel(m_model, this);
 
     m_answerPanel = new AnswerPanel(
         m_model, changed, [this](QKeyEvent* key) { return windowShortcut(key); }, this);
@@ -264,10 +254,7 @@ void frmQlvs::paintPanels() {
     QPalette windowPalette = palette();
     windowPalette.setColor(QPalette::Window, qc(m_model.background()));
     setPalette(windowPalette);
-    m_cmdCopy->setStyleSheet(
-        QStringLiteral("QPushButton { background: %1; color: white; border: none;"
-                       " border-radius: 4px; } QPushButton:disabled { background: %2; }")
-            .arg(css(game), css(kPictureButtonBack)));
+    m_cmdCopy->paint(css(game), css(kPictureButtonBack));
     m_playPanel->paint(QStringLiteral("QPushButton { background: %1; color: white; border: none;"
                                       " border-radius: %3px; }"
                                       "QPushButton:hover { background: %2; }"
@@ -277,9 +264,7 @@ void frmQlvs::paintPanels() {
                            .arg(css(kGreenLamp)),
                        QStringLiteral("QLabel { border: 1px dashed %1; border-radius: 8px; }")
                            .arg(css(kPictureButtonBack)));
-    m_lblQueEs->setStyleSheet(
-        QStringLiteral("color: %1; background: transparent; text-decoration: underline;")
-            .arg(css(shade)));
+    m_lblQueEs->paint(css(shade));
     m_answerPanel->paint(css(game));
     m_again->paint(css(game));
     m_sidePanel->paint(css(game));
@@ -316,7 +301,7 @@ void frmQlvs::syncView() {
     setSpokenName(m_lblCont, qs(spokenCounter(round.board())));
     m_lblCont->setVisible(round.counterVisible());
     m_lblTime->sync();
-    m_lblQueEs->setVisible(round.queEsEsoVisible());
+    m_lblQueEs->sync();
     m_strikes->sync();
     m_tipStrip->sync();
     m_playPanel->sync();
@@ -329,10 +314,7 @@ void frmQlvs::syncView() {
     m_statsPanel->sync();
 
     setWindowTitle(qs(m_model.windowTitle()));
-    const bool buttonHidden = m_model.shared().settings.sinBotonJugar;
-    m_cmdCopy->setVisible(!buttonHidden);
-    m_cmdCopy->setText(qs(round.playCaption()));
-    m_cmdCopy->setEnabled(m_model.smallPlayEnabled());
+    m_cmdCopy->sync();
     m_lblAuto->sync();
     m_cmdVoz->sync();
     m_imgFondo->sync();
@@ -535,10 +517,6 @@ bool frmQlvs::eventFilter(QObject* watched, QEvent* event) {
     if (watched == m_lblCont && event->type() == QEvent::MouseButtonPress) {
         m_model.eWinClose();
         sync();
-        return true;
-    }
-    if (watched == m_lblQueEs && event->type() == QEvent::MouseButtonPress) {
-        m_model.queEsEso();
         return true;
     }
     return QWidget::eventFilter(watched, event);

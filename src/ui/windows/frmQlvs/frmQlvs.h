@@ -12,6 +12,7 @@
 #include "windows/frmQlvs/DesignLink.h"
 #include "windows/frmQlvs/PlayPanel.h"
 #include "windows/frmQlvs/ScorePanel.h"
+#include "windows/frmQlvs/SmallPlayButton.h"
 #include "windows/frmQlvs/StrikeStrip.h"
 #include "windows/frmQlvs/ThemeBox.h"
 
@@ -31,6 +32,7 @@ class AgainLabels;
 class GallowsView;
 class HistoryPanel;
 class KeyboardView;
+class LookUpLabel;
 class PhraseView;
 class SessionPanel;
 class SoundButton;
@@ -82,7 +84,7 @@ public:
     QLabel* counterLabel() const { return m_lblCont; }
     QLabel* themeLabel() const { return m_themeBox->themeLabel(); }
     QLabel* timeLabel() const { return m_lblTime; }
-    QLabel* queEsLabel() const { return m_lblQueEs; }
+    LookUpLabel* queEsLabel() const { return m_lblQueEs; }
     QTimer* countdownTimer() const { return m_tmrOver; }
     QTimer* soundTimer() const { return m_tmrSound; }
     QTimer* scoreTimer() const { return m_tmrScore; }
@@ -182,8 +184,8 @@ private:
     TipStrip* m_tipStrip = nullptr;
     QLabel* m_lblCont = nullptr;
     CountdownLabel* m_lblTime = nullptr;
-    QLabel* m_lblQueEs = nullptr;
-    QPushButton* m_cmdCopy = nullptr;
+    LookUpLabel* m_lblQueEs = nullptr;
+    SmallPlayButton* m_cmdCopy = nullptr;
     AutoMarker* m_lblAuto = nullptr;
     SoundButton* m_cmdVoz = nullptr;
     frmWord2* m_themeWindow = nullptr;
