@@ -13,6 +13,7 @@ packages=(
     libsndfile1-dev libasound2-dev libmp3lame-dev
     fonts-quicksand fonts-comic-neue
     clang-format
+    desktop-file-utils appstream lintian
 )
 
 missing=()
