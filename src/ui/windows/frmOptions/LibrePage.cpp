@@ -53,6 +53,7 @@ LibrePage::LibrePage(OptionsModel& model, std::function<void()> changed, QWidget
     m_txtValue->setFont(font);
     m_txtValue->setGeometry(px(0), px(kBoxTop), px(kValuesLeft + kValuesWidth), px(kBoxHeight));
     m_txtValue->setToolTip(QStringLiteral(" 0 = Desactivado, 1 = Activado, 2 = Alterno "));
+    m_txtValue->setAccessibleName(QStringLiteral("Valor"));
     new TypedTextFilter(m_txtValue, [](char32_t c, const QString&) { return storableInLine(c); });
     connect(m_txtValue, &QLineEdit::textEdited, this, [this](const QString& text) {
         m_model.setValueText(text.toStdString());

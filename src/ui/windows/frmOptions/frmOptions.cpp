@@ -5,6 +5,7 @@
 #include "look/Twips.h"
 #include "platform/Fonts.h"
 #include "storage/ConfigFile.h"
+#include "windows/FocusRing.h"
 #include "windows/QtColour.h"
 #include "windows/TypedTextFilter.h"
 #include "windows/frmOptions/CheckPicture.h"
@@ -113,6 +114,17 @@ frmOptions::frmOptions(SharedState& shared, Dialogs& dialogs, QWidget* parent)
     m_model.open();
     sync();
     m_lstPages->setFocus();
+    new FocusRing(this);
+}
+
+void frmOptions::keyPressEvent(QKeyEvent* event) {
+    // Esc leaves as " &Menú" does, without saving.
+    if (event->key() == Qt::Key_Escape) {
+        m_model.startMenu();
+        sync();
+        return;
+    }
+    QWidget::keyPressEvent(event);
 }
 
 frmOptions::~frmOptions() = default;
@@ -284,6 +296,8 @@ void frmOptions::sync() {
     }
     m_cmdColours->setText(text(m_model.editorButtonCaption()));
     m_cmdColours->setToolTip(text(m_model.editorButtonTooltip()));
+    // "..." says nothing read aloud: the button is heard by what it does.
+    m_cmdColours->setAccessibleName(m_cmdColours->toolTip().trimmed().remove(QLatin1Char('.')));
     m_colourEditor->setVisible(m_model.editorOpen());
     m_colourEditor->sync();
     m_librePage->sync();
