@@ -181,7 +181,7 @@ AccessibleControl* AccessibleControl::secret(QWidget* control, QAccessible::Role
 }
 
 AccessibleControl* AccessibleControl::hidden(QWidget* control) {
-    return attach(new AccessibleControl(control, Kind::Hidden, QAccessible::NoRole));
+    return attach(new AccessibleControl(control, Kind::Hidden, QAccessible::Client));
 }
 
 } // namespace quillora

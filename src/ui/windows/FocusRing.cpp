@@ -33,6 +33,15 @@ FocusRing::FocusRing(QWidget* window) : QWidget(window), m_window(window) {
             [this](QWidget*, QWidget* now) { follow(now); });
 }
 
+FocusRing* FocusRing::of(const QWidget* window) {
+    for (QObject* child : window->children()) {
+        if (auto* ring = dynamic_cast<FocusRing*>(child)) {
+            return ring;
+        }
+    }
+    return nullptr;
+}
+
 void FocusRing::follow(QWidget* focus) {
     for (const QPointer<QWidget>& watched : std::as_const(m_watched)) {
         if (watched) {

@@ -18,6 +18,9 @@ class FocusRing final : public QWidget {
 public:
     explicit FocusRing(QWidget* window);
 
+    // The ring of `window`, if it has one.
+    static FocusRing* of(const QWidget* window);
+
     // The control the ring stands around, or none while it is hidden.
     QWidget* target() const { return isVisible() ? m_target.data() : nullptr; }
 
