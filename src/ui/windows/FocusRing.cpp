@@ -3,6 +3,7 @@
 #include "windows/FocusRing.h"
 
 #include "windows/AccessibleControl.h"
+#include "windows/QtColour.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -19,8 +20,6 @@ constexpr qreal kBand = 3;
 constexpr qreal kInner = 1.5;
 constexpr int kMargin = 7;
 constexpr qreal kRadius = 6;
-const QColor kDark(25, 25, 25);
-const QColor kBright(255, 205, 0);
 
 } // namespace
 
@@ -98,9 +97,9 @@ void FocusRing::paintEvent(QPaintEvent*) {
         p.setPen(QPen(colour, width));
         p.drawRoundedRect(box.adjusted(at, at, -at, -at), kRadius - from / 2, kRadius - from / 2);
     };
-    stroke(0, kOuter, kDark);
-    stroke(kOuter, kBand, kBright);
-    stroke(kOuter + kBand, kInner, kDark);
+    stroke(0, kOuter, qc(kFocusEdge));
+    stroke(kOuter, kBand, qc(kFocusBand));
+    stroke(kOuter + kBand, kInner, qc(kFocusEdge));
 }
 
 } // namespace quillora

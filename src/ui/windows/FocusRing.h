@@ -2,11 +2,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "look/Colour.h"
+
 #include <QList>
 #include <QPointer>
 #include <QWidget>
 
 namespace quillora {
+
+// The ring's colours: a yellow band between dark edges. Lists frame their
+// current row in them too (CurrentRowDelegate).
+inline constexpr Rgb kFocusBand{255, 205, 0};
+inline constexpr Rgb kFocusEdge{25, 25, 25};
 
 // The mark around the control that has the keyboard's focus. The windows
 // paint their controls in the game colour, with style sheets and pictures

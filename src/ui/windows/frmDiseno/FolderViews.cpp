@@ -3,6 +3,7 @@
 #include "windows/frmDiseno/FolderViews.h"
 
 #include "look/Colour.h"
+#include "windows/CurrentRowDelegate.h"
 #include "windows/QtColour.h"
 
 #include <QDir>
@@ -22,6 +23,7 @@ QListView* makeList(QWidget* window, const QString& name, const QString& tooltip
     auto* list = new QListView(window);
     list->setToolTip(tooltip);
     list->setAccessibleName(name);
+    CurrentRowDelegate::mark(list);
     list->setUniformItemSizes(true);
     list->setLayoutMode(QListView::Batched);
     list->setBatchSize(200);
@@ -83,7 +85,10 @@ void FolderViews::show(const QString& folder, int reads) {
         return;
     }
     m_following = true;
-    if (reads != m_reads && m_reads >= 0) {
+    // A file system model goes on listing the folders on the way to its
+    // last root, whatever its filter, so a folder left for the one above
+    // would show among the pictures: each folder gets fresh models.
+    if (m_reads >= 0) {
         makeModels();
     }
     m_shown = folder;

@@ -5,6 +5,7 @@
 #include "look/Twips.h"
 #include "platform/Fonts.h"
 #include "state/SharedState.h"
+#include "windows/CurrentRowDelegate.h"
 #include "windows/FocusRing.h"
 #include "windows/QtColour.h"
 
@@ -45,6 +46,7 @@ frmList::frmList(SharedState& shared, Round& round, Dialogs& dialogs,
     m_lstTemas->setToolTip(QStringLiteral(" Click derecho para abrir el menú. "));
     m_lstTemas->setAccessibleName(QStringLiteral("Lista de temas"));
     m_lstTemas->setContextMenuPolicy(Qt::CustomContextMenu);
+    CurrentRowDelegate::mark(m_lstTemas);
     m_lstTemas->setAccessibleDescription(
         QStringLiteral("Espacio marca o desmarca un tema, Intro acepta, Control+Intro acepta y "
                        "juega, la tecla de menú abre el menú."));

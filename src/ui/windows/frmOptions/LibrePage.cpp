@@ -5,6 +5,7 @@
 #include "look/Twips.h"
 #include "platform/Fonts.h"
 #include "storage/ConfigFile.h"
+#include "windows/CurrentRowDelegate.h"
 #include "windows/QtColour.h"
 #include "windows/TypedTextFilter.h"
 
@@ -40,6 +41,9 @@ LibrePage::LibrePage(OptionsModel& model, std::function<void()> changed, QWidget
     m_lstValues->setAccessibleName(QStringLiteral("Valores"));
     for (int row = 0; row < OptionsModel::kLines; ++row) {
         m_lstValues->addItem(QString());
+    }
+    for (QListWidget* list : {m_lstNames, m_lstValues}) {
+        CurrentRowDelegate::mark(list);
     }
     // The two lists read as one table: they scroll together.
     connect(m_lstNames->verticalScrollBar(), &QScrollBar::valueChanged,

@@ -5,6 +5,7 @@
 #include "look/Twips.h"
 #include "platform/Fonts.h"
 #include "storage/ConfigFile.h"
+#include "windows/CurrentRowDelegate.h"
 #include "windows/FocusRing.h"
 #include "windows/QtColour.h"
 #include "windows/TypedTextFilter.h"
@@ -69,6 +70,7 @@ frmOptions::frmOptions(SharedState& shared, Dialogs& dialogs, QWidget* parent)
     m_lstPages->setGeometry(twipRect(kMargin, kMargin, kListWidth, kListHeight));
     m_lstPages->setFont(Fonts::display(9));
     m_lstPages->setAccessibleName(QStringLiteral("Páginas"));
+    CurrentRowDelegate::mark(m_lstPages);
     for (int page = 0; page < OptionsModel::kPages; ++page) {
         auto* item = new QListWidgetItem(text(OptionsModel::pageName(static_cast<Page>(page))));
         item->setSizeHint(QSize(0, px(kRowHeight)));

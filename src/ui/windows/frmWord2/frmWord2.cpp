@@ -160,6 +160,8 @@ void frmWord2::openThemesList() {
         if (result() == QDialog::Rejected && !m_finished) {
             show();
             activateWindow();
+            // Back with a new draw, Enter plays it.
+            m_cmdOk->setFocus();
         }
     });
     m_list->open();
