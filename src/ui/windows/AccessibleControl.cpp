@@ -55,10 +55,6 @@ public:
             return state;
         }
         switch (m_traits->kind()) {
-        case Kind::CheckBox:
-            state.checkable = true;
-            state.checked = m_traits->checked();
-            break;
         case Kind::Secret:
             if (role() == QAccessible::EditableText) {
                 state.editable = true;
@@ -78,14 +74,13 @@ public:
     QStringList actionNames() const override {
         QStringList names = QAccessibleWidget::actionNames();
         if (m_traits && m_traits->hasPress()) {
-            names.prepend(m_traits->kind() == Kind::CheckBox ? toggleAction() : pressAction());
+            names.prepend(pressAction());
         }
         return names;
     }
 
     void doAction(const QString& action) override {
-        if (m_traits && m_traits->hasPress() &&
-            (action == pressAction() || action == toggleAction())) {
+        if (m_traits && m_traits->hasPress() && action == pressAction()) {
             m_traits->press();
             return;
         }
@@ -147,16 +142,6 @@ AccessibleControl* AccessibleControl::button(QWidget* control, Text name,
     auto* traits = new AccessibleControl(control, Kind::Button, QAccessible::Button);
     traits->m_name = std::move(name);
     traits->m_press = std::move(press);
-    return attach(traits);
-}
-
-AccessibleControl* AccessibleControl::checkBox(QWidget* control, Text name,
-                                               std::function<bool()> checked,
-                                               std::function<void()> toggle) {
-    auto* traits = new AccessibleControl(control, Kind::CheckBox, QAccessible::CheckBox);
-    traits->m_name = std::move(name);
-    traits->m_checked = std::move(checked);
-    traits->m_press = std::move(toggle);
     return attach(traits);
 }
 

@@ -19,13 +19,10 @@ namespace quillora {
 class AccessibleControl final : public QObject {
 public:
     using Text = std::function<QString()>;
-    enum class Kind { Button, CheckBox, Graphic, Label, Secret, Hidden };
+    enum class Kind { Button, Graphic, Label, Secret, Hidden };
 
     // Heard as a push button; its press action runs `press`.
     static AccessibleControl* button(QWidget* control, Text name, std::function<void()> press);
-    // Heard as a check box ticked while `checked` says so; toggling runs `toggle`.
-    static AccessibleControl* checkBox(QWidget* control, Text name, std::function<bool()> checked,
-                                       std::function<void()> toggle);
     // A picture or a plain text, heard by `name` alone.
     static AccessibleControl* graphic(QWidget* control, Text name);
     static AccessibleControl* label(QWidget* control, Text name);
@@ -44,7 +41,6 @@ public:
     Kind kind() const { return m_kind; }
     QAccessible::Role role() const { return m_role; }
     QString name() const { return m_name ? m_name() : QString(); }
-    bool checked() const { return m_checked && m_checked(); }
     int length() const { return m_length ? m_length() : 0; }
     bool hasPress() const { return static_cast<bool>(m_press); }
     void press() const;
@@ -58,7 +54,6 @@ private:
     Kind m_kind;
     QAccessible::Role m_role;
     Text m_name;
-    std::function<bool()> m_checked;
     std::function<void()> m_press;
     std::function<int()> m_length;
 };

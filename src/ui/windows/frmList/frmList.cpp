@@ -49,7 +49,7 @@ frmList::frmList(SharedState& shared, Round& round, Dialogs& dialogs,
     CurrentRowDelegate::mark(m_lstTemas);
     m_lstTemas->setAccessibleDescription(
         QStringLiteral("Espacio marca o desmarca un tema, Intro acepta, Control+Intro acepta y "
-                       "juega, la tecla de menú abre el menú."));
+                       "juega, la tecla de menú o Mayúsculas+F10 abre el menú."));
     m_lstTemas->viewport()->installEventFilter(this);
     m_lstTemas->installEventFilter(this);
     connect(m_lstTemas, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
@@ -158,6 +158,12 @@ bool frmList::eventFilter(QObject* watched, QEvent* event) {
             (key->modifiers() & Qt::ControlModifier)) {
             m_model.press();
             follow(m_model.tickGo());
+            return true;
+        }
+        // Shift+F10 opens the menu as the menu key does, beside the current row.
+        if (key->key() == Qt::Key_F10 && key->modifiers() == Qt::ShiftModifier) {
+            const QRect row = m_lstTemas->visualItemRect(m_lstTemas->currentItem());
+            buildMenu()->popup(m_lstTemas->viewport()->mapToGlobal(row.center()));
             return true;
         }
     }

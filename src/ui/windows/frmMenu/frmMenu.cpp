@@ -287,13 +287,14 @@ void frmMenu::buildKeys() {
     m_lblLeyend->installEventFilter(this);
     // The plus does what the third tile does; Tab stops once for both.
     new ButtonLike(
-        m_lblPlus, [this, text] { return text(m_model.legendOf(Spot::Several)); },
+        m_lblPlus, [] { return QStringLiteral("+"); },
         [this] {
             const MenuModel::Outcome outcome = m_model.choose(Spot::Several);
             sync();
             follow(outcome);
         },
         Qt::NoFocus);
+    m_lblPlus->setAccessibleDescription(text(m_model.legendOf(Spot::Several)));
     AccessibleControl::label(m_txtNumber, [this] {
         return QStringLiteral("Número de jugadores: %1").arg(m_txtNumber->text());
     });

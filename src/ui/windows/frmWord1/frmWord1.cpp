@@ -130,7 +130,6 @@ void frmWord1::accept() {
         // Refused: the friend sees the text in capitals and fixes it.
         m_txtWord->setText(qs(m_model.phraseText()));
         m_txtWord->setFocus();
-        new FocusRing(this);
         return;
     }
     QDialog::accept();
