@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/frmDiseno/frmDiseno.h"
 #include "storage/ConfigFile.h"
+#include "support/AccessibleTree.h"
 #include "support/BoardFixture.h"
+#include "support/Keys.h"
 #include "windows/frmDiseno/DesignToggle.h"
 #include "windows/frmDiseno/FolderViews.h"
 #include "windows/frmDiseno/GoButton.h"
@@ -60,9 +62,6 @@ protected:
     // The player types the folder in the address and goes there; File1
     // lists it on Qt's own thread, which the test waits for.
     void goTo(frmDiseno* design, const fs::path& folder) {
-        QSignalSpy listed(design->folderViews()->fileModel(), &QFileSystemModel::directoryLoaded);
-        QSignalSpy folders(design->folderViews()->folderModel(),
-                           &QFileSystemModel::directoryLoaded);
         design->addressBox()->setFocus();
         design->addressBox()->selectAll();
         QTest::keyClicks(design->addressBox(), QString::fromStdString(folder.string()));
@@ -71,7 +70,14 @@ protected:
         QTest::mouseClick(design->goButton(), Qt::LeftButton);
         EXPECT_FALSE(design->goButton()->showsGo());
         EXPECT_EQ(design->goButton()->toolTip(), QStringLiteral(" Actualizar Dirección "));
-        ASSERT_TRUE(listed.count() > 0 || listed.wait(10000)) << "the folder was never listed";
+        waitForListing(design);
+    }
+    // Each folder is read by models of its own, which tell once they have it.
+    static void waitForListing(frmDiseno* design) {
+        QSignalSpy listed(design->folderViews()->fileModel(), &QFileSystemModel::directoryLoaded);
+        QSignalSpy folders(design->folderViews()->folderModel(),
+                           &QFileSystemModel::directoryLoaded);
+        ASSERT_TRUE(listed.wait(10000)) << "the folder was never listed";
         ASSERT_TRUE(folders.count() > 0 || folders.wait(10000)) << "its folders were never listed";
         QCoreApplication::processEvents();
     }
@@ -200,16 +206,70 @@ TEST_F(DesignWindow, TheFolderListOpensAFolderAndGoesBackUp) {
     ASSERT_NE(design, nullptr);
     goTo(design, pictures);
 
-    QSignalSpy listed(design->folderViews()->fileModel(), &QFileSystemModel::directoryLoaded);
     open(design, QStringLiteral("viaje"));
     EXPECT_EQ(design->addressBox()->text(), QString::fromStdString((pictures / "viaje").string()));
     EXPECT_EQ(design->model().folder(), (pictures / "viaje").string());
-    ASSERT_TRUE(listed.count() > 0 || listed.wait(10000));
+    waitForListing(design);
     pick(design, beach);
     EXPECT_TRUE(window->backgroundPicture().shown());
 
+    // The folder just left is no picture of the one above.
     open(design, QStringLiteral(".."));
     EXPECT_EQ(design->model().listFolder(), pictures.string());
+    waitForListing(design);
+    EXPECT_EQ(design->folderViews()->fileModel()->rowCount(design->fileList()->rootIndex()), 0);
+}
+
+TEST_F(DesignWindow, TheKeysAloneChooseAPictureAndAToggleAndAScreenReaderHearsAll) {
+    const fs::path red = picture("rojo.png", Qt::red);
+    const fs::path blue = picture("azul.png", Qt::blue);
+    frmDiseno* design = openFromMenu();
+    ASSERT_NE(design, nullptr);
+    ASSERT_TRUE(takeKeys(design));
+    goTo(design, pictures);
+    ASSERT_TRUE(design->addressBox()->hasFocus());
+
+    const AccessibleTree tree(design);
+    EXPECT_EQ(tree.root()->text(QAccessible::Name), QStringLiteral("Diseño:"));
+    EXPECT_EQ(tree.unheardControls(), "");
+    EXPECT_EQ(tree.find(design->goButton())->text(QAccessible::Name), "Actualizar Dirección");
+    QAccessibleInterface* lines = tree.find(design->toggleButton(DisenoModel::Toggle::White));
+    EXPECT_EQ(lines->role(), QAccessible::CheckBox);
+    EXPECT_FALSE(lines->state().checked);
+
+    // Address, go, folders, pictures: passing into the pictures by Tab
+    // changes nothing yet; Enter takes the one the list stands on, and the
+    // arrows the next.
+    for (int i = 0; i < 3; ++i) {
+        pressKey(Qt::Key_Tab);
+    }
+    QListView* files = design->fileList();
+    ASSERT_EQ(QApplication::focusWidget(), files);
+    EXPECT_FALSE(window->backgroundPicture().shown());
+    const auto chosen = [&] {
+        const QString name = design->folderViews()->fileModel()->fileName(files->currentIndex());
+        return pictures / name.toStdString();
+    };
+    const auto colourOf = [&](const fs::path& file) {
+        return QColor(file == red ? Qt::red : Qt::blue);
+    };
+    pressKey(Qt::Key_Return);
+    ASSERT_TRUE(window->backgroundPicture().shown());
+    const fs::path first = chosen();
+    EXPECT_EQ(boardPixel(), colourOf(first));
+    pressKey(Qt::Key_Down);
+    EXPECT_NE(chosen(), first);
+    EXPECT_EQ(boardPixel(), colourOf(chosen()));
+    EXPECT_EQ(design->model().picture(), chosen().string());
+
+    // Backspace goes up a folder.
+    pressKey(Qt::Key_Backspace);
+    EXPECT_EQ(design->model().listFolder(), folder.string());
+
+    design->toggleButton(DisenoModel::Toggle::White)->setFocus(Qt::TabFocusReason);
+    pressKey(Qt::Key_Space);
+    EXPECT_TRUE(shared.settings.lineaBlanca);
+    EXPECT_TRUE(lines->state().checked);
 }
 
 TEST_F(DesignWindow, ADamagedPictureTurnsTheListRedAndLeavesTheBoardAsItWas) {

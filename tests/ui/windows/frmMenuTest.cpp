@@ -5,8 +5,11 @@
 #include "look/Twips.h"
 #include "state/SharedState.h"
 #include "storage/ConfigFile.h"
+#include "support/AccessibleTree.h"
 #include "support/Fakes.h"
+#include "support/Keys.h"
 #include "support/TempFolder.h"
+#include "windows/FocusRing.h"
 #include "windows/QtColour.h"
 
 #include <QCoreApplication>
@@ -88,10 +91,57 @@ TEST_F(MenuWindow, TheMouseAndTheKeysReachTheModel) {
     EXPECT_EQ(window->numberBox()->text(), "7");
 }
 
+TEST_F(MenuWindow, TheTilesAreHeardByTheirLegendsAndPlayedFromTheKeys) {
+    open(false);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    const AccessibleTree tree(window.get());
+    EXPECT_EQ(tree.root()->text(QAccessible::Name), "Quillora Vesta");
+    EXPECT_EQ(tree.unheardControls(), "");
+    QStringList heard;
+    for (Spot spot : {Spot::Solo, Spot::Friend, Spot::Several, Spot::Options}) {
+        QAccessibleInterface* tile = tree.find(window->tile(spot));
+        ASSERT_NE(tile, nullptr);
+        EXPECT_EQ(tile->role(), QAccessible::Button);
+        heard << tile->text(QAccessible::Name);
+    }
+    EXPECT_EQ(heard, QStringList({"JUGAR SOLO", "JUGAR CON UN AMIGO", "JUGAR CON VARIOS AMIGOS",
+                                  "CONFIGURACIÓN"}));
+
+    // Tab walks the tiles; the one reached names itself in the legend and
+    // wears the ring.
+    pressKey(Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), window->tile(Spot::Solo));
+    pressKey(Qt::Key_Tab);
+    QWidget* friendTile = window->tile(Spot::Friend);
+    ASSERT_EQ(QApplication::focusWidget(), friendTile);
+    EXPECT_EQ(window->legendLabel()->text(), "JUGAR CON UN AMIGO");
+    const FocusRing* ring = FocusRing::of(window.get());
+    ASSERT_NE(ring, nullptr);
+    EXPECT_EQ(ring->target(), friendTile);
+    EXPECT_TRUE(ring->geometry().contains(
+        QRect(friendTile->mapTo(window.get(), QPoint(0, 0)), friendTile->size())));
+    pressKey(Qt::Key_Right);
+    pressKey(Qt::Key_Left);
+    EXPECT_EQ(QApplication::focusWidget(), friendTile) << "the arrows walk the tiles too";
+
+    pressKey(Qt::Key_Space);
+    EXPECT_EQ(played, 1);
+    EXPECT_EQ(shared.roster.rosterSize, 2);
+    EXPECT_TRUE(shared.multiplayer);
+}
+
 TEST_F(MenuWindow, TheLockCoversEveryTileButTheOneThatContinues) {
     shared.multiplayer = true; // left from an earlier game
     open(true);
     EXPECT_TRUE(window->lockPanel()->isVisible());
+    // The keys pass the locked tiles by.
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    pressKey(Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), window->tile(Spot::Solo));
+    pressKey(Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), window->legendLabel());
+    pressKey(Qt::Key_Tab, Qt::ShiftModifier);
+    EXPECT_EQ(window->legendLabel()->text(), "CONTINUAR");
     QTest::mouseClick(window.get(), Qt::LeftButton, {}, centreOf(Spot::Several));
     EXPECT_EQ(played, 0);
     QTest::mouseMove(window.get(), centreOf(Spot::Solo));

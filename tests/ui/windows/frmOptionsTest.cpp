@@ -5,7 +5,9 @@
 #include "models/frmInicio/InicioModel.h"
 #include "state/SharedState.h"
 #include "storage/ConfigFile.h"
+#include "support/AccessibleTree.h"
 #include "support/Fakes.h"
+#include "support/Keys.h"
 #include "support/TempFolder.h"
 #include "windows/QtColour.h"
 #include "windows/frmOptions/CheckPicture.h"
@@ -148,6 +150,39 @@ TEST_F(OptionsWindow, KeysOnThePageListFollowTheModel) {
     window->pageList()->setFocus();
     QTest::keyClick(window->pageList(), Qt::Key_U);
     EXPECT_EQ(savedLine(13), "1");
+}
+
+TEST_F(OptionsWindow, EveryPageIsHeardAndItsBoxesTickFromTheKeys) {
+    open();
+    for (Page page : {Page::Personal, Page::Visual, Page::Funcional, Page::Libre}) {
+        showPage(page);
+        if (page == Page::Visual) {
+            QTest::mouseClick(window->editorButton(), Qt::LeftButton);
+        }
+        const AccessibleTree tree(window.get());
+        EXPECT_EQ(tree.root()->text(QAccessible::Name), "Configuración:");
+        EXPECT_EQ(tree.unheardControls(), "") << "page " << static_cast<int>(page);
+    }
+    EXPECT_EQ(window->editorButton()->accessibleName(), "Cerrar colores");
+
+    // From the page list, Tab reaches the first box of the page and Space
+    // ticks it by the rules: survival takes the points along.
+    showPage(Page::Personal);
+    window->pageList()->setFocus();
+    pressKey(Qt::Key_Tab);
+    pressKey(Qt::Key_Tab);
+    CheckPicture* survival = window->checkBox(1);
+    ASSERT_EQ(QApplication::focusWidget(), survival);
+    pressKey(Qt::Key_Space);
+    EXPECT_TRUE(window->model().box(1));
+    EXPECT_TRUE(QAccessible::queryAccessibleInterface(survival)->state().checked);
+    pressKey(Qt::Key_Tab, Qt::ShiftModifier);
+    pressKey(Qt::Key_Space);
+    EXPECT_FALSE(window->model().box(0));
+    EXPECT_FALSE(window->model().box(1)) << "no survival without points";
+
+    pressKey(Qt::Key_Escape);
+    EXPECT_TRUE(window->outTimer()->isActive()) << "Esc leaves as Menú does";
 }
 
 TEST_F(OptionsWindow, TheColourRepaintsTheWindow) {

@@ -108,26 +108,26 @@ void MenuModel::hover(Spot spot) {
     m_hovered = spot;
     m_lit = spot == Spot::Lock ? Spot::Background : spot;
     m_numberSelected = spot == Spot::Several;
+    if (spot == Spot::Several) {
+        m_numberText = std::to_string(kPlayersFromHover);
+    }
+    showLegend(legendOf(spot));
+}
+
+std::string MenuModel::legendOf(Spot spot) const {
     switch (spot) {
     case Spot::Solo:
-        showLegend(m_locked ? "CONTINUAR" : "JUGAR SOLO");
-        break;
+        return m_locked ? "CONTINUAR" : "JUGAR SOLO";
     case Spot::Friend:
-        showLegend("JUGAR CON UN AMIGO");
-        break;
+        return "JUGAR CON UN AMIGO";
     case Spot::Several:
-        m_numberText = std::to_string(kPlayersFromHover);
-        showLegend("JUGAR CON VARIOS AMIGOS");
-        break;
+        return "JUGAR CON VARIOS AMIGOS";
     case Spot::Options:
-        showLegend("CONFIGURACIÓN");
-        break;
+        return "CONFIGURACIÓN";
     case Spot::Lock:
-        showLegend("BLOQUEADO");
-        break;
+        return "BLOQUEADO";
     default:
-        showLegend(kWelcome);
-        break;
+        return kWelcome;
     }
 }
 

@@ -77,6 +77,8 @@ public:
     Rgb shade() const { return eColor(gameColour()); }
     Spot hovered() const { return m_hovered; }
     const std::string& legend() const { return m_legend; }
+    // What the legend says over a spot; a screen reader hears each tile by it.
+    std::string legendOf(Spot spot) const;
     int legendLeft() const { return m_legendLeft; }
     int legendWidth() const { return m_legendWidth; }
     const std::string& numberText() const { return m_numberText; }

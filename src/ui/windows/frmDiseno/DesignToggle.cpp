@@ -26,14 +26,17 @@ DesignToggle::DesignToggle(const QString& caption, const QString& tooltip, QWidg
     setFont(Fonts::display(8));
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::TabFocus);
+    // Checkable, so a screen reader hears a check box and whether it is lit.
+    setCheckable(true);
+    setAccessibleName(QString(caption).remove(QLatin1Char('&')));
 }
 
 void DesignToggle::setLook(bool enabled, bool lit, Rgb colour) {
-    if (enabled == isEnabled() && lit == m_lit && colour == m_colour) {
+    if (enabled == isEnabled() && lit == isChecked() && colour == m_colour) {
         return;
     }
     setEnabled(enabled);
-    m_lit = lit;
+    setChecked(lit);
     m_colour = colour;
     update();
 }
@@ -56,7 +59,7 @@ void DesignToggle::paintEvent(QPaintEvent*) {
     const QRectF lamp(kLampLeft + 0.5, (height() - kLampSize) / 2.0 + 0.5, kLampSize - 1,
                       kLampSize - 1);
     p.setPen(QPen(Qt::white, 1.5));
-    p.setBrush(m_lit ? QBrush(Qt::white) : QBrush(Qt::NoBrush));
+    p.setBrush(isChecked() ? QBrush(Qt::white) : QBrush(Qt::NoBrush));
     p.drawRect(lamp);
 
     p.setPen(isEnabled() ? QColor(Qt::white) : qc(kDisabledText));

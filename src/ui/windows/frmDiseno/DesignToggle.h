@@ -15,13 +15,14 @@ public:
     DesignToggle(const QString& caption, const QString& tooltip, QWidget* parent);
 
     void setLook(bool enabled, bool lit, Rgb colour);
-    bool lit() const { return m_lit; }
+    bool lit() const { return isChecked(); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    // The model says whether a click lit it.
+    void nextCheckState() override {}
 
 private:
-    bool m_lit = false;
     Rgb m_colour = kDefaultBlue;
 };
 

@@ -3,10 +3,12 @@
 #include "windows/frmDiseno/FolderViews.h"
 
 #include "look/Colour.h"
+#include "windows/CurrentRowDelegate.h"
 #include "windows/QtColour.h"
 
 #include <QDir>
 #include <QFileSystemModel>
+#include <QKeyEvent>
 #include <QListView>
 
 namespace quillora {
@@ -17,9 +19,11 @@ constexpr Rgb kRefusedList{255, 128, 128};
 
 // Rows of one height laid out in batches keep a folder of thousands of
 // entries from holding the window up while it fills.
-QListView* makeList(QWidget* window, const QString& tooltip) {
+QListView* makeList(QWidget* window, const QString& name, const QString& tooltip) {
     auto* list = new QListView(window);
     list->setToolTip(tooltip);
+    list->setAccessibleName(name);
+    CurrentRowDelegate::mark(list);
     list->setUniformItemSizes(true);
     list->setLayoutMode(QListView::Batched);
     list->setBatchSize(200);
@@ -32,11 +36,24 @@ FolderViews::FolderViews(QWidget* window, std::function<void(const QString&)> fo
                          std::function<void(const QString&)> fileChosen)
     : QObject(window), m_folderChosen(std::move(folderChosen)),
       m_fileChosen(std::move(fileChosen)) {
-    m_dir1 = makeList(window, QStringLiteral(" Examinador de carpetas. "));
+    m_dir1 = makeList(window, QStringLiteral("Examinador de carpetas"),
+                      QStringLiteral(" Examinador de carpetas. "));
     // A folder opens on purpose, not while the arrows pass over it.
     connect(m_dir1, &QListView::activated, this,
             [this](const QModelIndex& index) { folderOpened(index); });
-    m_file1 = makeList(window, QStringLiteral(" Lista de imágenes. "));
+    m_file1 = makeList(window, QStringLiteral("Lista de imágenes"),
+                       QStringLiteral(" Lista de imágenes. "));
+    // The arrows choose as they pass; Enter chooses the picture the list
+    // stands on, which is how a list entered by Tab takes its first one:
+    // passing through the window by Tab changes no picture.
+    connect(m_file1, &QListView::activated, this, [this](const QModelIndex& index) {
+        if (index.isValid()) {
+            m_fileChosen(m_files->fileName(index));
+        }
+    });
+    for (QListView* list : {m_dir1, m_file1}) {
+        list->installEventFilter(this);
+    }
     m_file1->setAutoFillBackground(true);
     setRefused(false);
     makeModels();
@@ -68,7 +85,10 @@ void FolderViews::show(const QString& folder, int reads) {
         return;
     }
     m_following = true;
-    if (reads != m_reads && m_reads >= 0) {
+    // A file system model goes on listing the folders on the way to its
+    // last root, whatever its filter, so a folder left for the one above
+    // would show among the pictures: each folder gets fresh models.
+    if (m_reads >= 0) {
         makeModels();
     }
     m_shown = folder;
@@ -95,6 +115,29 @@ void FolderViews::folderOpened(const QModelIndex& index) {
         // ".." comes back as the folder above.
         m_folderChosen(QDir::cleanPath(m_folders->filePath(index)));
     }
+}
+
+bool FolderViews::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_file1 && event->type() == QEvent::FocusIn &&
+        static_cast<QFocusEvent*>(event)->reason() != Qt::MouseFocusReason &&
+        !m_file1->currentIndex().isValid()) {
+        const QModelIndex first = m_files->index(0, 0, m_file1->rootIndex());
+        if (first.isValid()) {
+            m_following = true;
+            m_file1->selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+            m_following = false;
+        }
+    }
+    // Backspace goes up a folder from either list, as ".." does.
+    if (event->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Backspace && !m_shown.isEmpty()) {
+        const QString above = QDir::cleanPath(m_shown + QStringLiteral("/.."));
+        if (above != m_shown) {
+            m_folderChosen(above);
+        }
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void FolderViews::fileMoved(const QModelIndex& current) {

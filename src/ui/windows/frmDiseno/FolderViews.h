@@ -20,8 +20,8 @@ namespace quillora {
 class FolderViews final : public QObject {
 public:
     // `folderChosen` runs when the player opens a folder of Dir1 (a double
-    // click or Enter), `fileChosen` with a file's name when the player picks
-    // one in File1.
+    // click or Enter) or goes up (Backspace), `fileChosen` with a file's name
+    // when the player picks one in File1.
     FolderViews(QWidget* window, std::function<void(const QString&)> folderChosen,
                 std::function<void(const QString&)> fileChosen);
 
@@ -34,6 +34,9 @@ public:
     // again.
     void show(const QString& folder, int reads);
     void setRefused(bool refused);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void makeModels();

@@ -4,6 +4,8 @@
 
 #include "look/Twips.h"
 #include "platform/Fonts.h"
+#include "windows/AccessibleControl.h"
+#include "windows/FocusRing.h"
 #include "windows/QtColour.h"
 #include "windows/frmDiseno/DesignToggle.h"
 #include "windows/frmDiseno/FolderViews.h"
@@ -113,6 +115,7 @@ void frmDiseno::buildControls() {
     m_txtDireccion = new QLineEdit(this);
     m_txtDireccion->setGeometry(twipRect(kMargin, kMargin, addressWidth, kRowHeight));
     m_txtDireccion->setToolTip(QStringLiteral(" Barra de dirección.  "));
+    m_txtDireccion->setAccessibleName(QStringLiteral("Barra de dirección"));
     connect(m_txtDireccion, &QLineEdit::textEdited, this, [this](const QString& text) {
         m_model.typeAddress(text.toStdString());
         sync();
@@ -123,6 +126,9 @@ void frmDiseno::buildControls() {
     });
 
     m_cmdGo = new GoButton(this);
+    // A picture only: it is heard by what it does now.
+    AccessibleControl::button(
+        m_cmdGo, [this] { return m_cmdGo->toolTip().trimmed(); }, [this] { m_cmdGo->click(); });
     m_cmdGo->setGeometry(twipRect(kWidth - kMargin - kGoWidth, kMargin, kGoWidth, kRowHeight));
     connect(m_cmdGo, &GoButton::clicked, this, [this] {
         m_model.cmdGo();
@@ -143,10 +149,12 @@ void frmDiseno::buildControls() {
     fileList()->setGeometry(twipRect(kListLeft, kFileTop, kListWidth, kFileHeight));
 
     m_image1->setGeometry(twipRect(kMiddleLeft, kTop, kMiddleWidth, kPreviewHeight));
+    AccessibleControl::graphic(m_image1, [] { return QStringLiteral("Vista previa del fondo"); });
 
     m_estilo = new QComboBox(this);
     m_estilo->setGeometry(twipRect(kMiddleLeft, kStyleTop, kMiddleWidth, kRowHeight));
     m_estilo->setToolTip(QStringLiteral(" Estilo de las letras.  "));
+    m_estilo->setAccessibleName(QStringLiteral("Estilo de las letras"));
     for (const StyleItem& item : kStyleItems) {
         m_estilo->addItem(QString::fromUtf8(item.name.data(), static_cast<int>(item.name.size())));
     }
@@ -186,6 +194,8 @@ void frmDiseno::buildControls() {
             sync();
         }
     });
+
+    new FocusRing(this);
 
     m_tmrStyle = new QTimer(this);
     m_tmrStyle->setInterval(DisenoModel::kStyleTickMs);

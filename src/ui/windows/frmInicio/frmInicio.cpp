@@ -4,6 +4,9 @@
 
 #include "look/Twips.h"
 #include "platform/Fonts.h"
+#include "windows/AccessibleControl.h"
+#include "windows/ButtonLike.h"
+#include "windows/FocusRing.h"
 #include "windows/QtColour.h"
 
 #include <QKeyEvent>
@@ -87,6 +90,14 @@ frmInicio::frmInicio(SharedState& shared, WebLookUp& lookUp, bool fontAvailable,
                 .arg(css(kDefaultBlue)));
     }
 
+    for (QLabel* button : {m_lblClose, m_cmdDownload, m_cmdRestart}) {
+        new ButtonLike(
+            button, [button] { return button->text().trimmed(); },
+            [this, button] { press(button); });
+    }
+    AccessibleControl::hidden(m_pointer);
+    new FocusRing(this);
+
     m_timer = new QTimer(this);
     m_timer->setInterval(InicioModel::kTickMs);
     connect(m_timer, &QTimer::timeout, this, &frmInicio::tick);
@@ -143,18 +154,21 @@ bool frmInicio::eventFilter(QObject* watched, QEvent* event) {
     label->setStyleSheet(
         QStringLiteral("QLabel { color: white; background: %1; border-radius: 6px; }")
             .arg(css(pressed ? kGreenLamp : kDefaultBlue)));
-    if (pressed) {
-        return true;
+    if (!pressed) {
+        press(label);
     }
-    if (label == m_lblClose) {
+    return true;
+}
+
+void frmInicio::press(QLabel* button) {
+    if (button == m_lblClose) {
         m_model.close();
-    } else if (label == m_cmdRestart) {
+    } else if (button == m_cmdRestart) {
         m_model.restart();
-    } else if (label == m_cmdDownload) {
+    } else if (button == m_cmdDownload) {
         m_model.download(m_lookUp);
     }
     follow();
-    return true;
 }
 
 void frmInicio::keyPressEvent(QKeyEvent* event) {

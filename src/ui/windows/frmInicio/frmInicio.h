@@ -42,6 +42,8 @@ protected:
 
 private:
     void follow();
+    // " Cerrar ", "DESCARGAR" or "REINICIAR", clicked or pressed from the keys.
+    void press(QLabel* button);
 
     InicioModel m_model;
     WebLookUp& m_lookUp;

@@ -5,8 +5,11 @@
 #include "look/Twips.h"
 #include "platform/Fonts.h"
 #include "state/SharedState.h"
+#include "windows/CurrentRowDelegate.h"
+#include "windows/FocusRing.h"
 #include "windows/QtColour.h"
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
@@ -43,7 +46,12 @@ frmList::frmList(SharedState& shared, Round& round, Dialogs& dialogs,
     m_lstTemas->setToolTip(QStringLiteral(" Click derecho para abrir el menú. "));
     m_lstTemas->setAccessibleName(QStringLiteral("Lista de temas"));
     m_lstTemas->setContextMenuPolicy(Qt::CustomContextMenu);
+    CurrentRowDelegate::mark(m_lstTemas);
+    m_lstTemas->setAccessibleDescription(
+        QStringLiteral("Espacio marca o desmarca un tema, Intro acepta, Control+Intro acepta y "
+                       "juega, la tecla de menú o Mayúsculas+F10 abre el menú."));
     m_lstTemas->viewport()->installEventFilter(this);
+    m_lstTemas->installEventFilter(this);
     connect(m_lstTemas, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
         buildMenu()->popup(m_lstTemas->viewport()->mapToGlobal(at));
     });
@@ -76,6 +84,8 @@ frmList::frmList(SharedState& shared, Round& round, Dialogs& dialogs,
         m_lstTemas->addItem(qs(name));
     }
     sync();
+    m_lstTemas->setFocus();
+    new FocusRing(this);
 
     if (phraseWindow) {
         const QRect from = phraseWindow->frameGeometry();
@@ -141,6 +151,22 @@ void frmList::follow(ListModel::Outcome outcome) {
 }
 
 bool frmList::eventFilter(QObject* watched, QEvent* event) {
+    // Control+Enter is the keyboard's long press: accept and play.
+    if (watched == m_lstTemas && event->type() == QEvent::KeyPress) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if ((key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) &&
+            (key->modifiers() & Qt::ControlModifier)) {
+            m_model.press();
+            follow(m_model.tickGo());
+            return true;
+        }
+        // Shift+F10 opens the menu as the menu key does, beside the current row.
+        if (key->key() == Qt::Key_F10 && key->modifiers() == Qt::ShiftModifier) {
+            const QRect row = m_lstTemas->visualItemRect(m_lstTemas->currentItem());
+            buildMenu()->popup(m_lstTemas->viewport()->mapToGlobal(row.center()));
+            return true;
+        }
+    }
     if (watched == m_lstTemas->viewport()) {
         const auto type = event->type();
         if (type == QEvent::MouseButtonPress &&

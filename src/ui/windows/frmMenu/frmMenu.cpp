@@ -5,6 +5,9 @@
 #include "look/Twips.h"
 #include "platform/Fonts.h"
 #include "ports/Dialogs.h"
+#include "windows/AccessibleControl.h"
+#include "windows/ButtonLike.h"
+#include "windows/FocusRing.h"
 #include "windows/QtColour.h"
 
 #include <QKeyEvent>
@@ -158,6 +161,7 @@ frmMenu::frmMenu(SharedState& shared, Dialogs& dialogs, QWidget* parent)
     setAutoFillBackground(true);
     m_model.load();
     buildControls();
+    buildKeys();
 
     m_tmrLeyend = new QTimer(this);
     m_tmrLeyend->setInterval(MenuModel::kLegendTickMs);
@@ -192,6 +196,7 @@ void frmMenu::buildControls() {
     auto* rule = new Painted(
         [this](QPainter& p, const QRectF& r) { p.fillRect(r, qc(m_model.gameColour())); },
         m_content);
+    AccessibleControl::hidden(rule);
     rule->setGeometry(
         twipRect(kMargin, kRuleTop, MenuModel::kWidthTwips - 2 * kMargin, kRuleHeight));
 
@@ -241,6 +246,7 @@ void frmMenu::buildControls() {
             }
         },
         m_content);
+    AccessibleControl::hidden(footer);
     footer->setGeometry(
         twipRect(0, kFooterTop, MenuModel::kWidthTwips, MenuModel::kHeightTwips - kFooterTop));
 
@@ -254,6 +260,56 @@ void frmMenu::buildControls() {
         m_content);
     m_frmeLock->setGeometry(
         tileRect(1).united(tileRect(3)).adjusted(-px(60), -px(60), px(60), px(60)));
+}
+
+void frmMenu::buildKeys() {
+    const auto text = [](const std::string& utf8) { return QString::fromStdString(utf8); };
+    for (std::size_t i = 0; i < kTileSpots.size(); ++i) {
+        const Spot spot = kTileSpots[i];
+        // The tiles take the focus from the keyboard only: the mouse is the
+        // window's, and a click leaves no ring behind.
+        new ButtonLike(
+            m_tiles[i], [this, spot, text] { return text(m_model.legendOf(spot)); },
+            [this, spot] {
+                const MenuModel::Outcome outcome = m_model.choose(spot);
+                sync();
+                follow(outcome);
+            },
+            Qt::TabFocus);
+        m_tiles[i]->installEventFilter(this);
+    }
+    m_tiles[tileIndex(Spot::Several)]->setAccessibleDescription(
+        QStringLiteral("Escriba un número del 1 al 9 para jugar con esa cantidad de jugadores."));
+    new ButtonLike(
+        m_lblLeyend, [this] { return m_lblLeyend->text(); },
+        [this] { follow(m_model.choose(Spot::Legend)); }, Qt::TabFocus);
+    m_lblLeyend->setAccessibleDescription(QStringLiteral("Acerca del juego"));
+    m_lblLeyend->installEventFilter(this);
+    // The plus does what the third tile does; Tab stops once for both.
+    new ButtonLike(
+        m_lblPlus, [] { return QStringLiteral("+"); },
+        [this] {
+            const MenuModel::Outcome outcome = m_model.choose(Spot::Several);
+            sync();
+            follow(outcome);
+        },
+        Qt::NoFocus);
+    m_lblPlus->setAccessibleDescription(text(m_model.legendOf(Spot::Several)));
+    AccessibleControl::label(m_txtNumber, [this] {
+        return QStringLiteral("Número de jugadores: %1").arg(m_txtNumber->text());
+    });
+    AccessibleControl::graphic(m_frmeLock,
+                               [this, text] { return text(m_model.legendOf(Spot::Lock)); });
+    for (std::size_t i = 1; i < m_tiles.size(); ++i) {
+        setTabOrder(m_tiles[i - 1], m_tiles[i]);
+    }
+    setTabOrder(m_tiles.back(), m_lblLeyend);
+    new FocusRing(this);
+}
+
+QWidget* frmMenu::tile(Spot spot) const {
+    const std::size_t index = tileIndex(spot);
+    return index < m_tiles.size() ? m_tiles[index] : nullptr;
 }
 
 void frmMenu::sync() {
@@ -286,6 +342,10 @@ void frmMenu::sync() {
             .arg(px(kPlusSize) / 2));
 
     m_frmeLock->setVisible(m_model.locked());
+    // Under the lock only the first tile answers, the keys as well.
+    for (std::size_t i = 0; i < kTileSpots.size(); ++i) {
+        m_tiles[i]->setEnabled(!m_model.locked() || kTileSpots[i] == Spot::Solo);
+    }
     m_content->update();
 
     const QRect wanted(px(m_model.windowLeft()), px(m_model.windowTop()), px(m_model.windowWidth()),
@@ -375,7 +435,31 @@ void frmMenu::follow(MenuModel::Outcome outcome) {
     }
 }
 
+bool frmMenu::eventFilter(QObject* watched, QEvent* event) {
+    // A tile reached by the keys lights up and names itself in the legend,
+    // as under the mouse; the legend itself greets.
+    if (event->type() == QEvent::FocusIn) {
+        if (watched == m_lblLeyend) {
+            m_model.hover(Spot::Background);
+            sync();
+        }
+        for (std::size_t i = 0; i < kTileSpots.size(); ++i) {
+            if (watched == m_tiles[i]) {
+                m_model.hover(kTileSpots[i]);
+                sync();
+            }
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
 void frmMenu::keyPressEvent(QKeyEvent* event) {
+    // The arrows walk along the tiles as Tab does.
+    if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right) {
+        focusNextPrevChild(event->key() == Qt::Key_Right);
+        event->accept();
+        return;
+    }
     using Key = MenuModel::Key;
     Key key = Key::Other;
     char32_t character = 0;

@@ -38,8 +38,10 @@ public:
     QLabel* legendLabel() const { return m_lblLeyend; }
     QLabel* numberBox() const { return m_txtNumber; }
     QWidget* lockPanel() const { return m_frmeLock; }
+    QWidget* tile(MenuModel::Spot spot) const;
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -51,6 +53,9 @@ protected:
 
 private:
     void buildControls();
+    // Tab, Space and Enter reach the tiles and the legend, and a screen
+    // reader hears each by its legend.
+    void buildKeys();
     MenuModel::Spot spotAt(QPoint pos) const;
     void follow(MenuModel::Outcome outcome);
 

@@ -4,6 +4,7 @@
 
 #include "look/Twips.h"
 #include "platform/Fonts.h"
+#include "windows/FocusRing.h"
 #include "windows/QtColour.h"
 
 #include <QCheckBox>
@@ -41,10 +42,13 @@ frmNames::frmNames(SharedState& shared, std::function<void()> closed, QWidget* p
         text->setGeometry(px(120), px(60), px(kWidth - 1080), px(420));
         text->setFont(Fonts::display(10));
         text->setText(qs(m_model.text(box)));
+        text->setAccessibleName(QStringLiteral("Jugador %1").arg(box));
         text->installEventFilter(this);
         connect(text, &QLineEdit::textEdited, this,
                 [this, box](const QString& value) { m_model.setText(box, value.toStdString()); });
         auto* check = new QCheckBox(row);
+        // Two ticks swap two players.
+        check->setAccessibleName(QStringLiteral("Cambiar de lugar al jugador %1").arg(box));
         check->setGeometry(px(kWidth - 840), px(90), px(420), px(360));
         connect(check, &QCheckBox::clicked, this, [this, box](bool) {
             m_checks[static_cast<std::size_t>(box - 1)]->setChecked(m_model.tick(box));
@@ -69,6 +73,16 @@ frmNames::frmNames(SharedState& shared, std::function<void()> closed, QWidget* p
     QLineEdit* first = nameBox(m_model.firstFocusBox());
     first->setFocus();
     first->selectAll();
+    new FocusRing(this);
+}
+
+void frmNames::keyPressEvent(QKeyEvent* event) {
+    // Esc is the close box, which keeps the names.
+    if (event->key() == Qt::Key_Escape) {
+        close();
+        return;
+    }
+    QWidget::keyPressEvent(event);
 }
 
 void frmNames::refresh() {

@@ -4,6 +4,7 @@
 
 #include "look/Twips.h"
 #include "platform/Fonts.h"
+#include "windows/AccessibleControl.h"
 #include "windows/QtColour.h"
 
 #include <QLabel>
@@ -78,6 +79,8 @@ ColourEditor::ColourEditor(OptionsModel& model, std::function<void()> changed, Q
         m_marks[i]->setGeometry(
             twipRect(kMarkLeft, top + (kRowHeight - kMarkSize) / 2, kMarkSize, kMarkSize));
         m_labels[i] = new QLabel(QString::fromUtf8(names[i]), this);
+        const QString heard = m_labels[i]->text().trimmed();
+        AccessibleControl::graphic(m_marks[i], [heard] { return heard; });
         m_labels[i]->setFont(font);
         m_labels[i]->setGeometry(twipRect(kLabelLeft, top, kLabelWidth, kRowHeight));
 
@@ -116,12 +119,14 @@ ColourEditor::ColourEditor(OptionsModel& model, std::function<void()> changed, Q
     auto* swatch = new Swatch(this);
     swatch->setGeometry(twipRect(kCodeLeft, kSwatchTop, kSwatchWidth, kRowHeight));
     swatch->setToolTip(QStringLiteral(" Color que se usará. "));
+    AccessibleControl::graphic(swatch, [] { return QStringLiteral("Color"); });
     m_shpColor = swatch;
 
     m_cmdApply = new QPushButton(QStringLiteral("="), this);
     m_cmdApply->setFont(font);
     m_cmdApply->setGeometry(twipRect(kApplyLeft, kSwatchTop, kApplyWidth, kRowHeight));
     m_cmdApply->setToolTip(QStringLiteral(" Aplicar color. "));
+    m_cmdApply->setAccessibleName(QStringLiteral("Aplicar color"));
     connect(m_cmdApply, &QPushButton::clicked, this, [this] {
         m_model.applyCode();
         m_changed();

@@ -5,6 +5,7 @@
 #include "look/Twips.h"
 #include "platform/Fonts.h"
 #include "storage/ConfigFile.h"
+#include "windows/CurrentRowDelegate.h"
 #include "windows/QtColour.h"
 #include "windows/TypedTextFilter.h"
 
@@ -41,6 +42,9 @@ LibrePage::LibrePage(OptionsModel& model, std::function<void()> changed, QWidget
     for (int row = 0; row < OptionsModel::kLines; ++row) {
         m_lstValues->addItem(QString());
     }
+    for (QListWidget* list : {m_lstNames, m_lstValues}) {
+        CurrentRowDelegate::mark(list);
+    }
     // The two lists read as one table: they scroll together.
     connect(m_lstNames->verticalScrollBar(), &QScrollBar::valueChanged,
             m_lstValues->verticalScrollBar(), &QScrollBar::setValue);
@@ -53,6 +57,7 @@ LibrePage::LibrePage(OptionsModel& model, std::function<void()> changed, QWidget
     m_txtValue->setFont(font);
     m_txtValue->setGeometry(px(0), px(kBoxTop), px(kValuesLeft + kValuesWidth), px(kBoxHeight));
     m_txtValue->setToolTip(QStringLiteral(" 0 = Desactivado, 1 = Activado, 2 = Alterno "));
+    m_txtValue->setAccessibleName(QStringLiteral("Valor"));
     new TypedTextFilter(m_txtValue, [](char32_t c, const QString&) { return storableInLine(c); });
     connect(m_txtValue, &QLineEdit::textEdited, this, [this](const QString& text) {
         m_model.setValueText(text.toStdString());

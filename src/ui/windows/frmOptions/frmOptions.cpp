@@ -5,6 +5,8 @@
 #include "look/Twips.h"
 #include "platform/Fonts.h"
 #include "storage/ConfigFile.h"
+#include "windows/CurrentRowDelegate.h"
+#include "windows/FocusRing.h"
 #include "windows/QtColour.h"
 #include "windows/TypedTextFilter.h"
 #include "windows/frmOptions/CheckPicture.h"
@@ -68,6 +70,7 @@ frmOptions::frmOptions(SharedState& shared, Dialogs& dialogs, QWidget* parent)
     m_lstPages->setGeometry(twipRect(kMargin, kMargin, kListWidth, kListHeight));
     m_lstPages->setFont(Fonts::display(9));
     m_lstPages->setAccessibleName(QStringLiteral("Páginas"));
+    CurrentRowDelegate::mark(m_lstPages);
     for (int page = 0; page < OptionsModel::kPages; ++page) {
         auto* item = new QListWidgetItem(text(OptionsModel::pageName(static_cast<Page>(page))));
         item->setSizeHint(QSize(0, px(kRowHeight)));
@@ -113,6 +116,17 @@ frmOptions::frmOptions(SharedState& shared, Dialogs& dialogs, QWidget* parent)
     m_model.open();
     sync();
     m_lstPages->setFocus();
+    new FocusRing(this);
+}
+
+void frmOptions::keyPressEvent(QKeyEvent* event) {
+    // Esc leaves as " &Menú" does, without saving.
+    if (event->key() == Qt::Key_Escape) {
+        m_model.startMenu();
+        sync();
+        return;
+    }
+    QWidget::keyPressEvent(event);
 }
 
 frmOptions::~frmOptions() = default;
@@ -284,6 +298,8 @@ void frmOptions::sync() {
     }
     m_cmdColours->setText(text(m_model.editorButtonCaption()));
     m_cmdColours->setToolTip(text(m_model.editorButtonTooltip()));
+    // "..." says nothing read aloud: the button is heard by what it does.
+    m_cmdColours->setAccessibleName(m_cmdColours->toolTip().trimmed().remove(QLatin1Char('.')));
     m_colourEditor->setVisible(m_model.editorOpen());
     m_colourEditor->sync();
     m_librePage->sync();

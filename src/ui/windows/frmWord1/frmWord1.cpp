@@ -5,6 +5,8 @@
 #include "look/Twips.h"
 #include "platform/Fonts.h"
 #include "state/SharedState.h"
+#include "windows/AccessibleControl.h"
+#include "windows/FocusRing.h"
 #include "windows/QtColour.h"
 #include "windows/TypedTextFilter.h"
 
@@ -48,6 +50,7 @@ frmWord1::frmWord1(SharedState& shared, Dialogs& dialogs,
     m_txtTheme->setGeometry(px(3360), px(120), px(3000), px(390));
     m_txtTheme->setMaxLength(Word1Model::kMaxThemeChars);
     m_txtTheme->setToolTip(QStringLiteral(" Tema "));
+    m_txtTheme->setAccessibleName(QStringLiteral("Tema"));
     m_txtTheme->setFont(Fonts::display(9));
     m_txtTheme->installEventFilter(this);
     connect(m_txtTheme, &QLineEdit::textEdited, this,
@@ -58,6 +61,10 @@ frmWord1::frmWord1(SharedState& shared, Dialogs& dialogs,
     m_txtWord->setMaxLength(Word1Model::kMaxPhraseChars);
     m_txtWord->setToolTip(QStringLiteral(" Frase a jugar. "));
     m_txtWord->setFont(Fonts::display(12));
+    // The friend sees what he types; a screen reader, which the others hear
+    // too, gets a password box.
+    AccessibleControl::secret(m_txtWord, QAccessible::EditableText, QStringLiteral("Frase a jugar"),
+                              [this] { return static_cast<int>(m_txtWord->text().size()); });
     // Typed or composed, only what the board has cells for gets in; the
     // filter installed last, Enter's, looks first.
     new TypedTextFilter(m_txtWord, [this](char32_t c, const QString&) {
@@ -81,6 +88,8 @@ frmWord1::frmWord1(SharedState& shared, Dialogs& dialogs,
         label->setFont(mono);
         label->setStyleSheet(QStringLiteral("background: %1; color: black; border-radius: 4px;")
                                  .arg(css(kNearWhite)));
+        AccessibleControl::secret(label, QAccessible::StaticText,
+                                  QStringLiteral("Vista previa, fila %1").arg(row + 1));
         m_rows[static_cast<std::size_t>(row)] = label;
     }
     auto* legend = new QLabel(QStringLiteral("Espacios repetidos se omiten."), this);
@@ -90,13 +99,15 @@ frmWord1::frmWord1(SharedState& shared, Dialogs& dialogs,
     m_cmdOk = new QPushButton(QStringLiteral(" Aceptar "), this);
     m_cmdOk->setGeometry(px(kWidth - 2280), px(3360), px(2040), px(480));
     m_cmdOk->setFont(Fonts::display(10));
-    m_cmdOk->setAutoDefault(false);
+    // Enter on the focused button accepts, as it does in the boxes.
+    m_cmdOk->setAutoDefault(true);
     connect(m_cmdOk, &QPushButton::clicked, this, &frmWord1::accept);
 
     m_txtTheme->setText(qs(m_model.themeText()));
     m_txtWord->clear();
     refresh();
     m_txtWord->setFocus();
+    new FocusRing(this);
 
     if (board) {
         const QRect b = board->frameGeometry();

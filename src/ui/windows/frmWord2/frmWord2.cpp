@@ -5,6 +5,9 @@
 #include "look/Twips.h"
 #include "models/frmQlvs/QlvsModel.h"
 #include "platform/Fonts.h"
+#include "windows/AccessibleControl.h"
+#include "windows/ButtonLike.h"
+#include "windows/FocusRing.h"
 #include "windows/QtColour.h"
 #include "windows/frmList/frmList.h"
 
@@ -49,6 +52,10 @@ frmWord2::frmWord2(QlvsModel& model, std::function<void()> changed, QWidget* boa
     m_lblTheme->setWordWrap(true);
     m_lblTheme->setCursor(Qt::PointingHandCursor);
     m_lblTheme->installEventFilter(this);
+    // Reached by Tab too, as the theme it names can be changed from it.
+    new ButtonLike(
+        m_lblTheme, [this] { return m_lblTheme->text(); }, [this] { openThemesList(); });
+    m_lblTheme->setAccessibleDescription(QStringLiteral("Más temas"));
 
     // The phrase travels in a box the player never sees.
     m_txtWord = new QLineEdit(this);
@@ -58,11 +65,14 @@ frmWord2::frmWord2(QlvsModel& model, std::function<void()> changed, QWidget* boa
     // Out of reach of the keyboard too: the keys belong to the window, and
     // the player must not land in the phrase by tabbing.
     m_txtWord->setFocusPolicy(Qt::NoFocus);
+    // And out of a screen reader's hearing: the player is about to guess it.
+    AccessibleControl::hidden(m_txtWord);
 
     m_cmdOther = new QPushButton(QStringLiteral(" Más temas  "), this);
     m_cmdOther->setGeometry(px(360), px(1440), px(2160), px(480));
     m_cmdOther->setFont(Fonts::display(10));
-    m_cmdOther->setAutoDefault(false);
+    // Enter presses the focused button; elsewhere it accepts.
+    m_cmdOther->setAutoDefault(true);
     connect(m_cmdOther, &QPushButton::clicked, this, &frmWord2::openThemesList);
 
     m_cmdOk = new QPushButton(QStringLiteral(" Aceptar "), this);
@@ -70,6 +80,9 @@ frmWord2::frmWord2(QlvsModel& model, std::function<void()> changed, QWidget* boa
     m_cmdOk->setFont(Fonts::display(10));
     m_cmdOk->setDefault(true);
     connect(m_cmdOk, &QPushButton::clicked, this, &frmWord2::eOk);
+
+    m_cmdOk->setFocus();
+    new FocusRing(this);
 
     m_model.round().BotonTema();
     m_model.round().eOther();
@@ -147,6 +160,8 @@ void frmWord2::openThemesList() {
         if (result() == QDialog::Rejected && !m_finished) {
             show();
             activateWindow();
+            // Back with a new draw, Enter plays it.
+            m_cmdOk->setFocus();
         }
     });
     m_list->open();

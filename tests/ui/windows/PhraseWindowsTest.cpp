@@ -1,0 +1,146 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/AccessibleTree.h"
+#include "support/BoardFixture.h"
+#include "support/Draws.h"
+#include "support/Keys.h"
+#include "windows/frmList/frmList.h"
+#include "windows/frmNames/frmNames.h"
+#include "windows/frmWord1/frmWord1.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QListWidget>
+
+namespace quillora {
+namespace {
+
+// The windows the board opens before a game, as a player who uses only the
+// keys, or a screen reader, finds them; and the phrase they must keep to
+// themselves.
+class PhraseWindows : public BoardWindow {
+protected:
+    void SetUp() override {
+        BoardWindow::SetUp();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    }
+    static void activate(QWidget* opened) { ASSERT_TRUE(takeKeys(opened)); }
+    static void settle() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
+};
+
+TEST_F(PhraseWindows, TheDrawnPhraseIsNeverHeardAndTheThemesAreChosenFromTheKeys) {
+    random.queue({phrase(3)});
+    QTest::keyClick(window.get(), Qt::Key_Return);
+    frmWord2* words = window->themeWindow();
+    ASSERT_NE(words, nullptr);
+    activate(words);
+    const QString drawn = QString::fromStdString(window->model().round().drawnPhrase());
+    ASSERT_FALSE(drawn.isEmpty());
+    {
+        const AccessibleTree tree(words);
+        EXPECT_EQ(tree.root()->text(QAccessible::Name), "EL TEMA ES:");
+        EXPECT_EQ(tree.unheardControls(), "");
+        const QString heard = tree.everything();
+        EXPECT_TRUE(heard.contains(words->themeLabel()->text())) << "the walk hears the theme";
+        EXPECT_FALSE(heard.contains(drawn, Qt::CaseInsensitive)) << drawn.toStdString();
+    }
+
+    // Enter would play: the theme is changed from the label the keys reach.
+    EXPECT_EQ(QApplication::focusWidget(), words->acceptButton());
+    pressKey(Qt::Key_Tab, Qt::ShiftModifier);
+    pressKey(Qt::Key_Tab, Qt::ShiftModifier);
+    ASSERT_EQ(QApplication::focusWidget(), words->themeLabel());
+    pressKey(Qt::Key_Space);
+    frmList* list = words->themesList();
+    ASSERT_NE(list, nullptr);
+    activate(list);
+    {
+        const AccessibleTree tree(list);
+        EXPECT_EQ(tree.root()->text(QAccessible::Name), "Lista de temas:");
+        EXPECT_EQ(tree.unheardControls(), "");
+    }
+    ASSERT_EQ(QApplication::focusWidget(), list->list());
+    pressKey(Qt::Key_Space);
+    pressKey(Qt::Key_Down);
+    pressKey(Qt::Key_Space);
+    EXPECT_EQ(list->list()->selectedItems().size(), 2);
+    random.queue({theme(2), phrase(6)});
+    pressKey(Qt::Key_Return);
+    settle();
+    EXPECT_EQ(words->themesList(), nullptr);
+    EXPECT_TRUE(shared.current().selectedThemes[1] && shared.current().selectedThemes[2]);
+    EXPECT_EQ(words->themeLabel()->text(), "????");
+    const QString redrawn = QString::fromStdString(window->model().round().drawnPhrase());
+    EXPECT_FALSE(AccessibleTree(words).everything().contains(redrawn, Qt::CaseInsensitive));
+
+    activate(words);
+    EXPECT_EQ(QApplication::focusWidget(), words->acceptButton()) << "back to play the new draw";
+    pressKey(Qt::Key_Return);
+    settle();
+    EXPECT_EQ(window->themeWindow(), nullptr);
+    EXPECT_EQ(window->statusLabel()->text(), "JUGANDO...");
+}
+
+TEST_F(PhraseWindows, TheFriendSeesHisPhraseWhileAScreenReaderHearsAPasswordBox) {
+    setUpRoster(shared, true, 3);
+    shared.sessions[0].playerNames = {"Ana", "Beto", "Ciro"};
+    SetUpBoard();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+
+    // The names first: Tab runs along the rows, Space ticks, Esc keeps them.
+    window->eNames();
+    frmNames* names = window->namesWindow();
+    ASSERT_NE(names, nullptr);
+    activate(names);
+    {
+        const AccessibleTree tree(names);
+        EXPECT_EQ(tree.root()->text(QAccessible::Name), "Jugadores:");
+        EXPECT_EQ(tree.unheardControls(), "");
+        EXPECT_EQ(tree.usableControls(), 6) << "three rows of a box and a tick";
+    }
+    ASSERT_EQ(QApplication::focusWidget(), names->nameBox(1));
+    pressKey(Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), names->checkBox(1));
+    pressKey(Qt::Key_Tab);
+    ASSERT_EQ(QApplication::focusWidget(), names->nameBox(2));
+    type(QStringLiteral("Bea"), names->nameBox(2));
+    pressKey(Qt::Key_Escape);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(shared.sessions[0].playerNames[1], "Bea");
+    ASSERT_TRUE(window->isVisible());
+    activate(window.get());
+
+    QTest::keyClick(window.get(), Qt::Key_Return);
+    frmWord1* friendWindow = window->friendWindow();
+    ASSERT_NE(friendWindow, nullptr);
+    activate(friendWindow);
+    QLineEdit* phraseBox = friendWindow->phraseBox();
+    ASSERT_EQ(QApplication::focusWidget(), phraseBox);
+    type(QStringLiteral("zorro gris"), phraseBox);
+    EXPECT_EQ(phraseBox->echoMode(), QLineEdit::Normal);
+    EXPECT_EQ(phraseBox->displayText(), "zorro gris") << "the friend sees what he types";
+    EXPECT_EQ(friendWindow->previewRow(1)->text(), "ZORRO GRIS");
+
+    const AccessibleTree tree(friendWindow);
+    EXPECT_EQ(tree.root()->text(QAccessible::Name), "LA FRASE ES:");
+    EXPECT_EQ(tree.unheardControls(), "");
+    const QString heard = tree.everything();
+    EXPECT_TRUE(heard.contains("(Ninguno)")) << "the walk reads what the boxes hold";
+    EXPECT_FALSE(heard.contains("zorro", Qt::CaseInsensitive));
+    QAccessibleInterface* box = tree.find(phraseBox);
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->role(), QAccessible::EditableText);
+    EXPECT_TRUE(box->state().passwordEdit);
+    EXPECT_EQ(box->text(QAccessible::Value), QString(10, QLatin1Char('*')));
+    EXPECT_EQ(box->textInterface(), nullptr);
+
+    // Tab to " Aceptar ", and Enter on it plays.
+    pressKey(Qt::Key_Tab);
+    ASSERT_EQ(QApplication::focusWidget(), friendWindow->acceptButton());
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(window->themeLabel()->text(), "Frase de Ana");
+    EXPECT_EQ(window->statusLabel()->text(), "JUGANDO...");
+}
+
+} // namespace
+} // namespace quillora
