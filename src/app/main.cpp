@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "desktop/About.h"
 #include "desktop/WebLookUp.h"
 #include "look/Twips.h"
 #include "platform/AppIcon.h"
@@ -81,7 +80,6 @@ private:
         menu->onPlay = [this] { later([this] { openBoard(); }); };
         menu->onQuit = [] { QCoreApplication::quit(); };
         menu->onOptions = [this] { later([this] { openOptions(); }); };
-        menu->onAbout = [this] { quillora::eAbout(m_dialogs); };
         return menu;
     }
 
