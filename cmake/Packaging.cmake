@@ -9,15 +9,15 @@ set(CPACK_PACKAGE_VENDOR "Ondrel Works")
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
 set(CPACK_PACKAGE_CONTACT "The Quillora Vesta developers <quillora-vesta@ondrelworks.org>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "hangman game in Spanish, alone or with friends")
+# CPack puts the summary first and indents each line below it.
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
-    "hangman game in Spanish, alone or with friends
- Guess the hidden phrase letter by letter before the figure on the gallows
- is complete. Phrases come from fifty themes of twenty phrases each, or are
- typed by a friend; up to nine players take turns.
- .
- The game keeps points, has a survival mode and a countdown mode, keeps
- statistics for up to four users, looks played phrases up on the web, and
- can be played from the keyboard alone and with a screen reader.")
+    "Guess the hidden phrase letter by letter before the figure on the gallows
+is complete. Phrases come from fifty themes of twenty phrases each, or are
+typed by a friend; up to nine players take turns.
+.
+The game keeps points, has a survival mode and a countdown mode, keeps
+statistics for up to four users, looks played phrases up on the web, and
+can be played from the keyboard alone and with a screen reader.")
 set(CPACK_DEBIAN_PACKAGE_SECTION games)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_HOMEPAGE ${QUILLORA_HOMEPAGE})

@@ -11,7 +11,9 @@ bash scripts/install-deps.sh
 build_dir="${QUILLORA_DEB_BUILD:-build-deb}"
 lock="${QUILLORA_BUILD_LOCK:-/tmp/quillora-build.lock}"
 
-# Debian's own hardening flags, and the program where Debian keeps games.
+# Debian's own hardening flags, all of them, and the program where Debian
+# keeps games.
+export DEB_BUILD_MAINT_OPTIONS=hardening=+all
 cmake -S . -B "$build_dir" -G Ninja -DCMAKE_BUILD_TYPE=Release \
     -DQUILLORA_BUILD_TESTS=OFF -DQUILLORA_BUILD_TOOLS=OFF \
     -DCMAKE_INSTALL_PREFIX=/usr -DCMAKE_INSTALL_BINDIR=games \
