@@ -6,9 +6,11 @@
 #include "models/frmQlvs/QlvsModel.h"
 #include "windows/QtColour.h"
 #include "windows/frmQlvs/KeyboardView.h"
+#include "windows/frmQlvs/PaintedPartAccessible.h"
 
-#include <QPointer>
 #include <QTimer>
+
+#include <array>
 
 namespace quillora {
 
@@ -25,53 +27,20 @@ constexpr std::array<int, kKeyCount> kReadingOrder{1,  2,  3,  4,         5,
                                                    29, 30, 31, 32,        33,
                                                    34, 35, 36, 37,        kCloseDigitsKey};
 
-class KeyAccessible final : public QAccessibleInterface, public QAccessibleActionInterface {
+class KeyAccessible final : public PaintedPartAccessible<KeyboardView>,
+                            public QAccessibleActionInterface {
 public:
-    KeyAccessible(KeyboardView* keyboard, int key) : m_keyboard(keyboard), m_key(key) {}
+    using PaintedPartAccessible::PaintedPartAccessible;
 
-    bool isValid() const override { return !m_keyboard.isNull(); }
-    QObject* object() const override { return nullptr; }
-    QWindow* window() const override { return parent() ? parent()->window() : nullptr; }
-    QAccessibleInterface* childAt(int, int) const override { return nullptr; }
-    QAccessibleInterface* parent() const override {
-        return m_keyboard ? QAccessible::queryAccessibleInterface(m_keyboard.data()) : nullptr;
-    }
-    QAccessibleInterface* child(int) const override { return nullptr; }
-    int childCount() const override { return 0; }
-    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
-
-    QString text(QAccessible::Text t) const override {
-        if (!m_keyboard) {
-            return {};
-        }
-        const Round& round = m_keyboard->model().round();
-        switch (t) {
-        case QAccessible::Name:
-            return qs(spokenKeyName(round, m_key));
-        case QAccessible::Description:
-            return qs(spokenKeyDescription(round, m_key));
-        default:
-            return {};
-        }
-    }
-    void setText(QAccessible::Text, const QString&) override {}
-
-    QRect rect() const override {
-        if (!m_keyboard) {
-            return {};
-        }
-        const QRect local = m_keyboard->keyRect(m_key);
-        return QRect(m_keyboard->mapToGlobal(local.topLeft()), local.size());
-    }
     QAccessible::Role role() const override { return QAccessible::Button; }
     QAccessible::State state() const override {
         QAccessible::State s;
-        if (!m_keyboard) {
+        if (!m_view) {
             s.invalid = true;
             return s;
         }
-        s.invisible = !m_keyboard->isVisible() || !m_keyboard->keyShown(m_key);
-        s.disabled = !m_keyboard->keyUsable(m_key);
+        s.invisible = !m_view->isVisible() || !m_view->keyShown(m_part);
+        s.disabled = !m_view->keyUsable(m_part);
         return s;
     }
     void* interface_cast(QAccessible::InterfaceType type) override {
@@ -88,14 +57,16 @@ public:
         }
         // Answered first: a guess may end the game, and the end may ask
         // the player something.
-        QTimer::singleShot(0, m_keyboard.data(),
-                           [keyboard = m_keyboard, key = m_key] { keyboard->press(key); });
+        QTimer::singleShot(0, m_view.data(),
+                           [keyboard = m_view, key = m_part] { keyboard->press(key); });
     }
     QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
 private:
-    QPointer<KeyboardView> m_keyboard;
-    int m_key;
+    QString name() const override { return qs(spokenKeyName(round(), m_part)); }
+    QString description() const override { return qs(spokenKeyDescription(round(), m_part)); }
+    QRect partRect() const override { return m_view->keyRect(m_part); }
+    const Round& round() const { return m_view->model().round(); }
 };
 
 } // namespace
@@ -103,13 +74,7 @@ private:
 KeyboardAccessible::KeyboardAccessible(KeyboardView* keyboard)
     : QAccessibleWidget(keyboard, QAccessible::Grouping) {}
 
-KeyboardAccessible::~KeyboardAccessible() {
-    for (const QAccessible::Id id : m_keys) {
-        if (id != 0) {
-            QAccessible::deleteAccessibleInterface(id);
-        }
-    }
-}
+KeyboardAccessible::~KeyboardAccessible() = default;
 
 int KeyboardAccessible::keyOfChild(int index) {
     return kReadingOrder[static_cast<std::size_t>(index)];
@@ -129,25 +94,12 @@ KeyboardView* KeyboardAccessible::keyboard() const {
 }
 
 QAccessibleInterface* KeyboardAccessible::child(int index) const {
-    if (index < 0 || index >= kKeyCount) {
-        return nullptr;
-    }
-    QAccessible::Id& id = m_keys[static_cast<std::size_t>(index)];
-    if (id == 0) {
-        id = QAccessible::registerAccessibleInterface(
-            new KeyAccessible(keyboard(), keyOfChild(index)));
-    }
-    return QAccessible::accessibleInterface(id);
+    return m_keys.get(index,
+                      [this, index] { return new KeyAccessible(keyboard(), keyOfChild(index)); });
 }
 
 int KeyboardAccessible::indexOfChild(const QAccessibleInterface* child) const {
-    for (int i = 0; i < kKeyCount; ++i) {
-        const QAccessible::Id id = m_keys[static_cast<std::size_t>(i)];
-        if (id != 0 && QAccessible::accessibleInterface(id) == child) {
-            return i;
-        }
-    }
-    return -1;
+    return m_keys.indexOf(child);
 }
 
 QAccessibleInterface* KeyboardAccessible::childAt(int x, int y) const {

@@ -3,10 +3,9 @@
 #pragma once
 
 #include "round/Keyboard.h"
+#include "windows/frmQlvs/PaintedPartAccessible.h"
 
 #include <QAccessibleWidget>
-
-#include <array>
 
 namespace quillora {
 
@@ -33,7 +32,7 @@ public:
 private:
     KeyboardView* keyboard() const;
 
-    mutable std::array<QAccessible::Id, kKeyCount> m_keys{};
+    mutable PartInterfaces m_keys{kKeyCount};
 };
 
 } // namespace quillora

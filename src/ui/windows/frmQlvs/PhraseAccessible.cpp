@@ -5,53 +5,19 @@
 #include "models/frmQlvs/BoardSpeech.h"
 #include "models/frmQlvs/QlvsModel.h"
 #include "windows/QtColour.h"
+#include "windows/frmQlvs/PaintedPartAccessible.h"
 #include "windows/frmQlvs/PhraseView.h"
-
-#include <QPointer>
-#include <QWidget>
 
 namespace quillora {
 
 namespace {
 
-// One cell of the phrase, 1..42. It holds no text of its own: each question
-// is answered from the board as it stands.
-class CellAccessible final : public QAccessibleInterface, public QAccessibleTableCellInterface {
+// One cell of the phrase, 1..42.
+class CellAccessible final : public PaintedPartAccessible<PhraseView>,
+                             public QAccessibleTableCellInterface {
 public:
-    CellAccessible(PhraseView* view, int cell) : m_view(view), m_cell(cell) {}
+    using PaintedPartAccessible::PaintedPartAccessible;
 
-    bool isValid() const override { return !m_view.isNull(); }
-    QObject* object() const override { return nullptr; }
-    QWindow* window() const override { return table() ? table()->window() : nullptr; }
-    QAccessibleInterface* childAt(int, int) const override { return nullptr; }
-    QAccessibleInterface* parent() const override { return table(); }
-    QAccessibleInterface* child(int) const override { return nullptr; }
-    int childCount() const override { return 0; }
-    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
-
-    QString text(QAccessible::Text t) const override {
-        if (!m_view) {
-            return {};
-        }
-        const PhraseBoard& board = m_view->model().round().board();
-        switch (t) {
-        case QAccessible::Name:
-            return qs(spokenCellName(board.cell(m_cell)));
-        case QAccessible::Description:
-            return qs(spokenCellDescription(board, m_cell));
-        default:
-            return {};
-        }
-    }
-    void setText(QAccessible::Text, const QString&) override {}
-
-    QRect rect() const override {
-        if (!m_view) {
-            return {};
-        }
-        const QRect local = m_view->cellRect(m_cell);
-        return QRect(m_view->mapToGlobal(local.topLeft()), local.size());
-    }
     QAccessible::Role role() const override { return QAccessible::Cell; }
     QAccessible::State state() const override {
         QAccessible::State s;
@@ -68,17 +34,17 @@ public:
     bool isSelected() const override { return false; }
     QList<QAccessibleInterface*> columnHeaderCells() const override { return {}; }
     QList<QAccessibleInterface*> rowHeaderCells() const override { return {}; }
-    int columnIndex() const override { return (m_cell - 1) % PhraseBoard::kColumns; }
-    int rowIndex() const override { return (m_cell - 1) / PhraseBoard::kColumns; }
+    int columnIndex() const override { return (m_part - 1) % PhraseBoard::kColumns; }
+    int rowIndex() const override { return (m_part - 1) / PhraseBoard::kColumns; }
     int columnExtent() const override { return 1; }
     int rowExtent() const override { return 1; }
-    QAccessibleInterface* table() const override {
-        return m_view ? QAccessible::queryAccessibleInterface(m_view.data()) : nullptr;
-    }
+    QAccessibleInterface* table() const override { return parent(); }
 
 private:
-    QPointer<PhraseView> m_view;
-    int m_cell;
+    QString name() const override { return qs(spokenCellName(board().cell(m_part))); }
+    QString description() const override { return qs(spokenCellDescription(board(), m_part)); }
+    QRect partRect() const override { return m_view->cellRect(m_part); }
+    const PhraseBoard& board() const { return m_view->model().round().board(); }
 };
 
 } // namespace
@@ -86,37 +52,18 @@ private:
 PhraseAccessible::PhraseAccessible(PhraseView* view)
     : QAccessibleWidget(view, QAccessible::Table) {}
 
-PhraseAccessible::~PhraseAccessible() {
-    for (const QAccessible::Id id : m_cells) {
-        if (id != 0) {
-            QAccessible::deleteAccessibleInterface(id);
-        }
-    }
-}
+PhraseAccessible::~PhraseAccessible() = default;
 
 PhraseView* PhraseAccessible::view() const {
     return static_cast<PhraseView*>(widget());
 }
 
 QAccessibleInterface* PhraseAccessible::child(int index) const {
-    if (index < 0 || index >= PhraseBoard::kCells) {
-        return nullptr;
-    }
-    QAccessible::Id& id = m_cells[static_cast<std::size_t>(index)];
-    if (id == 0) {
-        id = QAccessible::registerAccessibleInterface(new CellAccessible(view(), index + 1));
-    }
-    return QAccessible::accessibleInterface(id);
+    return m_cells.get(index, [this, index] { return new CellAccessible(view(), index + 1); });
 }
 
 int PhraseAccessible::indexOfChild(const QAccessibleInterface* child) const {
-    for (int i = 0; i < PhraseBoard::kCells; ++i) {
-        const QAccessible::Id id = m_cells[static_cast<std::size_t>(i)];
-        if (id != 0 && QAccessible::accessibleInterface(id) == child) {
-            return i;
-        }
-    }
-    return -1;
+    return m_cells.indexOf(child);
 }
 
 QAccessibleInterface* PhraseAccessible::childAt(int x, int y) const {

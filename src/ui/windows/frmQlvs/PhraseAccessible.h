@@ -3,10 +3,9 @@
 #pragma once
 
 #include "round/PhraseBoard.h"
+#include "windows/frmQlvs/PaintedPartAccessible.h"
 
 #include <QAccessibleWidget>
-
-#include <array>
 
 namespace quillora {
 
@@ -50,8 +49,7 @@ public:
 private:
     PhraseView* view() const;
 
-    // The cells are made when first asked for and live as long as the table.
-    mutable std::array<QAccessible::Id, PhraseBoard::kCells> m_cells{};
+    mutable PartInterfaces m_cells{PhraseBoard::kCells};
 };
 
 } // namespace quillora
