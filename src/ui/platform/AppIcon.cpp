@@ -6,7 +6,9 @@ namespace quillora {
 
 QIcon appIcon() {
     QIcon icon;
-    for (const int size : {16, 22, 32, 48, 64, 128, 256}) {
+    // Up to the about box's size: a window hands every size it has to the
+    // window system as it opens, and the large ones would slow that down.
+    for (const int size : {16, 22, 32, 48, 64}) {
         icon.addFile(QStringLiteral(":/icons/%1.png").arg(size), QSize(size, size));
     }
     return icon;

@@ -6,8 +6,9 @@
 
 namespace quillora {
 
-// The game's icon, drawn once at every size so no size is scaled from
-// another: the windows' title bars, the task bar and the about box use it.
+// The game's icon at the sizes its windows show it, each drawn for its size
+// rather than scaled from another: the title bars, the task bar and the
+// about box use it.
 QIcon appIcon();
 
 } // namespace quillora
