@@ -10,6 +10,8 @@
 #include <QFontMetrics>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QPixmap>
 #include <QTimer>
 
 namespace quillora {
@@ -22,13 +24,52 @@ constexpr int kLeft = 3000, kTop = 4335, kHeight = 450;
 // ground never shows outside them.
 constexpr int kInsetTwips = 90;
 constexpr double kTipPoints = 10;
+
+// The tip's text, laid out and drawn once into a picture: each step of the
+// ticker then only copies pixels, with no text to shape again.
+class TipText final : public QLabel {
+public:
+    using QLabel::QLabel;
+
+    void forget() { m_picture = QPixmap(); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        const qreal ratio = devicePixelRatioF();
+        if (m_picture.isNull() || m_picture.devicePixelRatio() != ratio) {
+            m_picture = QPixmap(size() * ratio);
+            m_picture.setDevicePixelRatio(ratio);
+            m_picture.fill(palette().color(QPalette::Window));
+            QPainter painter(&m_picture);
+            painter.setFont(font());
+            painter.setPen(palette().color(QPalette::WindowText));
+            painter.drawText(rect(), static_cast<int>(alignment()), text());
+        }
+        QPainter(this).drawPixmap(
+            event->rect(), m_picture,
+            QRectF(QPointF(event->rect().topLeft()) * ratio, QSizeF(event->rect().size()) * ratio));
+    }
+    void resizeEvent(QResizeEvent* event) override {
+        forget();
+        QLabel::resizeEvent(event);
+    }
+    void changeEvent(QEvent* event) override {
+        if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) {
+            forget();
+        }
+        QLabel::changeEvent(event);
+    }
+
+private:
+    QPixmap m_picture;
+};
 } // namespace
 
 TipStrip::TipStrip(TipModel& model, QWidget* board) : RoundedLabel(board), m_model(model) {
     setObjectName(QStringLiteral("frmeTip"));
     setGeometry(px(kLeft), px(kTop), px(TipModel::kWidthTwips), px(kHeight));
     setCursor(Qt::PointingHandCursor);
-    m_lblTip = new QLabel(this);
+    m_lblTip = new TipText(this);
     m_lblTip->setObjectName(QStringLiteral("lblTip"));
     m_lblTip->setFont(Fonts::display(kTipPoints));
     m_lblTip->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -54,6 +95,7 @@ void TipStrip::sync() {
     const QString text = qs(m_model.text());
     if (text != m_lblTip->text()) {
         m_lblTip->setText(text);
+        static_cast<TipText*>(m_lblTip)->forget();
         const int width = m_lblTip->fontMetrics().horizontalAdvance(text);
         m_lblTip->resize(width, m_lblTip->height());
         m_model.setTextWidth(width * kTwipsPerPixel);
