@@ -17,3 +17,5 @@ fi
 cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo
 cmake --build build
 ctest --test-dir build --output-on-failure
+# The Debian package, built and checked by the validators Debian uses.
+bash scripts/package.sh
