@@ -6,8 +6,9 @@
 # private Xvfb: the main menu, a game in play and a lost game, written to
 # screenshots/ (menu.png, tablero.png, muerto.png). With SCALE=2 the game
 # runs at twice the size, as on a HiDPI screen. Safe to run again: each run
-# starts from a fresh configuration, and the phrase comes from a fixed theme.
+# starts from a fresh configuration, and the phrase comes from theme 11.
 set -euo pipefail
+[ -n "${TRACE:-}" ] && set -x
 cd "$(dirname "$0")/.."
 for p in xvfb xdotool imagemagick; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed' || missing+=("$p")
@@ -28,19 +29,20 @@ for _ in $(seq 100); do [ -s "$work/display" ] && break; sleep 0.05; done
 export DISPLAY=":$(cat "$work/display")"
 export XDG_CONFIG_HOME="$work/config" XDG_RUNTIME_DIR="$work/runtime" QT_SCALE_FACTOR="$scale"
 mkdir -p "$XDG_RUNTIME_DIR" "$XDG_CONFIG_HOME/quillora-vesta" && chmod 700 "$XDG_RUNTIME_DIR"
-# Theme 11 (ASTRONOMÍA), the animation on, sounds off: lines 1..20 of the
-# options file.
-printf '%s\r\n' "" "" 0 0 0 0 0 1 0 1 11 0 0 0 "Quillora VS" 0 0 15759390 0 0 \
+# Theme 11, sounds off, the animation and the points on: lines
+# 1..20 of the options file.
+printf '%s\r\n' "" "" 0 0 0 0 0 0 0 1 11 1 0 0 "Quillora VS" 0 0 15759390 0 0 \
     >"$XDG_CONFIG_HOME/quillora-vesta/QuilloraVS5.txt"
 
 shot() { import -window "$1" "$out/$2"; }
 ln -s "$PWD/build/src/quillora-vesta" "$work/game"
 "$work/game" >"$work/game.log" 2>&1 &
-menu=$(timeout 15 xdotool search --sync --onlyvisible --name '^Quillora Vesta$' | head -n 1)
-sleep 1.5
-menu=$(xdotool search --onlyvisible --name '^Quillora Vesta$' | head -n 1)
+# The start screen goes after 0.65 s; the menu is what shows after it.
+timeout 15 xdotool search --sync --onlyvisible --name '^Quillora Vesta$' >/dev/null
+sleep 2
+menu=$(xdotool search --onlyvisible --name '^Quillora Vesta$' | tail -n 1)
 shot "$menu" menu.png
-xdotool mousemove --window "$menu" $((49 * scale)) $((103 * scale)) click 1
+xdotool windowfocus --sync "$menu" key 1
 board=$(timeout 10 xdotool search --sync --onlyvisible --name '^Quillora Vesta [|]' | head -n 1)
 sleep 1
 xdotool windowfocus --sync "$board" key Return
