@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop/WebLookUp.h"
 #include "look/Twips.h"
-#include "platform/AppIcon.h"
 #include "platform/AlsaSoundPlayer.h"
+#include "platform/AppIcon.h"
 #include "platform/Fonts.h"
 #include "platform/HelpPage.h"
 #include "platform/ProgramRestart.h"
