@@ -12,12 +12,14 @@ build_dir="${QUILLORA_DEB_BUILD:-build-deb}"
 lock="${QUILLORA_BUILD_LOCK:-/tmp/quillora-build.lock}"
 
 # Debian's own hardening flags, all of them, and the program where Debian
-# keeps games.
+# keeps games. With them, g++ 12 warns of overlapping copies inside
+# std::string's assignment of a literal (GCC bug 105329), which are none of
+# ours: that one warning is off for the package.
 export DEB_BUILD_MAINT_OPTIONS=hardening=+all
 cmake -S . -B "$build_dir" -G Ninja -DCMAKE_BUILD_TYPE=Release \
     -DQUILLORA_BUILD_TESTS=OFF -DQUILLORA_BUILD_TOOLS=OFF \
     -DCMAKE_INSTALL_PREFIX=/usr -DCMAKE_INSTALL_BINDIR=games \
-    -DCMAKE_CXX_FLAGS="$(dpkg-buildflags --get CXXFLAGS) $(dpkg-buildflags --get CPPFLAGS)" \
+    -DCMAKE_CXX_FLAGS="$(dpkg-buildflags --get CXXFLAGS) $(dpkg-buildflags --get CPPFLAGS) -Wno-restrict" \
     -DCMAKE_EXE_LINKER_FLAGS="$(dpkg-buildflags --get LDFLAGS)" >/dev/null
 flock "$lock" cmake --build "$build_dir"
 (cd "$build_dir" && cpack -G DEB >/dev/null)
