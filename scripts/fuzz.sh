@@ -7,10 +7,11 @@
 # corpus of real files for RUNS inputs (1 000 000 by default) or, with
 # SECONDS set, for that long. A crash, a leak or undefined behaviour stops
 # the run and leaves the input in build-fuzz/crashes/. Prints one line a
-# target: inputs run, time, and the corpus it grew.
+# target: inputs run, time, and the corpus it grew. TARGETS="a b" runs only
+# those, so two shells can share the machine's cores.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-targets=(config_reader dropped_file user_file_name friend_phrase libre_values)
+targets=(${TARGETS:-config_reader dropped_file user_file_name friend_phrase libre_values})
 runs="${RUNS:-1000000}"
 build_dir="${QUILLORA_FUZZ_BUILD:-build-fuzz}"
 lock="${QUILLORA_BUILD_LOCK:-/tmp/quillora-build.lock}"
