@@ -19,3 +19,5 @@ cmake --build build
 ctest --test-dir build --output-on-failure
 # The Debian package, built and checked by the validators Debian uses.
 bash scripts/package.sh
+# Every test again, under AddressSanitizer and UndefinedBehaviorSanitizer.
+bash scripts/sanitize.sh

@@ -178,6 +178,10 @@ TEST(KilledSave, TheFileIsAlwaysWholeAndTheNextStartLeavesNoTemporaryFile) {
     std::uniform_int_distribution<int> wait(0, kLongestWaitMicroseconds);
     int caughtSaving = 0;
     for (int kill = 0; kill < kKills; ++kill) {
+        // The saver says when its first save is done, so the wait is spent
+        // among its saves however slowly a loaded machine starts it.
+        int started[2];
+        ASSERT_EQ(::pipe(started), 0);
         const pid_t saver = ::fork();
         ASSERT_NE(saver, -1);
         if (saver == 0) {
@@ -186,8 +190,15 @@ TEST(KilledSave, TheFileIsAlwaysWholeAndTheNextStartLeavesNoTemporaryFile) {
                 mine.settings.nombre = flip ? "Nueva" : "Vieja";
                 mine.settings.carpetaFondo = flip ? "" : std::string(2000, 'c');
                 ConfSave(mine, dialogs);
+                if (!flip) {
+                    [[maybe_unused]] const auto told = ::write(started[1], "s", 1);
+                }
             }
         }
+        char first = 0;
+        ASSERT_EQ(::read(started[0], &first, 1), 1);
+        ::close(started[0]);
+        ::close(started[1]);
         std::this_thread::sleep_for(std::chrono::microseconds(wait(chance)));
         ::kill(saver, SIGKILL);
         int status = 0;
