@@ -8,14 +8,10 @@
 # new one, never a mix, never a short one. The next start of the game tidies
 # the temporary files a kill leaves, so those are counted, not failed.
 set -euo pipefail
-cd "$(dirname "$0")/.."
 rounds="${1:-500}"
-lock="${QUILLORA_BUILD_LOCK:-/tmp/quillora-build.lock}"
-cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
-flock "$lock" cmake --build build --target saver >/dev/null
+robustness_tool=saver
+. "$(dirname "$0")/robustness-common.sh"
 saver=build/tools/robustness/saver
-folder=$(mktemp -d)
-trap 'rm -rf "$folder"' EXIT
 file="$folder/QuilloraVS5.txt"
 "$saver" --first "$file"
 left=0

@@ -6,13 +6,9 @@
 # tools/robustness/soak, in a fresh data folder, and checks that resident
 # memory stays flat: under 1 MB more at the last game than at game 1 000.
 set -euo pipefail
-cd "$(dirname "$0")/.."
 games="${1:-10000}"
-lock="${QUILLORA_BUILD_LOCK:-/tmp/quillora-build.lock}"
-cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
-flock "$lock" cmake --build build --target soak >/dev/null
-folder=$(mktemp -d)
-trap 'rm -rf "$folder"' EXIT
+robustness_tool=soak
+. "$(dirname "$0")/robustness-common.sh"
 start=$(date +%s)
 build/tools/robustness/soak "$games" "$folder" "${SEED:-1}" | tee "$folder/soak.log"
 echo "took $(($(date +%s) - start)) s"
