@@ -67,10 +67,8 @@ protected:
         design->open();
         return *design;
     }
-    // Line `n` of the configuration file as it is on disk.
     std::string storedLine(int n) const {
-        const auto lines = readConfigLines(shared.currentSession().Archivo);
-        return lines && static_cast<int>(lines->size()) >= n ? (*lines)[n - 1] : "(no line)";
+        return quillora::storedLine(shared.currentSession().Archivo, n);
     }
 
     const fs::path pictures = temp.path() / "Imágenes";

@@ -71,10 +71,7 @@ protected:
     std::vector<std::string> savedLines() const {
         return readConfigLines(file()).value_or(std::vector<std::string>{});
     }
-    std::string savedLine(int line) const {
-        const auto lines = savedLines();
-        return lines.size() >= static_cast<std::size_t>(line) ? lines[line - 1] : "<missing>";
-    }
+    std::string savedLine(int line) const { return storedLine(file(), line); }
 
     LoadedSession session{"quillora-options"};
     SharedState& shared = session.shared;

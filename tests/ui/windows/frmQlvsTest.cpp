@@ -9,7 +9,6 @@
 #include "windows/frmWord1/frmWord1.h"
 
 #include <QLineEdit>
-#include <QMimeData>
 #include <QTimer>
 
 #include <fstream>
@@ -153,13 +152,7 @@ TEST_F(BoardWindow, ADroppedConfigurationFileBecomesASession) {
     std::ofstream(file, std::ios::binary)
         << "\r\n\r\n1\r\n0\r\n0\r\n0\r\n0\r\n1\r\n0\r\n0\r\n5\r\n1"
            "\r\n0\r\n0\r\nAna\r\n";
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(QString::fromStdString(file.string()))});
-    QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(window.get(), &enter);
-    EXPECT_TRUE(enter.isAccepted());
-    QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(window.get(), &drop);
+    ASSERT_TRUE(drop(file));
     EXPECT_EQ(shared.currentSession().displayName, "Ana");
     EXPECT_TRUE(window->model().restartRequested());
 }
