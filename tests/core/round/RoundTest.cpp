@@ -470,23 +470,6 @@ TEST_F(RoundStartTest, TwoGamesOfOneThemeSwitchTheAutomaticPhraseOn) {
     EXPECT_EQ(laid(), ThemeCatalogue::storedPhrase(3, 4));
 }
 
-TEST_F(RoundStartTest, ATourPlaysItsThemeAndMovesOnAfterEachGame) {
-    shared.settings.fraseAutomatica = true;
-    shared.tourPosition = 7;
-    random.queue({phrase(5)});
-    ASSERT_EQ(round.eGame(), GameStart::Started);
-    EXPECT_EQ(round.gameTheme(), 7);
-    EXPECT_EQ(round.themeLabel(), "DEPORTE");
-    finishGame();
-    EXPECT_EQ(shared.tourPosition, 8);
-
-    shared.tourPosition = 50;
-    random.queue({phrase(1)});
-    round.eGame();
-    finishGame();
-    EXPECT_EQ(shared.tourPosition, 1) << "after the last theme the tour starts again";
-}
-
 TEST_F(RoundStartTest, SwitchingTheAutomaticPhraseOffEndsTheTourAndRestoresTheSelection) {
     shared.settings.fraseAutomatica = true;
     shared.tourPosition = 12;
