@@ -486,14 +486,5 @@ TEST_F(RoundStartTest, SwitchingTheAutomaticPhraseOffEndsTheTourAndRestoresTheSe
     EXPECT_EQ(round.autoMarkerTooltip(), " Desactivar la frase automática. ");
 }
 
-TEST_F(RoundStartTest, SurvivalWithoutPointsRefusesToPlay) {
-    shared.settings.supervivencia = true;
-    shared.survivalPoints = 0;
-    EXPECT_EQ(round.eGame(), GameStart::Nothing);
-    EXPECT_EQ(dialogs.shown.size(), 1U) << "the refusal is told";
-    shared.multiplayer = true;
-    EXPECT_EQ(round.eGame(), GameStart::FriendWindow) << "friends play without points";
-}
-
 } // namespace
 } // namespace quillora
