@@ -42,6 +42,11 @@ protected:
         window->activateWindow();
         window->setFocus();
     }
+    // A fresh board that reads the options as they now stand from its file.
+    void SetUpBoardFromFile() {
+        ASSERT_TRUE(ConfSave(shared, dialogs));
+        SetUpBoard();
+    }
     void TearDown() override { window.reset(); }
 
     // Theme 1 ("ANIMAL"), phrase 2 ("VACA"), through the theme window.

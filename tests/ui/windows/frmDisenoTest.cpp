@@ -314,8 +314,7 @@ TEST_F(DesignWindow, ClosingWithoutSavingPutsTheStoredPictureBack) {
     const fs::path red = picture("rojo.png", Qt::red);
     const fs::path blue = picture("azul.bmp", Qt::blue);
     shared.settings.fondo = red.string();
-    ASSERT_TRUE(ConfSave(shared, dialogs));
-    SetUpBoard();
+    SetUpBoardFromFile();
     ASSERT_EQ(boardPixel(), QColor(Qt::red));
 
     frmDiseno* design = openFromMenu();
@@ -338,8 +337,7 @@ TEST_F(DesignWindow, ClosingWithoutSavingPutsTheStoredPictureBack) {
 
 TEST_F(DesignWindow, StylesAndTogglesReachTheBoardAtOnce) {
     shared.settings.estilo = 1;
-    ASSERT_TRUE(ConfSave(shared, dialogs));
-    SetUpBoard();
+    SetUpBoardFromFile();
     frmDiseno* design = openFromMenu();
     ASSERT_NE(design, nullptr);
     EXPECT_EQ(design->styleList()->currentText(), QStringLiteral("Tinta Negra"));

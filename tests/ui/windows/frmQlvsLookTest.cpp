@@ -39,8 +39,7 @@ protected:
     void openWithPicture(const fs::path& path, bool realSize) {
         shared.settings.fondo = path.string();
         shared.settings.tamanoReal = realSize;
-        ASSERT_TRUE(ConfSave(shared, dialogs)); // the board takes it from the file
-        SetUpBoard();
+        SetUpBoardFromFile();
     }
 };
 
@@ -73,9 +72,8 @@ TEST_F(BoardLooks, TheButtonTheMenuAndCtrlSEachToggleSoundsAndRewriteTheFile) {
 
 TEST_F(BoardLooks, TheSoundTimerPlaysWhatTheGameAsksAndTheScoreWaitsForTheOpeningSound) {
     shared.settings.sonidos = true;
-    ASSERT_TRUE(ConfSave(shared, dialogs));
     const int loadsBefore = sounds.loads;
-    SetUpBoard();
+    SetUpBoardFromFile();
     EXPECT_EQ(sounds.loads, loadsBefore + 1) << "the sounds are read as the board opens";
 
     startVaca();

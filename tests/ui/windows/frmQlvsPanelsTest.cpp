@@ -140,8 +140,7 @@ TEST_F(BoardPanels, WithoutPointsJugarAndTheThemeMoveBesideTheBoard) {
     const QPoint normal = window->playButton()->mapTo(window.get(), QPoint());
     const QPoint theme = window->themeLabel()->mapTo(window.get(), QPoint());
     shared.settings.sistemaPuntos = false;
-    ASSERT_TRUE(ConfSave(shared, dialogs));
-    SetUpBoard();
+    SetUpBoardFromFile();
     EXPECT_LT(window->playButton()->mapTo(window.get(), QPoint()).y(), normal.y());
     EXPECT_GT(window->themeLabel()->mapTo(window.get(), QPoint()).y(), theme.y());
     EXPECT_FALSE(window->scoreFrame()->isVisible());

@@ -179,8 +179,7 @@ TEST_F(BoardWindow, OnlyTheCloseBoxEndsTheGame) {
 TEST_F(BoardWindow, TheClockShowsOnlyWhileItCountsAndItsTimerFollowsTheModel) {
     EXPECT_FALSE(window->timeLabel()->isVisible());
     shared.settings.contratiempo = 2;
-    ASSERT_TRUE(ConfSave(shared, dialogs)); // the board takes it from the file
-    SetUpBoard();
+    SetUpBoardFromFile();
     EXPECT_EQ(window->timeLabel()->toolTip(),
               QStringLiteral(" Segundos para que se acabe la partida del juego. "));
     EXPECT_FALSE(window->countdownTimer()->isActive());
