@@ -8,8 +8,10 @@
 #include "windows/frmQlvs/frmQlvs.h"
 #include "windows/frmWord2/frmWord2.h"
 
+#include <QDragEnterEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QMimeData>
 #include <QPushButton>
 #include <QTest>
 
@@ -40,6 +42,11 @@ protected:
         window->activateWindow();
         window->setFocus();
     }
+    // A fresh board that reads the options as they now stand from its file.
+    void SetUpBoardFromFile() {
+        ASSERT_TRUE(ConfSave(shared, dialogs));
+        SetUpBoard();
+    }
     void TearDown() override { window.reset(); }
 
     // Theme 1 ("ANIMAL"), phrase 2 ("VACA"), through the theme window.
@@ -62,16 +69,34 @@ protected:
         }
         window->sync();
     }
-    // An entry of the board's popup menu as it is built now.
-    QAction* popupEntry(const QString& text) {
-        for (QAction* action : window->buildPopup()->actions()) {
+    // The entry of a menu that reads `text`.
+    static QAction* entryOf(QMenu* menu, const QString& text) {
+        for (QAction* action : menu->actions()) {
             if (action->text() == text) {
                 return action;
             }
         }
-        ADD_FAILURE() << "no " << text.toStdString() << " in the popup";
+        ADD_FAILURE() << "no " << text.toStdString() << " in the menu";
         return nullptr;
     }
+    // An entry of the board's popup menu as it is built now.
+    QAction* popupEntry(const QString& text) { return entryOf(window->buildPopup(), text); }
+    // A file dragged over the board, and dropped there if the board takes it.
+    bool drop(const fs::path& file) {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(QString::fromStdString(file.string()))});
+        QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton,
+                              Qt::NoModifier);
+        QCoreApplication::sendEvent(window.get(), &enter);
+        if (!enter.isAccepted()) {
+            return false;
+        }
+        QDropEvent event(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(window.get(), &event);
+        return true;
+    }
+    // Windows closed with WA_DeleteOnClose are gone once their deletion runs.
+    static void settle() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
     QString strike(int slot) const { return window->strikeLabel(slot)->text(); }
 
     TempFolder temp{"quillora-board"};

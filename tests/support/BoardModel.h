@@ -16,7 +16,11 @@ namespace quillora {
 // A board's model saving to a folder of its own, and the ways a test plays it.
 class BoardModel : public ::testing::Test {
 protected:
-    BoardModel() { shared.currentSession().Archivo = (temp.path() / kMainConfigName).string(); }
+    // Users added on the way write their files here too, not where the tests run.
+    BoardModel() {
+        shared.dataFolder = temp.path();
+        shared.currentSession().Archivo = (temp.path() / kMainConfigName).string();
+    }
 
     // A game from the menu, `letters` typed on the board, its points counted out.
     void play(const std::string& phrase, std::u32string_view letters) {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "storage/ConfigFile.h"
+
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -35,6 +37,12 @@ private:
 inline std::string slurp(const std::filesystem::path& path) {
     std::ifstream in(path, std::ios::binary);
     return std::string(std::istreambuf_iterator<char>(in), {});
+}
+
+// Line `n`, counted from 1, of a configuration file as it is on disk.
+inline std::string storedLine(const std::filesystem::path& file, int n) {
+    const auto lines = readConfigLines(file);
+    return lines && lines->size() >= static_cast<std::size_t>(n) ? (*lines)[n - 1] : "(no line)";
 }
 
 } // namespace quillora

@@ -71,7 +71,8 @@ TEST(BoardLookTest, PicturesAreKnownByTheEndOfTheirName) {
     for (const char* name : {"a.jpg", "/x/Playa.JPG", "b.jpeg", "c.gif", "d.bmp", "e.png"}) {
         EXPECT_TRUE(isPictureName(name)) << name;
     }
-    for (const char* name : {"", ".jpg", "/x/.png", "notas.txt", "jpg", "foto.jpg.txt", "a.pngx"}) {
+    for (const char* name :
+         {"", ".jpg", "/x/.png", "notas.txt", "jpg", "foto.jpg.txt", "a.pngx", "b.tiff"}) {
         EXPECT_FALSE(isPictureName(name)) << name;
     }
 }

@@ -11,7 +11,6 @@
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
-#include <ostream>
 #include <string>
 #include <vector>
 
@@ -58,63 +57,51 @@ Bytes bmp(std::int32_t height, std::uint32_t compression, std::size_t pixelBytes
     return header + Bytes(pixelBytes, 0x80);
 }
 
-struct FileCase {
-    const char* name;
-    Bytes bytes;
-    bool whole;
-};
-
-void PrintTo(const FileCase& c, std::ostream* out) {
-    *out << c.name;
-}
-
-class PictureFiles : public ::testing::TestWithParam<FileCase> {
-protected:
-    TempFolder temp{"quillora-picture"};
-};
-
-TEST_P(PictureFiles, ACutFileIsNoPicture) {
-    const fs::path path = temp.path() / "foto";
-    std::ofstream(path, std::ios::binary)
-        .write(reinterpret_cast<const char*>(GetParam().bytes.data()),
-               static_cast<std::streamsize>(GetParam().bytes.size()));
-    EXPECT_EQ(pictureFileWhole(path), GetParam().whole);
-}
-
 Bytes cut(const Bytes& bytes, std::size_t keep) {
     return Bytes(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(keep));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Pictures, PictureFiles,
-    ::testing::Values(
-        FileCase{"WholeJpeg", kWholeJpeg, true},
-        FileCase{"JpegWithPaddingAfterItsEnd", kWholeJpeg + Bytes(40, 0), true},
-        FileCase{"JpegCutInItsData", cut(kWholeJpeg, kWholeJpeg.size() - 4), false},
-        FileCase{"JpegCutAfterItsLastByteOfData", cut(kWholeJpeg, kWholeJpeg.size() - 2), false},
-        FileCase{"JpegCutInAHeader", cut(kStart + kApp0, 9), false},
-        FileCase{"JpegCutOnAStuffedByte", kStart + kScanHeader + Bytes{0x12, 0xFF}, false},
+TEST(PictureFile, ACutFileIsNoPicture) {
+    struct FileCase {
+        const char* name;
+        Bytes bytes;
+        bool whole;
+    };
+    const std::vector<FileCase> cases{
+        {"whole JPEG", kWholeJpeg, true},
+        {"JPEG with padding after its end", kWholeJpeg + Bytes(40, 0), true},
+        {"JPEG cut in its data", cut(kWholeJpeg, kWholeJpeg.size() - 4), false},
+        {"JPEG cut after its last byte of data", cut(kWholeJpeg, kWholeJpeg.size() - 2), false},
+        {"JPEG cut in a header", cut(kStart + kApp0, 9), false},
+        {"JPEG cut on a stuffed byte", kStart + kScanHeader + Bytes{0x12, 0xFF}, false},
         // An embedded thumbnail carries an end marker of its own.
-        FileCase{"JpegCutAfterItsThumbnail",
-                 kStart + segment(0xE1, kStart + Bytes{1, 2, 3} + kEnd) + kScanHeader + kScanData,
-                 false},
+        {"JPEG cut after its thumbnail",
+         kStart + segment(0xE1, kStart + Bytes{1, 2, 3} + kEnd) + kScanHeader + kScanData, false},
         // A progressive picture has several scans with tables between them.
-        FileCase{"ProgressiveJpeg",
-                 kStart + kTables + kScanHeader + kScanData + segment(0xC4, Bytes(20, 1)) +
-                     kScanHeader + kScanData + kScanHeader + kScanData + kEnd,
-                 true},
-        FileCase{"ProgressiveJpegCutInItsSecondScan",
-                 kStart + kTables + kScanHeader + kScanData + kScanHeader + Bytes{0x11, 0x22},
-                 false},
-        FileCase{"JpegStartFollowedByNoise", kStart + Bytes{0x01, 0x02, 0x03}, false},
-        FileCase{"WholeBmp", bmp(2, 0, 24), true}, FileCase{"TopDownBmp", bmp(-2, 0, 24), true},
-        FileCase{"CutBmp", bmp(2, 0, 16), false},
-        FileCase{"BmpCutInItsHeader", cut(bmp(2, 0, 24), 20), false},
+        {"progressive JPEG",
+         kStart + kTables + kScanHeader + kScanData + segment(0xC4, Bytes(20, 1)) + kScanHeader +
+             kScanData + kScanHeader + kScanData + kEnd,
+         true},
+        {"progressive JPEG cut in its second scan",
+         kStart + kTables + kScanHeader + kScanData + kScanHeader + Bytes{0x11, 0x22}, false},
+        {"JPEG start followed by noise", kStart + Bytes{0x01, 0x02, 0x03}, false},
+        {"whole BMP", bmp(2, 0, 24), true},
+        {"top-down BMP", bmp(-2, 0, 24), true},
+        {"cut BMP", bmp(2, 0, 16), false},
+        {"BMP cut in its header", cut(bmp(2, 0, 24), 20), false},
         // Compressed rows have no length to check: the decoder judges them.
-        FileCase{"RunLengthBmp", bmp(2, 1, 6), true},
-        FileCase{"OtherFormatsAreLeftToTheDecoder", Bytes{0x89, 'P', 'N', 'G', 0x0D, 0x0A}, true},
-        FileCase{"EmptyFile", Bytes{}, true}),
-    [](const auto& info) { return std::string(info.param.name); });
+        {"run-length BMP", bmp(2, 1, 6), true},
+        {"other formats are left to the decoder", Bytes{0x89, 'P', 'N', 'G', 0x0D, 0x0A}, true},
+        {"empty file", Bytes{}, true}};
+    TempFolder temp("quillora-picture");
+    const fs::path path = temp.path() / "foto";
+    for (const FileCase& c : cases) {
+        std::ofstream(path, std::ios::binary | std::ios::trunc)
+            .write(reinterpret_cast<const char*>(c.bytes.data()),
+                   static_cast<std::streamsize>(c.bytes.size()));
+        EXPECT_EQ(pictureFileWhole(path), c.whole) << c.name;
+    }
+}
 
 TEST(PictureFile, OnlyARegularFileIsOpened) {
     TempFolder temp("quillora-picture");

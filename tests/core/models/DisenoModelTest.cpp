@@ -9,13 +9,11 @@
 
 #include <gtest/gtest.h>
 
-#include <cctype>
 #include <filesystem>
 #include <optional>
-#include <ostream>
 #include <set>
 #include <string>
-#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace quillora {
@@ -49,15 +47,28 @@ protected:
         ASSERT_TRUE(ConfSave(shared, dialogs));
         model.load();
     }
+    // The board shows the stored beach, which the preview reads like `alsoGood`.
+    void givenPlaya(std::set<std::string> alsoGood = {}) {
+        shared.settings.fondo = "/fotos/playa.jpg";
+        loadBoard();
+        preview.good = std::move(alsoGood);
+        preview.good.insert("/fotos/playa.jpg");
+    }
+    // The mountain chosen in the window over the stored beach.
+    DisenoModel& openOnMonte() {
+        givenPlaya({"/fotos/monte.gif"});
+        DisenoModel& window = open();
+        window.folderChanged("/fotos");
+        window.chooseFile("monte.gif");
+        return window;
+    }
     DisenoModel& open() {
         design.emplace(model, preview, pictures.string(), temp.path().string());
         design->open();
         return *design;
     }
-    // Line `n` of the configuration file as it is on disk.
     std::string storedLine(int n) const {
-        const auto lines = readConfigLines(shared.currentSession().Archivo);
-        return lines && static_cast<int>(lines->size()) >= n ? (*lines)[n - 1] : "(no line)";
+        return quillora::storedLine(shared.currentSession().Archivo, n);
     }
 
     const fs::path pictures = temp.path() / "Imágenes";
@@ -67,76 +78,58 @@ protected:
 
 // --- the style list and Option0 ... Option4 ---------------------------------------------
 
-// -1 where the toggle's rectangle shows the flag itself.
-constexpr int kFlag = -1;
-struct StyleRow {
-    int item;
-    const char* name;
-    int estilo;
-    // letraOpaca after the choice; kFlag keeps it.
-    int opaque;
-    bool togglesEnabled;
-    int opaqueLit;
-    int letterLit;
-};
+TEST_F(DesignModel, EachStyleItemStoresItsStyleSetsTheShadowsAndLightsTheToggles) {
+    // -1 where the toggle's rectangle shows the flag itself.
+    constexpr int kFlag = -1;
+    struct StyleRow {
+        int item;
+        const char* name;
+        int estilo;
+        // letraOpaca after the choice; kFlag keeps it.
+        int opaque;
+        bool togglesEnabled;
+        int opaqueLit;
+        int letterLit;
+    };
+    const std::vector<StyleRow> rows{{0, "Libre", 0, kFlag, true, kFlag, kFlag},
+                                     {1, "Tinta Negra", 1, 0, false, 0, 0},
+                                     {2, "Tinta Azul", 4, 0, false, 0, 0},
+                                     {3, "Colorido", 2, 1, false, 1, 0},
+                                     {4, "Sombra Negra", 3, 1, false, 1, 1}};
+    for (const StyleRow& row : rows) {
+        EXPECT_EQ(kStyleItems[static_cast<std::size_t>(row.item)].name, row.name);
+        EXPECT_EQ(kStyleItems[static_cast<std::size_t>(row.item)].value, row.estilo);
+        for (const bool flags : {false, true}) {
+            SCOPED_TRACE(::testing::Message()
+                         << row.name << (flags ? ", flags on" : ", flags off"));
+            shared.settings.estilo = 0;
+            shared.settings.letraOpaca = flags;
+            shared.settings.letraBlanca = flags;
+            loadBoard();
+            DisenoModel& window = open();
+            window.chooseStyle(row.item);
 
-void PrintTo(const StyleRow& row, std::ostream* out) {
-    *out << row.name;
-}
+            EXPECT_EQ(window.styleItem(), row.item);
+            EXPECT_EQ(shared.settings.estilo, row.estilo);
+            EXPECT_EQ(shared.settings.letraOpaca, row.opaque == kFlag ? flags : row.opaque == 1);
+            EXPECT_EQ(shared.settings.letraBlanca, flags) << "no style touches the white letters";
+            const auto opaque = window.toggle(Toggle::Opaque);
+            const auto letter = window.toggle(Toggle::Letter);
+            EXPECT_EQ(opaque.enabled, row.togglesEnabled);
+            EXPECT_EQ(letter.enabled, row.togglesEnabled);
+            EXPECT_EQ(opaque.lit, row.opaqueLit == kFlag ? flags : row.opaqueLit == 1);
+            EXPECT_EQ(letter.lit, row.letterLit == kFlag ? flags : row.letterLit == 1);
+            EXPECT_TRUE(window.toggle(Toggle::Size).enabled);
+            EXPECT_TRUE(window.toggle(Toggle::White).enabled);
 
-// A test's name from a path: its letters and digits, behind the case's number.
-std::string nameOf(std::size_t index, std::string_view text) {
-    std::string name = std::to_string(index) + "_";
-    for (const char c : text) {
-        name += std::isalnum(static_cast<unsigned char>(c)) ? c : '_';
-    }
-    return name;
-}
-
-class StyleOptions : public DesignModel, public ::testing::WithParamInterface<StyleRow> {};
-
-TEST_P(StyleOptions, EachItemStoresItsStyleSetsTheShadowsAndLightsTheToggles) {
-    const StyleRow& row = GetParam();
-    EXPECT_EQ(kStyleItems[static_cast<std::size_t>(row.item)].name, row.name);
-    EXPECT_EQ(kStyleItems[static_cast<std::size_t>(row.item)].value, row.estilo);
-
-    for (const bool flags : {false, true}) {
-        SCOPED_TRACE(flags ? "letter flags on" : "letter flags off");
-        shared.settings.estilo = 0;
-        shared.settings.letraOpaca = flags;
-        shared.settings.letraBlanca = flags;
-        loadBoard();
-        DisenoModel& window = open();
-        window.chooseStyle(row.item);
-
-        EXPECT_EQ(window.styleItem(), row.item);
-        EXPECT_EQ(shared.settings.estilo, row.estilo);
-        EXPECT_EQ(shared.settings.letraOpaca, row.opaque == kFlag ? flags : row.opaque == 1);
-        EXPECT_EQ(shared.settings.letraBlanca, flags) << "no style touches the white letters";
-        const auto opaque = window.toggle(Toggle::Opaque);
-        const auto letter = window.toggle(Toggle::Letter);
-        EXPECT_EQ(opaque.enabled, row.togglesEnabled);
-        EXPECT_EQ(letter.enabled, row.togglesEnabled);
-        EXPECT_EQ(opaque.lit, row.opaqueLit == kFlag ? flags : row.opaqueLit == 1);
-        EXPECT_EQ(letter.lit, row.letterLit == kFlag ? flags : row.letterLit == 1);
-        EXPECT_TRUE(window.toggle(Toggle::Size).enabled);
-        EXPECT_TRUE(window.toggle(Toggle::White).enabled);
-
-        // Opened on a stored style, the list shows its item.
-        window.close();
-        shared.settings.estilo = row.estilo;
-        EXPECT_EQ(open().styleItem(), row.item);
-        design.reset();
+            // Opened on a stored style, the list shows its item.
+            window.close();
+            shared.settings.estilo = row.estilo;
+            EXPECT_EQ(open().styleItem(), row.item);
+            design.reset();
+        }
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(DesignWindow, StyleOptions,
-                         ::testing::Values(StyleRow{0, "Libre", 0, kFlag, true, kFlag, kFlag},
-                                           StyleRow{1, "Tinta Negra", 1, 0, false, 0, 0},
-                                           StyleRow{2, "Tinta Azul", 4, 0, false, 0, 0},
-                                           StyleRow{3, "Colorido", 2, 1, false, 1, 0},
-                                           StyleRow{4, "Sombra Negra", 3, 1, false, 1, 1}),
-                         [](const auto& info) { return "Item" + std::to_string(info.param.item); });
 
 TEST_F(DesignModel, TogglesFlipTheirFlagsUnlessTheStyleHasTakenThemOver) {
     shared.settings.estilo = 0;
@@ -215,10 +208,8 @@ TEST_F(DesignModel, TheStyleTickBringsTheBoardInStep) {
 // --- opening, saving, closing ------------------------------------------------------------
 
 TEST_F(DesignModel, OpeningTakesTheStoredPictureAndBrowsesThePicturesFolder) {
-    shared.settings.fondo = "/fotos/playa.jpg";
     shared.settings.carpetaFondo = "/fotos";
-    loadBoard();
-    preview.good.insert("/fotos/playa.jpg");
+    givenPlaya();
     DisenoModel& window = open();
 
     EXPECT_EQ(window.address(), pictures.string());
@@ -247,10 +238,8 @@ TEST_F(DesignModel, AStoredPictureThePreviewCannotReadIsToldWhileOpening) {
 }
 
 TEST_F(DesignModel, QuitarFondoThenSaveStoresAnEmptyPicture) {
-    shared.settings.fondo = "/fotos/playa.jpg";
     shared.settings.carpetaFondo = "/fotos";
-    loadBoard();
-    preview.good.insert("/fotos/playa.jpg");
+    givenPlaya();
     DisenoModel& window = open();
 
     window.quitarFondo();
@@ -283,13 +272,8 @@ TEST_F(DesignModel, SavingStoresTheChosenPictureTheStyleAndTheFlags) {
 }
 
 TEST_F(DesignModel, ClosingWithoutSavingPutsTheStoredPictureBackAndKeepsTheStyle) {
-    shared.settings.fondo = "/fotos/playa.jpg";
-    loadBoard();
+    DisenoModel& window = openOnMonte();
     const std::string before = slurp(shared.currentSession().Archivo);
-    preview.good = {"/fotos/playa.jpg", "/fotos/monte.gif"};
-    DisenoModel& window = open();
-    window.folderChanged("/fotos");
-    window.chooseFile("monte.gif");
     window.chooseStyle(3);
     EXPECT_EQ(model.backgroundPicture(), "/fotos/monte.gif");
 
@@ -301,13 +285,8 @@ TEST_F(DesignModel, ClosingWithoutSavingPutsTheStoredPictureBackAndKeepsTheStyle
 }
 
 TEST_F(DesignModel, ASaveTheDiskRefusesIsToldInTheWindowsOwnWords) {
-    shared.settings.fondo = "/fotos/playa.jpg";
-    loadBoard();
+    DisenoModel& window = openOnMonte();
     const std::string before = slurp(shared.currentSession().Archivo);
-    preview.good = {"/fotos/playa.jpg", "/fotos/monte.gif"};
-    DisenoModel& window = open();
-    window.folderChanged("/fotos");
-    window.chooseFile("monte.gif");
     {
         RefusedWrites full;
         EXPECT_FALSE(window.save());
@@ -323,56 +302,35 @@ TEST_F(DesignModel, ASaveTheDiskRefusesIsToldInTheWindowsOwnWords) {
 
 // --- pictures ----------------------------------------------------------------------------
 
-struct AddressCase {
-    const char* path;
-    bool taken;
-};
-
-void PrintTo(const AddressCase& c, std::ostream* out) {
-    *out << '"' << c.path << '"';
-}
-
-class LoadImgPaths : public DesignModel, public ::testing::WithParamInterface<AddressCase> {};
-
-TEST_P(LoadImgPaths, OnlyAPictureNameIsLoaded) {
-    shared.settings.fondo = "/fotos/playa.jpg";
-    loadBoard();
-    preview.good = {"/fotos/playa.jpg", GetParam().path};
-    DisenoModel& window = open();
-    preview.asked.clear();
-
-    window.typeAddress(GetParam().path);
-    window.LoadImg();
-    if (GetParam().taken) {
-        EXPECT_EQ(model.backgroundPicture(), GetParam().path);
-        EXPECT_EQ(window.preview(), GetParam().path);
-        EXPECT_EQ(window.picture(), GetParam().path);
-        EXPECT_EQ(window.folder(), "/otras");
-    } else {
-        EXPECT_TRUE(preview.asked.empty()) << "not even tried";
-        EXPECT_EQ(model.backgroundPicture(), "/fotos/playa.jpg");
-        EXPECT_EQ(window.picture(), "/fotos/playa.jpg");
+TEST_F(DesignModel, OnlyAPictureNameTypedInTheAddressIsLoaded) {
+    givenPlaya({"/otras/Mapa.Gif", "/otras/notas.txt"});
+    for (const auto& [path, taken] :
+         std::vector<std::pair<std::string, bool>>{{"/otras/notas.txt", false},
+                                                   {"/otras", false},
+                                                   {"", false},
+                                                   {"/otras/Mapa.Gif", true}}) {
+        SCOPED_TRACE(path);
+        DisenoModel& window = open();
+        preview.asked.clear();
+        window.typeAddress(path);
+        window.LoadImg();
+        if (taken) {
+            EXPECT_EQ(model.backgroundPicture(), path);
+            EXPECT_EQ(window.preview(), path);
+            EXPECT_EQ(window.picture(), path);
+            EXPECT_EQ(window.folder(), "/otras");
+        } else {
+            EXPECT_TRUE(preview.asked.empty()) << "not even tried";
+            EXPECT_EQ(model.backgroundPicture(), "/fotos/playa.jpg");
+            EXPECT_EQ(window.picture(), "/fotos/playa.jpg");
+        }
+        EXPECT_FALSE(window.listRefused());
+        window.close();
     }
-    EXPECT_FALSE(window.listRefused());
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    DesignWindow, LoadImgPaths,
-    ::testing::Values(
-        AddressCase{"/otras/playa.jpg", true}, AddressCase{"/otras/PLAYA.JPG", true},
-        AddressCase{"/otras/mapa.gif", true}, AddressCase{"/otras/Mapa.Gif", true},
-        AddressCase{"/otras/icono.bmp", true}, AddressCase{"/otras/ICONO.BMP", true},
-        AddressCase{"/otras/captura.png", true}, AddressCase{"/otras/captura.Png", true},
-        AddressCase{"/otras/retrato.jpeg", true}, AddressCase{"/otras/notas.txt", false},
-        AddressCase{"/otras/playa.jpg.txt", false}, AddressCase{"/otras/playa.tiff", false},
-        AddressCase{"/otras/jpg", false}, AddressCase{"/otras/.jpg", false},
-        AddressCase{"/otras", false}, AddressCase{"", false}),
-    [](const auto& info) { return nameOf(info.index, info.param.path); });
 
 TEST_F(DesignModel, APictureThatCannotBeReadTurnsTheListRedAndChangesNothingElse) {
-    shared.settings.fondo = "/fotos/playa.jpg";
-    loadBoard();
-    preview.good = {"/fotos/playa.jpg", "/fotos/monte.png"};
+    givenPlaya({"/fotos/monte.png"});
     DisenoModel& window = open();
     window.folderChanged("/fotos");
 
@@ -411,41 +369,22 @@ TEST_F(DesignModel, APathTheConfigurationFileCannotHoldIsRefused) {
     EXPECT_TRUE(window.listRefused());
 }
 
-struct JoinCase {
-    const char* folder;
-    const char* name;
-    const char* path;
-};
-
-void PrintTo(const JoinCase& c, std::ostream* out) {
-    *out << '"' << c.folder << "\" + \"" << c.name << '"';
-}
-
-class PicturePaths : public DesignModel, public ::testing::WithParamInterface<JoinCase> {};
-
-TEST_P(PicturePaths, TheFolderAndTheNameMeetWithOneSeparator) {
-    EXPECT_EQ(joinPicturePath(GetParam().folder, GetParam().name), GetParam().path);
+TEST_F(DesignModel, TheFolderAndTheNameMeetWithOneSeparator) {
+    EXPECT_EQ(joinPicturePath("/home/ana/Imágenes", "playa.jpg"), "/home/ana/Imágenes/playa.jpg");
+    EXPECT_EQ(joinPicturePath("/home/ana/Imágenes/", "playa.jpg"), "/home/ana/Imágenes/playa.jpg");
+    EXPECT_EQ(joinPicturePath("/", "raiz.png"), "/raiz.png");
     loadBoard();
     DisenoModel& window = open();
-    window.folderChanged(GetParam().folder);
-    window.chooseFile(GetParam().name);
+    window.folderChanged("/");
+    window.chooseFile("raiz.png");
     ASSERT_FALSE(preview.asked.empty());
-    EXPECT_EQ(preview.asked.back(), GetParam().path);
+    EXPECT_EQ(preview.asked.back(), "/raiz.png");
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    DesignWindow, PicturePaths,
-    ::testing::Values(JoinCase{"/home/ana/Imágenes", "playa.jpg", "/home/ana/Imágenes/playa.jpg"},
-                      JoinCase{"/home/ana/Imágenes/", "playa.jpg", "/home/ana/Imágenes/playa.jpg"},
-                      JoinCase{"/", "raiz.png", "/raiz.png"}),
-    [](const auto& info) { return nameOf(info.index, info.param.folder); });
 
 // --- drops on the board ------------------------------------------------------------------
 
 TEST_F(DesignModel, APictureDroppedBeforeOpeningIsTheWindowsToKeepOrDrop) {
-    shared.settings.fondo = "/fotos/playa.jpg";
-    loadBoard();
-    preview.good = {"/fotos/playa.jpg", "/descargas/luna.png"};
+    givenPlaya({"/descargas/luna.png"});
     model.dropFiles({"/descargas/luna.png"});
     DisenoModel& window = open();
     EXPECT_EQ(window.picture(), "/descargas/luna.png");
@@ -457,9 +396,7 @@ TEST_F(DesignModel, APictureDroppedBeforeOpeningIsTheWindowsToKeepOrDrop) {
 }
 
 TEST_F(DesignModel, WhileOpenADropOnTheBoardIsHandedToTheWindow) {
-    shared.settings.fondo = "/fotos/playa.jpg";
-    loadBoard();
-    preview.good = {"/fotos/playa.jpg", "/descargas/luna.png"};
+    givenPlaya({"/descargas/luna.png"});
     DisenoModel& window = open();
 
     model.dropFiles({"/descargas/rota.jpg"});

@@ -44,11 +44,7 @@ protected:
         }
         return n;
     }
-    // Line `n` of the current user's file as it stands on disk.
-    std::string savedLine(int n) const {
-        const auto lines = readConfigLines(shared.currentSession().Archivo);
-        return lines && lines->size() >= static_cast<std::size_t>(n) ? (*lines)[n - 1] : "none";
-    }
+    std::string savedLine(int n) const { return storedLine(shared.currentSession().Archivo, n); }
 
     ListModel list{shared, model.round(), dialogs};
 };

@@ -8,10 +8,13 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <array>
 #include <map>
 #include <set>
 #include <string>
+#include <string_view>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 namespace quillora {
@@ -68,10 +71,7 @@ protected:
     std::vector<std::string> savedLines() const {
         return readConfigLines(file()).value_or(std::vector<std::string>{});
     }
-    std::string savedLine(int line) const {
-        const auto lines = savedLines();
-        return lines.size() >= static_cast<std::size_t>(line) ? lines[line - 1] : "<missing>";
-    }
+    std::string savedLine(int line) const { return storedLine(file(), line); }
 
     LoadedSession session{"quillora-options"};
     SharedState& shared = session.shared;
@@ -82,51 +82,46 @@ protected:
 
 // --- check boxes ---------------------------------------------------------------------------
 
-struct BoxClicks {
-    const char* name;
-    std::string style;
-    // Clicked in this order on a page with every box off.
-    std::vector<int> clicks;
-    std::set<int> expected;
-    bool refused = false;
-};
-
-class BoxDependencies : public OptionsModelTest, public ::testing::WithParamInterface<BoxClicks> {};
-
-TEST_P(BoxDependencies, FollowTheBoxTheyHangOn) {
-    givenFile(fileLines());
-    open();
-    model->setStyleText(GetParam().style);
-    for (int box : GetParam().clicks) {
-        model->clickBox(box);
-    }
-    EXPECT_EQ(ticked(), GetParam().expected);
-    if (GetParam().refused) {
-        ASSERT_EQ(dialogs.shown.size(), 1U);
-        EXPECT_EQ(dialogs.shown[0].icon, Icon::Exclamation);
-        EXPECT_EQ(dialogs.shown[0].text, "Lo siento, pero para cambiar estas opciones debe tener "
-                                         "el diseño en estilo libre (0).");
-    } else {
-        EXPECT_TRUE(dialogs.shown.empty());
+TEST_F(OptionsModelTest, BoxesFollowTheBoxTheyHangOn) {
+    struct Clicks {
+        const char* why;
+        std::string style;
+        // Clicked in this order on a page with every box off.
+        std::vector<int> clicks;
+        std::set<int> expected;
+        bool refused = false;
+    };
+    const std::vector<Clicks> cases{
+        {"survival ticks points", "0", {1}, {0, 1}},
+        {"fewer points ticks points", "0", {11}, {0, 11}},
+        {"points off clears both", "0", {1, 11, 0}, {}},
+        {"survival off leaves points", "0", {1, 1}, {0}},
+        {"hard countdown ticks countdown", "0", {10}, {2, 10}},
+        {"countdown off clears hard", "0", {10, 2}, {}},
+        {"hard off leaves countdown", "0", {10, 10}, {2}},
+        {"plain boxes stand alone", "0", {5, 6, 7, 8, 9, 12, 13, 8}, {5, 6, 7, 9, 12, 13}},
+        {"free style lets shading and letters", "0", {3, 4}, {3, 4}},
+        {"empty style refuses shading", "", {3}, {}, true},
+        {"style one refuses white letters", "1", {4}, {}, true},
+        {"no such box", "0", {-1, 14, 99}, {}}};
+    for (const Clicks& c : cases) {
+        SCOPED_TRACE(c.why);
+        dialogs.shown.clear();
+        givenFile(fileLines());
+        open();
+        model->setStyleText(c.style);
+        for (int box : c.clicks) {
+            model->clickBox(box);
+        }
+        EXPECT_EQ(ticked(), c.expected);
+        ASSERT_EQ(dialogs.shown.size(), c.refused ? 1U : 0U);
+        if (c.refused) {
+            EXPECT_EQ(dialogs.shown[0].icon, Icon::Exclamation);
+            EXPECT_EQ(dialogs.shown[0].text, "Lo siento, pero para cambiar estas opciones debe "
+                                             "tener el diseño en estilo libre (0).");
+        }
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    OptionsModel, BoxDependencies,
-    ::testing::Values(
-        BoxClicks{"SurvivalTicksPoints", "0", {1}, {0, 1}},
-        BoxClicks{"FewerPointsTicksPoints", "0", {11}, {0, 11}},
-        BoxClicks{"PointsOffClearsBoth", "0", {1, 11, 0}, {}},
-        BoxClicks{"SurvivalOffLeavesPoints", "0", {1, 1}, {0}},
-        BoxClicks{"HardCountdownTicksCountdown", "0", {10}, {2, 10}},
-        BoxClicks{"CountdownOffClearsHard", "0", {10, 2}, {}},
-        BoxClicks{"HardOffLeavesCountdown", "0", {10, 10}, {2}},
-        BoxClicks{"PlainBoxesStandAlone", "0", {5, 6, 7, 8, 9, 12, 13, 8}, {5, 6, 7, 9, 12, 13}},
-        BoxClicks{"FreeStyleLetsShadingAndLetters", "0", {3, 4}, {3, 4}},
-        BoxClicks{"EmptyStyleRefusesShading", "", {3}, {}, true},
-        BoxClicks{"StyleOneRefusesWhiteLetters", "1", {4}, {}, true},
-        BoxClicks{"NoSuchBox", "0", {-1, 14, 99}, {}}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(OptionsModelTest, ARefusedClickGoesBackToTheRememberedPage) {
     givenFile(fileLines({{3, "3"}}));
@@ -141,47 +136,36 @@ TEST_F(OptionsModelTest, ARefusedClickGoesBackToTheRememberedPage) {
 
 // --- the style, theme and colour fields ----------------------------------------------------------
 
-struct StyleCase {
-    std::string typed;
-    std::string shown;
-    bool opaque;
-    bool whiteLetters;
-    bool message;
-};
-
-class StyleField : public OptionsModelTest, public ::testing::WithParamInterface<StyleCase> {};
-
-TEST_P(StyleField, SetsTheLetterBoxesOrRefuses) {
-    givenFile(fileLines({{4, "1"}, {5, "1"}}));
-    open();
-    ASSERT_EQ(ticked(), (std::set<int>{3, 4}));
-    model->setStyleText(GetParam().typed);
-    EXPECT_EQ(model->styleText(), GetParam().shown);
-    EXPECT_EQ(model->box(3), GetParam().opaque);
-    EXPECT_EQ(model->box(4), GetParam().whiteLetters);
-    if (GetParam().message) {
-        ASSERT_EQ(dialogs.shown.size(), 1U);
-        EXPECT_EQ(dialogs.shown[0].icon, Icon::Exclamation);
-        EXPECT_EQ(dialogs.shown[0].text, "No existen más estilos en los diseños.");
-    } else {
-        EXPECT_TRUE(dialogs.shown.empty());
+TEST_F(OptionsModelTest, StyleFieldSetsTheLetterBoxesOrRefuses) {
+    struct Typed {
+        std::string typed;
+        std::string shown;
+        bool opaque;
+        bool whiteLetters;
+        bool message;
+    };
+    const std::vector<Typed> cases{{"", "", true, true, false},     {"0", "0", true, true, false},
+                                   {"1", "1", false, false, false}, {"2", "2", true, false, false},
+                                   {"3", "3", true, true, false},   {"4", "4", false, false, false},
+                                   {"7", "4", false, false, true},  {"10", "4", false, false, true},
+                                   {"x", "", true, true, false}};
+    for (const Typed& c : cases) {
+        SCOPED_TRACE(c.typed);
+        dialogs.shown.clear();
+        givenFile(fileLines({{4, "1"}, {5, "1"}}));
+        open();
+        ASSERT_EQ(ticked(), (std::set<int>{3, 4}));
+        model->setStyleText(c.typed);
+        EXPECT_EQ(model->styleText(), c.shown);
+        EXPECT_EQ(model->box(3), c.opaque);
+        EXPECT_EQ(model->box(4), c.whiteLetters);
+        ASSERT_EQ(dialogs.shown.size(), c.message ? 1U : 0U);
+        if (c.message) {
+            EXPECT_EQ(dialogs.shown[0].icon, Icon::Exclamation);
+            EXPECT_EQ(dialogs.shown[0].text, "No existen más estilos en los diseños.");
+        }
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(OptionsModel, StyleField,
-                         ::testing::Values(StyleCase{"", "", true, true, false},
-                                           StyleCase{"0", "0", true, true, false},
-                                           StyleCase{"1", "1", false, false, false},
-                                           StyleCase{"2", "2", true, false, false},
-                                           StyleCase{"3", "3", true, true, false},
-                                           StyleCase{"4", "4", false, false, false},
-                                           StyleCase{"7", "4", false, false, true},
-                                           StyleCase{"10", "4", false, false, true},
-                                           StyleCase{"x", "", true, true, false}),
-                         [](const auto& info) {
-                             return info.param.typed.empty() ? std::string("Empty")
-                                                             : "Typed_" + info.param.typed;
-                         });
 
 TEST_F(OptionsModelTest, ThemeFieldStopsAtTheLastTheme) {
     givenFile(fileLines());
@@ -205,44 +189,28 @@ TEST_F(OptionsModelTest, ThemeFieldStopsAtTheLastTheme) {
     }
 }
 
-struct ColourCase {
-    const char* name;
-    std::string typed;
-    std::string shown;
-    Rgb colour;
-};
-
-class ColourField : public OptionsModelTest, public ::testing::WithParamInterface<ColourCase> {};
-
-TEST_P(ColourField, RepaintsAtOnceWithinItsLimits) {
+TEST_F(OptionsModelTest, ColourFieldRepaintsAtOnceWithinItsLimits) {
+    // Typed, shown, the colour it paints.
+    const std::vector<std::tuple<std::string, std::string, Rgb>> cases{
+        {"-5", "0", Rgb{0, 0, 0}},
+        {"15759390", "15759390", Rgb{30, 120, 240}},
+        {"255", "255", Rgb{255, 0, 0}},
+        // Cut to 255 × 255 × 255, not to white.
+        {"16777215", "16581375", Rgb{255, 2, 253}},
+        {"16581376", "16581375", Rgb{255, 2, 253}},
+        {"99999999999999999999", "16581375", Rgb{255, 2, 253}},
+        {"12-3", "123", Rgb{123, 0, 0}},
+        {"", "", Rgb{0, 0, 0}}};
     givenFile(fileLines());
     open();
-    model->setColourCodeText(GetParam().typed);
-    EXPECT_EQ(model->colourCodeText(), GetParam().shown);
-    EXPECT_EQ(shared.palette.gameColour, GetParam().colour);
-    EXPECT_EQ(model->gameColour(), GetParam().colour);
+    for (const auto& [typed, shown, colour] : cases) {
+        SCOPED_TRACE(typed);
+        model->setColourCodeText(typed);
+        EXPECT_EQ(model->colourCodeText(), shown);
+        EXPECT_EQ(shared.palette.gameColour, colour);
+        EXPECT_EQ(model->gameColour(), colour);
+    }
     EXPECT_TRUE(dialogs.shown.empty());
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    OptionsModel, ColourField,
-    ::testing::Values(ColourCase{"Negative", "-5", "0", Rgb{0, 0, 0}},
-                      ColourCase{"DefaultBlue", "15759390", "15759390", Rgb{30, 120, 240}},
-                      ColourCase{"Red", "255", "255", Rgb{255, 0, 0}},
-                      // Cut to 255 × 255 × 255, not to white.
-                      ColourCase{"White", "16777215", "16581375", Rgb{255, 2, 253}},
-                      ColourCase{"JustAbove", "16581376", "16581375", Rgb{255, 2, 253}},
-                      ColourCase{"Huge", "99999999999999999999", "16581375", Rgb{255, 2, 253}},
-                      ColourCase{"MinusInside", "12-3", "123", Rgb{123, 0, 0}},
-                      ColourCase{"Empty", "", "", Rgb{0, 0, 0}}),
-    [](const auto& info) { return std::string(info.param.name); });
-
-TEST_F(OptionsModelTest, TheWindowOpensInTheStoredColour) {
-    givenFile(fileLines({{18, "65280"}}));
-    shared.palette.gameColour = kDefaultBlue; // as a menu might have left it
-    open();
-    EXPECT_EQ(model->colourCodeText(), "65280");
-    EXPECT_EQ(model->gameColour(), (Rgb{0, 255, 0}));
 }
 
 // --- the name ---------------------------------------------------------------------------------
@@ -287,8 +255,7 @@ TEST_F(OptionsModelTest, SavedNamesLeaveNoPlaceholderOrBlank) {
     }
 }
 
-// --- saving from the option pages
-// ------------------------------------------------------------------
+// --- saving from the option pages ----------------------------------------------------------------
 
 TEST_F(OptionsModelTest, AltSave1WritesTheBoxesAndTheBoardReadsThem) {
     givenFile(fileLines({{1, "fondo.jpg"}, {2, "/fotos"}, {10, "1"}}));
@@ -366,22 +333,7 @@ TEST_F(OptionsModelTest, AltSave1ShowsTheSavedLinesOnTheFreePage) {
     EXPECT_EQ(model->valueText(), "1");
 }
 
-TEST_F(OptionsModelTest, AFailedAltSave1KeepsTheFileAndSaysSo) {
-    givenFile(fileLines());
-    const std::string before = slurp(file());
-    open();
-    model->clickBox(7);
-    {
-        RefusedWrites full;
-        EXPECT_FALSE(model->AltSave1());
-    }
-    EXPECT_EQ(slurp(file()), before);
-    ASSERT_EQ(dialogs.shown.size(), 1U);
-    EXPECT_EQ(dialogs.shown[0].icon, Icon::Information);
-}
-
-// --- "LIBRE!"
-// ------------------------------------------------------------------------------------------
+// --- "LIBRE!" ------------------------------------------------------------------------------------
 
 TEST_F(OptionsModelTest, TheFreeListShowsTheFileAsNumbers) {
     givenFile(fileLines({{1, "fondo 1.jpg"},
@@ -433,22 +385,30 @@ TEST_F(OptionsModelTest, AltSave2WritesWhatWasTypedAndTheBoardReadsIt) {
     EXPECT_EQ(shared.palette.gameColour, (Rgb{255, 0, 0}));
 }
 
-TEST_F(OptionsModelTest, AFailedAltSave2KeepsTheFileAndSaysSo) {
-    givenFile(fileLines());
-    const std::string before = slurp(file());
-    open();
-    model->choosePage(Page::Libre);
-    model->selectRow(7);
-    model->setValueText("1");
-    {
-        RefusedWrites full;
-        EXPECT_FALSE(model->save());
+TEST_F(OptionsModelTest, AFailedSaveFromEitherPageKeepsTheFileAndSaysSo) {
+    for (const bool libre : {false, true}) {
+        SCOPED_TRACE(libre ? "LIBRE!" : "option pages");
+        givenFile(fileLines());
+        const std::string before = slurp(file());
+        dialogs.shown.clear();
+        open();
+        if (libre) {
+            model->choosePage(Page::Libre);
+            model->selectRow(7);
+            model->setValueText("1");
+        } else {
+            model->clickBox(7);
+        }
+        {
+            RefusedWrites full;
+            EXPECT_FALSE(model->save());
+        }
+        EXPECT_EQ(slurp(file()), before);
+        ASSERT_EQ(dialogs.shown.size(), 1U);
+        EXPECT_EQ(dialogs.shown[0].icon, Icon::Information);
     }
-    EXPECT_EQ(slurp(file()), before);
-    ASSERT_EQ(dialogs.shown.size(), 1U);
-    EXPECT_EQ(dialogs.shown[0].icon, Icon::Information);
     EXPECT_EQ(dialogs.shown[0].text, "No se pudo guardar, intente más tarde.");
-    EXPECT_FALSE(shared.settings.sonidos);
+    EXPECT_FALSE(shared.settings.sonidos) << "raw lines not saved are not read";
 }
 
 TEST_F(OptionsModelTest, TypingWithNoRowSelectedChangesNoLine) {
@@ -463,8 +423,7 @@ TEST_F(OptionsModelTest, TypingWithNoRowSelectedChangesNoLine) {
     EXPECT_EQ(model->selectedRow(), -1);
 }
 
-// --- opening
-// --------------------------------------------------------------------------------------------
+// --- opening -------------------------------------------------------------------------------------
 
 TEST_F(OptionsModelTest, AnUnreadableFileIsReportedAndThePagesShowMemory) {
     shared.settings.sonidos = false;
@@ -485,10 +444,13 @@ TEST_F(OptionsModelTest, AnUnreadableFileIsReportedAndThePagesShowMemory) {
 }
 
 TEST_F(OptionsModelTest, TheBoxesOpenAsTheOptionsInMemoryStand) {
-    givenFile(fileLines({{3, "2"}, {12, "1"}, {14, "1"}, {8, "1"}, {20, "1"}}));
+    givenFile(fileLines({{3, "2"}, {12, "1"}, {14, "1"}, {8, "1"}, {20, "1"}, {18, "65280"}}));
+    shared.palette.gameColour = kDefaultBlue; // as a menu might have left it
     open();
     EXPECT_EQ(ticked(), (std::set<int>{0, 2, 7, 13}));
     EXPECT_EQ(model->styleText(), "2");
+    EXPECT_EQ(model->colourCodeText(), "65280");
+    EXPECT_EQ(model->gameColour(), (Rgb{0, 255, 0}));
     shared.settings.contratiempo = 2;
     open();
     EXPECT_TRUE(model->box(2));
@@ -513,8 +475,7 @@ TEST_F(OptionsModelTest, EachSessionSlotRemembersItsPage) {
     EXPECT_EQ(open().page(), Page::Libre);
 }
 
-// --- the colour editor
-// ------------------------------------------------------------------------------------
+// --- the colour editor ---------------------------------------------------------------------------
 
 TEST_F(OptionsModelTest, TheColourEditorMakesCodesAndHandsThemOver) {
     givenFile(fileLines({{18, "255"}}));
@@ -555,8 +516,7 @@ TEST_F(OptionsModelTest, TheColourEditorMakesCodesAndHandsThemOver) {
     EXPECT_FALSE(model->editorOpen());
 }
 
-// --- leaving
-// ----------------------------------------------------------------------------------------------
+// --- leaving -------------------------------------------------------------------------------------
 
 TEST_F(OptionsModelTest, MenuTicksOnceAndHidesThePages) {
     givenFile(fileLines());
@@ -570,82 +530,53 @@ TEST_F(OptionsModelTest, MenuTicksOnceAndHidesThePages) {
     EXPECT_FALSE(model->tickOut());
 }
 
-// --- keys on the page list
-// --------------------------------------------------------------------------------
+// --- keys on the page list -----------------------------------------------------------------------
 
-struct KeyCase {
-    Page page;
-    char32_t key;
-    Act kind;
-    int box = -1;
-    Field field = Field::None;
-    bool openEditor = false;
-};
-
-class PageListKeys : public OptionsModelTest, public ::testing::WithParamInterface<KeyCase> {};
-
-TEST_P(PageListKeys, SayWhatTheWindowDoes) {
+TEST_F(OptionsModelTest, KeysOnThePageListSayWhatTheWindowDoes) {
     givenFile(fileLines());
     open();
-    model->choosePage(GetParam().page);
-    const OptionsModel::KeyAction action = model->keyOnList(GetParam().key);
-    EXPECT_EQ(action.kind, GetParam().kind);
-    EXPECT_EQ(action.box, GetParam().box);
-    EXPECT_EQ(action.field, GetParam().field);
-    EXPECT_EQ(action.openEditor, GetParam().openEditor);
+    // Every key of `keys` on `page` does `expected`.
+    const auto expectKeys = [this](Page page, std::u32string_view keys,
+                                   OptionsModel::KeyAction expected) {
+        model->choosePage(page);
+        for (const char32_t key : keys) {
+            SCOPED_TRACE(::testing::Message() << OptionsModel::pageName(page) << " U+" << std::hex
+                                              << static_cast<unsigned>(key));
+            const OptionsModel::KeyAction action = model->keyOnList(key);
+            EXPECT_EQ(action.kind, expected.kind);
+            EXPECT_EQ(action.box, expected.box);
+            EXPECT_EQ(action.field, expected.field);
+            EXPECT_EQ(action.openEditor, expected.openEditor);
+        }
+    };
+    constexpr auto P = Page::Personal, V = Page::Visual, F = Page::Funcional, L = Page::Libre;
+    // The digit and the letter of each box, page by page.
+    const std::vector<std::tuple<Page, std::u32string, int>> boxes{
+        {P, U"1p", 0}, {P, U"2S", 1}, {P, U"3E", 11}, {P, U"4C", 2}, {P, U"5D", 10},
+        {V, U"2s", 3}, {V, U"3L", 4}, {V, U"4I", 5},  {V, U"5E", 6}, {F, U"1S", 7},
+        {F, U"2A", 8}, {F, U"3W", 9}, {F, U"4J", 12}, {F, U"5T", 13}};
+    for (const auto& [page, keys, box] : boxes) {
+        expectKeys(page, keys, {Act::Box, box});
+    }
+    for (const Page page : {P, V, F, L}) {
+        expectKeys(page, U"Uu", {Act::Save});
+        expectKeys(page, U"Mm", {Act::Menu});
+    }
+    expectKeys(P, U"6N", {Act::Focus, -1, Field::Name});
+    expectKeys(V, U"1D", {Act::Focus, -1, Field::Style});
+    expectKeys(V, U"6T", {Act::Focus, -1, Field::ColourCode});
+    expectKeys(V, U"7A", {Act::DefaultBlue, -1, Field::None, true});
+    expectKeys(V, U"R", {Act::Focus, -1, Field::Red, true});
+    expectKeys(V, U"g", {Act::Focus, -1, Field::Green, true});
+    expectKeys(V, U"B", {Act::Focus, -1, Field::Blue, true});
+    expectKeys(F, U"6n", {Act::Focus, -1, Field::Theme});
+    expectKeys(L, U"1", {Act::Focus, -1, Field::Labels});
+    expectKeys(L, U"2l", {Act::Focus, -1, Field::Values});
+    for (const auto& [page, keys] : std::vector<std::pair<Page, std::u32string>>{
+             {P, U"7T"}, {V, U"8"}, {F, U"R"}, {L, U"3\u00d1"}}) {
+        expectKeys(page, keys, {Act::None});
+    }
 }
-
-constexpr auto P = Page::Personal;
-constexpr auto V = Page::Visual;
-constexpr auto F = Page::Funcional;
-constexpr auto L = Page::Libre;
-
-INSTANTIATE_TEST_SUITE_P(
-    OptionsModel, PageListKeys,
-    ::testing::Values(
-        KeyCase{P, U'U', Act::Save}, KeyCase{V, U'u', Act::Save}, KeyCase{L, U'U', Act::Save},
-        KeyCase{F, U'M', Act::Menu}, KeyCase{L, U'm', Act::Menu},
-        // PERSONAL
-        KeyCase{P, U'1', Act::Box, 0}, KeyCase{P, U'p', Act::Box, 0}, KeyCase{P, U'2', Act::Box, 1},
-        KeyCase{P, U'S', Act::Box, 1}, KeyCase{P, U'3', Act::Box, 11},
-        KeyCase{P, U'E', Act::Box, 11}, KeyCase{P, U'4', Act::Box, 2},
-        KeyCase{P, U'C', Act::Box, 2}, KeyCase{P, U'5', Act::Box, 10},
-        KeyCase{P, U'D', Act::Box, 10}, KeyCase{P, U'6', Act::Focus, -1, Field::Name},
-        KeyCase{P, U'N', Act::Focus, -1, Field::Name}, KeyCase{P, U'7', Act::None},
-        KeyCase{P, U'T', Act::None},
-        // VISUAL
-        KeyCase{V, U'1', Act::Focus, -1, Field::Style},
-        KeyCase{V, U'D', Act::Focus, -1, Field::Style}, KeyCase{V, U'2', Act::Box, 3},
-        KeyCase{V, U's', Act::Box, 3}, KeyCase{V, U'3', Act::Box, 4}, KeyCase{V, U'L', Act::Box, 4},
-        KeyCase{V, U'4', Act::Box, 5}, KeyCase{V, U'I', Act::Box, 5}, KeyCase{V, U'5', Act::Box, 6},
-        KeyCase{V, U'E', Act::Box, 6}, KeyCase{V, U'6', Act::Focus, -1, Field::ColourCode},
-        KeyCase{V, U'T', Act::Focus, -1, Field::ColourCode},
-        KeyCase{V, U'7', Act::DefaultBlue, -1, Field::None, true},
-        KeyCase{V, U'A', Act::DefaultBlue, -1, Field::None, true},
-        KeyCase{V, U'R', Act::Focus, -1, Field::Red, true},
-        KeyCase{V, U'g', Act::Focus, -1, Field::Green, true},
-        KeyCase{V, U'B', Act::Focus, -1, Field::Blue, true}, KeyCase{V, U'8', Act::None},
-        // FUNCIONAL
-        KeyCase{F, U'1', Act::Box, 7}, KeyCase{F, U'S', Act::Box, 7}, KeyCase{F, U'2', Act::Box, 8},
-        KeyCase{F, U'A', Act::Box, 8}, KeyCase{F, U'3', Act::Box, 9}, KeyCase{F, U'W', Act::Box, 9},
-        KeyCase{F, U'4', Act::Box, 12}, KeyCase{F, U'J', Act::Box, 12},
-        KeyCase{F, U'5', Act::Box, 13}, KeyCase{F, U'T', Act::Box, 13},
-        KeyCase{F, U'6', Act::Focus, -1, Field::Theme},
-        KeyCase{F, U'n', Act::Focus, -1, Field::Theme}, KeyCase{F, U'R', Act::None},
-        // LIBRE!
-        KeyCase{L, U'1', Act::Focus, -1, Field::Labels},
-        KeyCase{L, U'2', Act::Focus, -1, Field::Values},
-        KeyCase{L, U'l', Act::Focus, -1, Field::Values}, KeyCase{L, U'3', Act::None},
-        KeyCase{L, U'\u00d1', Act::None}),
-    [](const auto& info) {
-        const char32_t key = info.param.key;
-        const bool plain = (key >= U'0' && key <= U'9') || (key >= U'a' && key <= U'z') ||
-                           (key >= U'A' && key <= U'Z');
-        std::string name(OptionsModel::pageName(info.param.page));
-        name.erase(std::remove(name.begin(), name.end(), '!'), name.end());
-        name += plain ? "_" + std::string(1, static_cast<char>(key)) : "_Other";
-        return name + "_" + std::to_string(info.index);
-    });
 
 } // namespace
 } // namespace quillora

@@ -470,23 +470,6 @@ TEST_F(RoundStartTest, TwoGamesOfOneThemeSwitchTheAutomaticPhraseOn) {
     EXPECT_EQ(laid(), ThemeCatalogue::storedPhrase(3, 4));
 }
 
-TEST_F(RoundStartTest, ATourPlaysItsThemeAndMovesOnAfterEachGame) {
-    shared.settings.fraseAutomatica = true;
-    shared.tourPosition = 7;
-    random.queue({phrase(5)});
-    ASSERT_EQ(round.eGame(), GameStart::Started);
-    EXPECT_EQ(round.gameTheme(), 7);
-    EXPECT_EQ(round.themeLabel(), "DEPORTE");
-    finishGame();
-    EXPECT_EQ(shared.tourPosition, 8);
-
-    shared.tourPosition = 50;
-    random.queue({phrase(1)});
-    round.eGame();
-    finishGame();
-    EXPECT_EQ(shared.tourPosition, 1) << "after the last theme the tour starts again";
-}
-
 TEST_F(RoundStartTest, SwitchingTheAutomaticPhraseOffEndsTheTourAndRestoresTheSelection) {
     shared.settings.fraseAutomatica = true;
     shared.tourPosition = 12;
@@ -501,15 +484,6 @@ TEST_F(RoundStartTest, SwitchingTheAutomaticPhraseOffEndsTheTourAndRestoresTheSe
     EXPECT_TRUE(shared.settings.fraseAutomatica);
     EXPECT_EQ(round.autoMarkerCaption(), "A");
     EXPECT_EQ(round.autoMarkerTooltip(), " Desactivar la frase automática. ");
-}
-
-TEST_F(RoundStartTest, SurvivalWithoutPointsRefusesToPlay) {
-    shared.settings.supervivencia = true;
-    shared.survivalPoints = 0;
-    EXPECT_EQ(round.eGame(), GameStart::Nothing);
-    EXPECT_EQ(dialogs.shown.size(), 1U) << "the refusal is told";
-    shared.multiplayer = true;
-    EXPECT_EQ(round.eGame(), GameStart::FriendWindow) << "friends play without points";
 }
 
 } // namespace

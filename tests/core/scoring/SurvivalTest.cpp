@@ -40,6 +40,9 @@ TEST_F(Survival, TheLastPointsLostLeaveNoPointsAndJugarRefuses) {
     EXPECT_EQ(dialogs.shown.back().text,
               "Reinicia el juego o consigue puntos para volver a jugar en este modo.");
     EXPECT_EQ(dialogs.shown.back().title, "No puedes jugar sin puntos");
+    shared.multiplayer = true;
+    EXPECT_EQ(model.playPressed(), GameStart::FriendWindow) << "friends play without points";
+    shared.multiplayer = false;
 
     model.againGetPoints();
     EXPECT_FALSE(shared.settings.supervivencia);

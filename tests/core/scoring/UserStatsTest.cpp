@@ -77,10 +77,7 @@ TEST(UserStats, AFullCounterStopsOnAWinAndFailsALossWithNothingCounted) {
 
 class BoardStatistics : public BoardModel {
 protected:
-    BoardStatistics() {
-        shared.dataFolder = temp.path();
-        InicioLoad(shared);
-    }
+    BoardStatistics() { InicioLoad(shared); }
     // CASA: four letters, so a win is worth 400 / (1 + strikes).
     void play(std::u32string_view letters) { BoardModel::play("CASA", letters); }
     const Counters& normal() const { return shared.current().stats.normal(); }

@@ -135,65 +135,57 @@ TEST_F(ConfigImportTest, AMainFileOfAnyKindMeansNoQuestion) {
 
 // --- the copy ---------------------------------------------------------------------
 
-struct LineEnds {
-    std::string name;
-    std::string old;
-    std::string copy;
-};
-void PrintTo(const LineEnds& c, std::ostream* out) {
-    *out << c.name;
-}
-
-class CopiedLines : public ConfigImportTest, public ::testing::WithParamInterface<LineEnds> {};
-
-TEST_P(CopiedLines, EveryLineEndsInCrLfAndNothingElseChanges) {
-    const LineEnds& file = GetParam();
-    put(version5(), file.old);
-    put(version4(), kVersion4);
-    dialogs.answer({true});
-    EXPECT_EQ(iFound1(shared, dialogs), Outcome::Copied);
-    EXPECT_EQ(slurp(mainFile()), file.copy);
-    EXPECT_EQ(slurp(version5()), file.old) << "the old file stays as it was";
-    EXPECT_EQ(questions(), Texts{kAskVersion5}) << "no version 4 question after the version 5 one";
-
-    // The main file exists now: no more offers.
-    EXPECT_EQ(iFound1(shared, dialogs), Outcome::NotOffered);
-    EXPECT_EQ(dialogs.shown.size(), 1U);
-    EXPECT_FALSE(shared.importDeclined);
-}
-
-// As large as an old file may be, lines ended by LF alone, the last one open.
-LineEnds atTheSizeLimit() {
+// As large as an old file may be, lines ended by LF alone, the last one open:
+// the file, and the copy it makes.
+std::pair<std::string, std::string> atTheSizeLimit() {
     const std::string line(99, 'x');
-    LineEnds file{"AtTheSizeLimit", {}, {}};
-    while (file.old.size() + line.size() + 1 <= kMaxConfigBytes) {
-        file.old += line + "\n";
-        file.copy += line + "\r\n";
+    std::string old, copy;
+    while (old.size() + line.size() + 1 <= kMaxConfigBytes) {
+        old += line + "\n";
+        copy += line + "\r\n";
     }
-    const std::string last(kMaxConfigBytes - file.old.size(), 'y');
-    file.old += last;
-    file.copy += last + "\r\n";
-    return file;
+    const std::string last(kMaxConfigBytes - old.size(), 'y');
+    return {old + last, copy + last + "\r\n"};
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    ConfigImport, CopiedLines,
-    ::testing::Values(LineEnds{"CrLf", "fondo.jpg\r\n\r\n1\r\n", "fondo.jpg\r\n\r\n1\r\n"},
-                      LineEnds{"LfOnly", "fondo.jpg\n\n1\n0\n", "fondo.jpg\r\n\r\n1\r\n0\r\n"},
-                      LineEnds{"CrOnly", "fondo.jpg\r\r1\r", "fondo.jpg\r\n\r\n1\r\n"},
-                      LineEnds{"NoFinalLineEnd", "fondo.jpg\r\nAna", "fondo.jpg\r\nAna\r\n"},
-                      LineEnds{"Mixed", "a\nb\r\nc\rd\r\r\ne", "a\r\nb\r\nc\r\nd\r\n\r\ne\r\n"},
-                      LineEnds{"BlankLinesAtBothEnds", "\n\nAna\n\n", "\r\n\r\nAna\r\n\r\n"},
-                      LineEnds{"Empty", "", "\r\n"},
-                      // Windows-1252 letters, a tab, a backslash and blanks: no conversion.
-                      LineEnds{"BytesAsTheyAre",
-                               "  Mu\xF1"
-                               "eco\t\xC1rbol\x80 \\ \n\xFF",
-                               "  Mu\xF1"
-                               "eco\t\xC1rbol\x80 \\ \r\n\xFF\r\n"},
-                      LineEnds{"EndOfFileMark", "Ana\r\n255\r\n\x1A", "Ana\r\n255\r\n"},
-                      atTheSizeLimit()),
-    [](const ::testing::TestParamInfo<LineEnds>& info) { return info.param.name; });
+TEST_F(ConfigImportTest, EveryCopiedLineEndsInCrLfAndNothingElseChanges) {
+    // What the old file holds, and what its copy must hold.
+    const std::vector<std::pair<std::string, std::string>> files{
+        {"fondo.jpg\r\n\r\n1\r\n", "fondo.jpg\r\n\r\n1\r\n"},
+        {"fondo.jpg\n\n1\n0\n", "fondo.jpg\r\n\r\n1\r\n0\r\n"},
+        {"fondo.jpg\r\r1\r", "fondo.jpg\r\n\r\n1\r\n"},
+        {"fondo.jpg\r\nAna", "fondo.jpg\r\nAna\r\n"},
+        {"a\nb\r\nc\rd\r\r\ne", "a\r\nb\r\nc\r\nd\r\n\r\ne\r\n"},
+        {"\n\nAna\n\n", "\r\n\r\nAna\r\n\r\n"},
+        {"", "\r\n"},
+        // Windows-1252 letters, a tab, a backslash and blanks: no conversion.
+        {"  Mu\xF1"
+         "eco\t\xC1rbol\x80 \\ \n\xFF",
+         "  Mu\xF1"
+         "eco\t\xC1rbol\x80 \\ \r\n\xFF\r\n"},
+        {"Ana\r\n255\r\n\x1A", "Ana\r\n255\r\n"},
+        atTheSizeLimit()};
+    for (const auto& [old, copy] : files) {
+        SCOPED_TRACE(testing::PrintToString(old.substr(0, 24)));
+        fs::remove(mainFile());
+        dialogs.shown.clear();
+        SharedState run;
+        run.dataFolder = folder;
+        put(version5(), old);
+        put(version4(), kVersion4);
+        dialogs.answer({true});
+        EXPECT_EQ(iFound1(run, dialogs), Outcome::Copied);
+        EXPECT_EQ(slurp(mainFile()), copy);
+        EXPECT_EQ(slurp(version5()), old) << "the old file stays as it was";
+        EXPECT_EQ(questions(), Texts{kAskVersion5})
+            << "no version 4 question after the version 5 one";
+
+        // The main file exists now: no more offers.
+        EXPECT_EQ(iFound1(run, dialogs), Outcome::NotOffered);
+        EXPECT_EQ(dialogs.shown.size(), 1U);
+        EXPECT_FALSE(run.importDeclined);
+    }
+}
 
 TEST_F(ConfigImportTest, TheVersion4FileIsOfferedWhenThereIsNoVersion5) {
     put(version4(), "Ana\nRoja");

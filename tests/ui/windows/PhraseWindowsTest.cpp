@@ -25,7 +25,6 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     }
     static void activate(QWidget* opened) { ASSERT_TRUE(takeKeys(opened)); }
-    static void settle() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
 };
 
 TEST_F(PhraseWindows, TheDrawnPhraseIsNeverHeardAndTheThemesAreChosenFromTheKeys) {

@@ -18,7 +18,6 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QMenu>
-#include <QMimeData>
 #include <QSignalSpy>
 #include <QTimer>
 
@@ -42,9 +41,6 @@ protected:
         }
         return window->designWindow();
     }
-    // Windows closed with WA_DeleteOnClose are gone once their deletion runs.
-    static void settle() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
-
     fs::path picture(const char* name, QColor colour, const char* format = nullptr) {
         QImage image(QSize(40, 30), QImage::Format_RGB32);
         image.fill(colour);
@@ -123,8 +119,7 @@ protected:
         return list->grab().toImage().pixelColor(list->width() / 2, list->height() - 4);
     }
     std::string storedLine(int n) const {
-        const auto lines = readConfigLines(shared.currentSession().Archivo);
-        return lines && static_cast<int>(lines->size()) >= n ? (*lines)[n - 1] : "(no line)";
+        return quillora::storedLine(shared.currentSession().Archivo, n);
     }
 
     const fs::path pictures = [this] {
@@ -319,8 +314,7 @@ TEST_F(DesignWindow, ClosingWithoutSavingPutsTheStoredPictureBack) {
     const fs::path red = picture("rojo.png", Qt::red);
     const fs::path blue = picture("azul.bmp", Qt::blue);
     shared.settings.fondo = red.string();
-    ASSERT_TRUE(ConfSave(shared, dialogs));
-    SetUpBoard();
+    SetUpBoardFromFile();
     ASSERT_EQ(boardPixel(), QColor(Qt::red));
 
     frmDiseno* design = openFromMenu();
@@ -343,8 +337,7 @@ TEST_F(DesignWindow, ClosingWithoutSavingPutsTheStoredPictureBack) {
 
 TEST_F(DesignWindow, StylesAndTogglesReachTheBoardAtOnce) {
     shared.settings.estilo = 1;
-    ASSERT_TRUE(ConfSave(shared, dialogs));
-    SetUpBoard();
+    SetUpBoardFromFile();
     frmDiseno* design = openFromMenu();
     ASSERT_NE(design, nullptr);
     EXPECT_EQ(design->styleList()->currentText(), QStringLiteral("Tinta Negra"));
@@ -380,21 +373,12 @@ TEST_F(DesignWindow, APictureDroppedOnTheBoardGoesToTheOpenWindow) {
     std::ofstream(pictures / "roto.gif", std::ios::binary) << "GIF89a, pero nada mas";
     frmDiseno* design = openFromMenu();
     ASSERT_NE(design, nullptr);
-    auto drop = [this](const fs::path& file) {
-        QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(QString::fromStdString(file.string()))});
-        QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton,
-                              Qt::NoModifier);
-        QApplication::sendEvent(window.get(), &enter);
-        QDropEvent event(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(window.get(), &event);
-    };
 
-    drop(blue);
+    ASSERT_TRUE(drop(blue));
     EXPECT_EQ(boardPixel(), QColor(Qt::blue));
     EXPECT_EQ(design->addressBox()->text(), QString::fromStdString(blue.string()));
     EXPECT_TRUE(design->preview()->picture().shown());
-    drop(pictures / "roto.gif");
+    ASSERT_TRUE(drop(pictures / "roto.gif"));
     EXPECT_EQ(listColour(design), kRefused);
     EXPECT_EQ(boardPixel(), QColor(Qt::blue));
 }

@@ -43,17 +43,6 @@ protected:
     static void clickRow(QListWidget* list, int row) {
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, rowCentre(list, row));
     }
-    static QAction* entry(QMenu* menu, const QString& text) {
-        for (QAction* action : menu->actions()) {
-            if (action->text() == text) {
-                return action;
-            }
-        }
-        ADD_FAILURE() << "no entry " << text.toStdString();
-        return nullptr;
-    }
-    // Deleted windows go once the events are through.
-    static void settle() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
 };
 
 TEST_F(ThemeLists, TheListStepsInForThePhraseWindowAndHandsBackThreeThemes) {
@@ -138,7 +127,7 @@ TEST_F(ThemeLists, ATourStartedFromTheListPlaysTheFirstThemeAtOnce) {
     ASSERT_NE(list, nullptr);
     random.queue({phrase(9)});
     QMenu* menu = list->buildMenu();
-    entry(menu, QStringLiteral("Tour temático"))->trigger();
+    entryOf(menu, QStringLiteral("Tour temático"))->trigger();
     settle();
     EXPECT_EQ(window->themeWindow(), nullptr);
     EXPECT_EQ(window->themeLabel()->text(), "ANIMAL");
@@ -170,7 +159,7 @@ TEST_F(ThemeLists, TheHistoryListKeepsEnterAndAltBackspaceAndGivesTheBoardTheRes
     ASSERT_NE(search, nullptr);
     EXPECT_EQ(search->title(), "Buscar");
     EXPECT_EQ(window->model().history().lookUpText(), "árbol");
-    QAction* lookUp = entry(search, QStringLiteral("¿Qué es eso?"));
+    QAction* lookUp = entryOf(search, QStringLiteral("¿Qué es eso?"));
     ASSERT_NE(lookUp, nullptr);
     lookUp->trigger();
     ASSERT_EQ(desktop.web.opened.size(), 1U);
@@ -191,7 +180,7 @@ TEST_F(ThemeLists, TheHistoryListKeepsEnterAndAltBackspaceAndGivesTheBoardTheRes
 TEST_F(ThemeLists, TheChosenThemesPanelOpensFromTheThemeAndEnterPlaysFromIt) {
     shared.current().selectedThemes[3] = shared.current().selectedThemes[44] = true;
     QMenu* menu = window->themeBox()->buildMenu();
-    entry(menu, QStringLiteral("Temas seleccionados"))->trigger();
+    entryOf(menu, QStringLiteral("Temas seleccionados"))->trigger();
     delete menu;
     QListWidget* themes = window->themesPanel()->list();
     ASSERT_TRUE(window->themesPanel()->isVisible());
@@ -206,7 +195,7 @@ TEST_F(ThemeLists, TheChosenThemesPanelOpensFromTheThemeAndEnterPlaysFromIt) {
     EXPECT_FALSE(window->historyPanel()->isVisible());
 
     menu = window->themeBox()->buildMenu();
-    entry(menu, QStringLiteral("Temas seleccionados"))->trigger();
+    entryOf(menu, QStringLiteral("Temas seleccionados"))->trigger();
     delete menu;
     random.queue({theme(3), phrase(2)});
     QTest::keyClick(themes, Qt::Key_Return);

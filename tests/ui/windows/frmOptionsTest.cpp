@@ -58,10 +58,7 @@ protected:
         window->pageList()->setFocus();
     }
     std::string file() const { return shared.currentSession().Archivo; }
-    std::string savedLine(int line) const {
-        const auto lines = readConfigLines(file()).value_or(std::vector<std::string>{});
-        return lines.size() >= static_cast<std::size_t>(line) ? lines[line - 1] : "<missing>";
-    }
+    std::string savedLine(int line) const { return storedLine(file(), line); }
     void showPage(Page page) { window->pageList()->setCurrentRow(static_cast<int>(page)); }
 
     TempFolder folder{"quillora-options-window"};

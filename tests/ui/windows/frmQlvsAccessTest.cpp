@@ -97,7 +97,7 @@ TEST_F(BoardAccess, NoTextOfAnyWindowGivesTheHiddenPhraseAwayUntilTheGameEnds) {
     startVaca();
     // The theme window, which carried the phrase, goes as soon as the
     // program's event loop turns.
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    settle();
     ASSERT_EQ(window->themeWindow(), nullptr);
     openKeyboard();
     type("axyz");

@@ -12,12 +12,10 @@
 #include "windows/frmQlvs/SidePanel.h"
 #include "windows/frmQlvs/StatsPanel.h"
 
-#include <QDragEnterEvent>
 #include <QHelpEvent>
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QMenu>
-#include <QMimeData>
 #include <QToolTip>
 
 #include <stdexcept>
@@ -76,11 +74,7 @@ TEST_F(BoardPanels, BehindTheSessionPanelAndTheLockNoShortcutActs) {
     // Nor does a user dropped on the board, who would take its place.
     random.queue({0.1});
     ASSERT_TRUE(NewConfFile(folder / "ana.txt", "Ana", random));
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(QString::fromStdString((folder / "ana.txt").string()))});
-    QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(window.get(), &enter);
-    EXPECT_FALSE(enter.isAccepted());
+    EXPECT_FALSE(drop(folder / "ana.txt"));
     window->model().dropFiles({(folder / "ana.txt").string()});
     EXPECT_EQ(shared.currentSlot, 0);
 }
@@ -146,8 +140,7 @@ TEST_F(BoardPanels, WithoutPointsJugarAndTheThemeMoveBesideTheBoard) {
     const QPoint normal = window->playButton()->mapTo(window.get(), QPoint());
     const QPoint theme = window->themeLabel()->mapTo(window.get(), QPoint());
     shared.settings.sistemaPuntos = false;
-    ASSERT_TRUE(ConfSave(shared, dialogs));
-    SetUpBoard();
+    SetUpBoardFromFile();
     EXPECT_LT(window->playButton()->mapTo(window.get(), QPoint()).y(), normal.y());
     EXPECT_GT(window->themeLabel()->mapTo(window.get(), QPoint()).y(), theme.y());
     EXPECT_FALSE(window->scoreFrame()->isVisible());
@@ -212,17 +205,10 @@ TEST_F(BoardPanels, EstadisticasUnrollsTheCountsAndEscRollsThemUp) {
         window->sync();
     };
 
-    QMenu* menu = window->buildPopup();
-    QAction* entry = nullptr;
-    for (QAction* a : menu->actions()) {
-        if (a->text() == QStringLiteral("Estadísticas")) {
-            entry = a;
-        }
-    }
+    QAction* entry = popupEntry(QStringLiteral("Estadísticas"));
     ASSERT_NE(entry, nullptr);
     ASSERT_TRUE(entry->isEnabled());
     entry->trigger();
-    delete menu;
     EXPECT_TRUE(panel->isVisible());
     EXPECT_FALSE(panel->valuesFrame()->isVisible()) << "the values come at the full height";
     settle();

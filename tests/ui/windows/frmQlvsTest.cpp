@@ -9,7 +9,6 @@
 #include "windows/frmWord1/frmWord1.h"
 
 #include <QLineEdit>
-#include <QMimeData>
 #include <QTimer>
 
 #include <fstream>
@@ -47,9 +46,14 @@ TEST_F(BoardWindow, KeysTypedOnTheWindowPlayAGameToItsEnd) {
 
 TEST_F(BoardWindow, ClicksOnTheOnScreenKeyboardGuessAndOpenTheDigits) {
     startVaca();
-    openKeyboard();
+    // The keyboard slides out on the board's own timer, run here without its wait.
+    for (QTimer* timer : window->findChildren<QTimer*>()) {
+        if (timer->isActive() && timer->interval() == QlvsModel::kOpenTickMs) {
+            timer->setInterval(0);
+        }
+    }
     KeyboardView* keys = window->keyboard();
-    ASSERT_TRUE(keys->isVisible());
+    ASSERT_TRUE(QTest::qWaitFor([keys] { return keys->isVisible(); }, 5000));
     const auto click = [keys](int key) {
         QTest::mouseClick(keys, Qt::LeftButton, {}, keys->keyRect(key).center());
     };
@@ -153,13 +157,7 @@ TEST_F(BoardWindow, ADroppedConfigurationFileBecomesASession) {
     std::ofstream(file, std::ios::binary)
         << "\r\n\r\n1\r\n0\r\n0\r\n0\r\n0\r\n1\r\n0\r\n0\r\n5\r\n1"
            "\r\n0\r\n0\r\nAna\r\n";
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(QString::fromStdString(file.string()))});
-    QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(window.get(), &enter);
-    EXPECT_TRUE(enter.isAccepted());
-    QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(window.get(), &drop);
+    ASSERT_TRUE(drop(file));
     EXPECT_EQ(shared.currentSession().displayName, "Ana");
     EXPECT_TRUE(window->model().restartRequested());
 }
@@ -186,8 +184,7 @@ TEST_F(BoardWindow, OnlyTheCloseBoxEndsTheGame) {
 TEST_F(BoardWindow, TheClockShowsOnlyWhileItCountsAndItsTimerFollowsTheModel) {
     EXPECT_FALSE(window->timeLabel()->isVisible());
     shared.settings.contratiempo = 2;
-    ASSERT_TRUE(ConfSave(shared, dialogs)); // the board takes it from the file
-    SetUpBoard();
+    SetUpBoardFromFile();
     EXPECT_EQ(window->timeLabel()->toolTip(),
               QStringLiteral(" Segundos para que se acabe la partida del juego. "));
     EXPECT_FALSE(window->countdownTimer()->isActive());

@@ -32,8 +32,7 @@ int whitePixels(const QImage& image) {
 
 TEST_F(BoardTips, TheThemeMenuRunsATipThroughTheStripAndAClickPutsItAway) {
     shared.settings.animacion = true;
-    ASSERT_TRUE(ConfSave(shared, dialogs)); // the board takes it from the file
-    SetUpBoard();
+    SetUpBoardFromFile();
     TipStrip* strip = window->tipStrip();
     QLabel* label = strip->tipLabel();
     EXPECT_TRUE(strip->isVisible()) << "an animated board opens with its hint";
