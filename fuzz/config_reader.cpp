@@ -5,7 +5,7 @@
 // board reads it at its opening, turned into options, and written back.
 
 #include "FuzzPorts.h"
-#include "models/frmInicio/InicioModel.h"
+#include "models/start/StartScreenModel.h"
 #include "state/SharedState.h"
 #include "storage/ConfigFile.h"
 
@@ -16,13 +16,13 @@ using namespace quillora;
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     SharedState shared;
     shared.dataFolder = fuzz::dataFolder();
-    InicioLoad(shared);
+    loadAtStart(shared);
     fuzz::writeInput("QuilloraVS5.txt", data, size);
     fuzz::FixedRandom random;
     fuzz::QuietDialogs dialogs;
     clearForBoardLoad(shared);
-    DataLoad(shared, random);
-    ConfLoad(shared);
+    readSessionFile(shared, random);
+    applyLineValues(shared);
     // What was read always goes back as twenty storable lines.
     const auto lines = settingsLines(shared.settings);
     if (lines.size() != static_cast<std::size_t>(kConfigLines)) {
@@ -33,6 +33,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
             std::abort();
         }
     }
-    ConfSave(shared, dialogs);
+    saveSettings(shared, dialogs);
     return 0;
 }

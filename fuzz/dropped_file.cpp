@@ -6,8 +6,8 @@
 
 #include "FuzzPorts.h"
 #include "desktop/WebLookUp.h"
-#include "models/frmInicio/InicioModel.h"
-#include "models/frmQlvs/QlvsModel.h"
+#include "models/board/BoardModel.h"
+#include "models/start/StartScreenModel.h"
 #include "ports/NetworkCheck.h"
 #include "ports/Web.h"
 
@@ -27,20 +27,20 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     std::filesystem::create_directories(fuzz::dataFolder());
     SharedState shared;
     shared.dataFolder = fuzz::dataFolder();
-    shared.settings.nombre = "Quillora VS";
-    InicioLoad(shared);
+    shared.settings.userName = "Quillora VS";
+    loadAtStart(shared);
     fuzz::QuietDialogs dialogs;
     fuzz::FixedRandom random;
     Offline network;
     NoBrowser browser;
     WebLookUp lookUp(network, browser, dialogs, Endpoints::fromBuild("file:///ayuda.html"));
-    QlvsModel board(shared, dialogs, random, lookUp);
+    BoardModel board(shared, dialogs, random, lookUp);
     board.load();
     const auto dropped = fuzz::writeInput("Soltado.txt", data, size);
     board.dropFiles({dropped.string()});
     for (int slot = 0; slot < kSessionSlots; ++slot) {
         board.switchSession(slot);
-        QlvsModel next(shared, dialogs, random, lookUp);
+        BoardModel next(shared, dialogs, random, lookUp);
         next.load();
     }
     return 0;

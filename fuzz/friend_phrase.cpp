@@ -4,7 +4,7 @@
 // The friend's phrase window: any text pasted into the phrase and theme
 // boxes, then typed key by key, and the preview of the board it gives.
 
-#include "models/frmWord1/Word1Model.h"
+#include "models/friendPhrase/FriendPhraseModel.h"
 #include "state/SharedState.h"
 #include "words/Text.h"
 
@@ -16,11 +16,12 @@ using namespace quillora;
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const std::string text(reinterpret_cast<const char*>(data), size);
     SharedState shared;
-    Word1Model model(shared);
+    FriendPhraseModel model(shared);
     model.setThemeText(text);
     model.themeFocusOut();
     model.setPhraseText(text);
-    if (charCount(model.phraseText()) > static_cast<std::size_t>(Word1Model::kMaxPhraseChars)) {
+    if (charCount(model.phraseText()) >
+        static_cast<std::size_t>(FriendPhraseModel::kMaxPhraseChars)) {
         std::abort();
     }
     model.setPhraseText("");
@@ -29,8 +30,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
             model.type(key);
         }
     }
-    for (int row = 1; row <= Word1Model::kPreviewRows; ++row) {
-        if (charCount(model.previewRow(row)) > static_cast<std::size_t>(Word1Model::kRowChars)) {
+    for (int row = 1; row <= FriendPhraseModel::kPreviewRows; ++row) {
+        if (charCount(model.previewRow(row)) >
+            static_cast<std::size_t>(FriendPhraseModel::kRowChars)) {
             std::abort();
         }
     }

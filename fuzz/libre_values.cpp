@@ -5,8 +5,8 @@
 // twenty lines, saved, and the file read back as the board would.
 
 #include "FuzzPorts.h"
-#include "models/frmInicio/InicioModel.h"
-#include "models/frmOptions/OptionsModel.h"
+#include "models/options/OptionsModel.h"
+#include "models/start/StartScreenModel.h"
 #include "state/SharedState.h"
 #include "storage/ConfigFile.h"
 
@@ -18,15 +18,15 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     }
     SharedState shared;
     shared.dataFolder = fuzz::dataFolder();
-    InicioLoad(shared);
+    loadAtStart(shared);
     fuzz::QuietDialogs dialogs;
     fuzz::FixedRandom random;
     OptionsModel options(shared, dialogs);
     options.selectRow(data[0] % OptionsModel::kLines);
     options.setValueText(std::string(reinterpret_cast<const char*>(data + 1), size - 1));
-    options.AltSave2();
+    options.saveFromRawLines();
     clearForBoardLoad(shared);
-    DataLoad(shared, random);
-    ConfLoad(shared);
+    readSessionFile(shared, random);
+    applyLineValues(shared);
     return 0;
 }

@@ -12,10 +12,10 @@
 #include "platform/QtWeb.h"
 #include "ports/ClockRandom.h"
 #include "state/SharedState.h"
-#include "windows/frmInicio/frmInicio.h"
-#include "windows/frmMenu/frmMenu.h"
-#include "windows/frmOptions/frmOptions.h"
-#include "windows/frmQlvs/frmQlvs.h"
+#include "windows/board/BoardWindow.h"
+#include "windows/menu/MainMenu.h"
+#include "windows/options/OptionsWindow.h"
+#include "windows/start/StartScreen.h"
 
 #include <QApplication>
 #include <QDir>
@@ -43,13 +43,13 @@ public:
             QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
             QStringLiteral("/quillora-vesta");
         m_shared.dataFolder = QDir(folder).absolutePath().toStdString();
-        m_shared.settings.nombre = "Quillora VS";
+        m_shared.settings.userName = "Quillora VS";
     }
 
     // The start screen, at program start and after every restart.
     void start() {
-        auto screen = std::make_unique<quillora::frmInicio>(m_shared, m_lookUp,
-                                                            quillora::Fonts::displayAvailable());
+        auto screen = std::make_unique<quillora::StartScreen>(m_shared, m_lookUp,
+                                                              quillora::Fonts::displayAvailable());
         screen->onMenu = [this] { later([this] { openMenu(std::nullopt); }); };
         screen->onRestart = [] { quillora::restartProgram(); };
         screen->onClose = [] { QCoreApplication::quit(); };
@@ -75,8 +75,8 @@ private:
         replace(std::move(menu));
     }
 
-    std::unique_ptr<quillora::frmMenu> newMenu() {
-        auto menu = std::make_unique<quillora::frmMenu>(m_shared, m_dialogs);
+    std::unique_ptr<quillora::MainMenu> newMenu() {
+        auto menu = std::make_unique<quillora::MainMenu>(m_shared, m_dialogs);
         menu->onPlay = [this] { later([this] { openBoard(); }); };
         menu->onQuit = [] { QCoreApplication::quit(); };
         menu->onOptions = [this] { later([this] { openOptions(); }); };
@@ -85,7 +85,7 @@ private:
 
     // The options open where the menu has swollen to their size.
     void openOptions() {
-        auto options = std::make_unique<quillora::frmOptions>(m_shared, m_dialogs);
+        auto options = std::make_unique<quillora::OptionsWindow>(m_shared, m_dialogs);
         options->onMenu = [this, window = options.get()] {
             const QPoint at = window->pos();
             const int width = window->width() * quillora::kTwipsPerPixel;
@@ -108,7 +108,7 @@ private:
         // Never shorter than the menu's own tiles and legend, which would
         // otherwise be cut off at the foot.
         menu->model().sizeWindow(width, std::max(quillora::OptionsModel::kMenuHeightTwips,
-                                                 quillora::MenuModel::kHeightTwips));
+                                                 quillora::MainMenuModel::kHeightTwips));
         menu->sync();
         menu->setWindowTitle(caption);
         menu->move(at);
@@ -122,8 +122,8 @@ private:
         const QRect menuFrame = m_window ? m_window->frameGeometry() : QRect();
         const QPoint menuCentre =
             menuFrame.topLeft() + QPoint(menuFrame.width() / 2, menuFrame.height() / 2);
-        auto board =
-            std::make_unique<quillora::frmQlvs>(m_shared, m_dialogs, m_random, m_sounds, m_lookUp);
+        auto board = std::make_unique<quillora::BoardWindow>(m_shared, m_dialogs, m_random,
+                                                             m_sounds, m_lookUp);
         board->onRestart = [this] { later([this] { start(); }); };
         board->onClose = [] { QCoreApplication::quit(); };
         board->onMenu = [this, window = board.get()] {

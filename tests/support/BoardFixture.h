@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "models/frmInicio/InicioModel.h"
+#include "models/start/StartScreenModel.h"
 #include "support/Fakes.h"
 #include "support/TempFolder.h"
-#include "windows/frmQlvs/frmQlvs.h"
-#include "windows/frmWord2/frmWord2.h"
+#include "windows/board/BoardWindow.h"
+#include "windows/theme/ThemeWindow.h"
 
 #include <QDragEnterEvent>
 #include <QLabel>
@@ -26,25 +26,25 @@ namespace fs = std::filesystem;
 
 // A board window on a fresh data folder, and the ways a player drives it.
 
-class BoardWindow : public ::testing::Test {
+class BoardWindowTest : public ::testing::Test {
 protected:
-    BoardWindow() {
+    BoardWindowTest() {
         shared.dataFolder = folder;
-        InicioLoad(shared);
+        loadAtStart(shared);
     }
     void SetUp() override { SetUpBoard(); }
     // A fresh board for the shared state as it stands.
     void SetUpBoard() {
         // No file yet: the theme is drawn, and a 0 reads as theme 1.
         random.queue({0.0});
-        window = std::make_unique<frmQlvs>(shared, dialogs, random, sounds, desktop.lookUp);
+        window = std::make_unique<BoardWindow>(shared, dialogs, random, sounds, desktop.lookUp);
         window->show();
         window->activateWindow();
         window->setFocus();
     }
     // A fresh board that reads the options as they now stand from its file.
     void SetUpBoardFromFile() {
-        ASSERT_TRUE(ConfSave(shared, dialogs));
+        ASSERT_TRUE(saveSettings(shared, dialogs));
         SetUpBoard();
     }
     void TearDown() override { window.reset(); }
@@ -106,7 +106,7 @@ protected:
     QueuedRandom random;
     RecordingSounds sounds;
     FakeDesktop desktop{dialogs};
-    std::unique_ptr<frmQlvs> window;
+    std::unique_ptr<BoardWindow> window;
 };
 
 } // namespace quillora

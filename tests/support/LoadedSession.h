@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "models/frmInicio/InicioModel.h"
+#include "models/start/StartScreenModel.h"
 #include "state/SharedState.h"
 #include "support/Fakes.h"
 #include "support/TempFolder.h"
@@ -17,7 +17,7 @@ namespace quillora {
 struct LoadedSession {
     explicit LoadedSession(const std::string& prefix) : temp(prefix) {
         shared.dataFolder = folder;
-        InicioLoad(shared);
+        loadAtStart(shared);
     }
 
     TempFolder temp;

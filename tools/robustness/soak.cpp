@@ -11,8 +11,8 @@
 //   soak GAMES DATA_FOLDER [SEED]
 
 #include "desktop/WebLookUp.h"
-#include "models/frmInicio/InicioModel.h"
-#include "models/frmQlvs/QlvsModel.h"
+#include "models/board/BoardModel.h"
+#include "models/start/StartScreenModel.h"
 #include "ports/Dialogs.h"
 #include "ports/NetworkCheck.h"
 #include "ports/Random.h"
@@ -94,15 +94,15 @@ int main(int argc, char** argv) {
     SharedState shared;
     shared.dataFolder = std::filesystem::path(argv[2]);
     std::filesystem::create_directories(shared.dataFolder);
-    shared.settings.nombre = "Quillora VS";
-    InicioLoad(shared);
+    shared.settings.userName = "Quillora VS";
+    loadAtStart(shared);
     RestlessDialogs dialogs;
     SeededRandom random;
     Offline network;
     NoBrowser browser;
     WebLookUp lookUp(network, browser, dialogs, Endpoints::fromBuild("file:///ayuda.html"));
 
-    auto board = std::make_unique<QlvsModel>(shared, dialogs, random, lookUp);
+    auto board = std::make_unique<BoardModel>(shared, dialogs, random, lookUp);
     board->load();
     long wins = 0, losses = 0, switches = 0;
     for (long game = 1; game <= games; ++game) {
@@ -110,9 +110,9 @@ int main(int argc, char** argv) {
         while (board->scoreTimerRunning()) {
             board->tickScore();
         }
-        round.eMenuNew();
-        round.eOther();
-        round.eOk();
+        round.clearBoard();
+        round.drawThemeAndPhrase();
+        round.layDrawnPhrase();
         // A game is at most 45 keys of its own, answers and corrections
         // included; more means it no longer ends.
         for (int step = 0; round.inPlay(); ++step) {
@@ -121,18 +121,18 @@ int main(int argc, char** argv) {
                 return 1;
             }
             if (coin(0.03)) {
-                round.BotonRespuesta();
+                round.toggleAnswerBox();
                 const std::string right = toUtf8(round.board().answerText());
                 round.setAnswerBoxText(coin(0.5) ? right : right + "X");
-                round.cmdOk();
+                round.submitAnswer();
                 if (round.answerBoxOpen()) {
-                    round.BotonRespuesta();
+                    round.toggleAnswerBox();
                 }
             } else if (coin(0.04)) {
-                board->keyTyped(QlvsModel::WindowKey::Delete);
+                board->keyTyped(BoardModel::WindowKey::Delete);
             } else {
                 board->keyTyped(
-                    QlvsModel::WindowKey::Character,
+                    BoardModel::WindowKey::Character,
                     kKeys[static_cast<std::size_t>(pick(static_cast<int>(kKeys.size())))]);
             }
         }
@@ -147,10 +147,10 @@ int main(int argc, char** argv) {
                 board->switchSession(pick(4));
             }
             ++switches;
-            board = std::make_unique<QlvsModel>(shared, dialogs, random, lookUp);
+            board = std::make_unique<BoardModel>(shared, dialogs, random, lookUp);
             board->load();
         }
-        if (!std::filesystem::exists(shared.currentSession().Archivo)) {
+        if (!std::filesystem::exists(shared.currentSession().filePath)) {
             std::fprintf(stderr, "game %ld: the user's file is missing\n", game);
             return 1;
         }

@@ -20,7 +20,7 @@ std::string aboutText() {
            "libsndfile y alsa-lib: GNU LGPL 2.1 o posterior";
 }
 
-void eAbout(Dialogs& dialogs) {
+void showAbout(Dialogs& dialogs) {
     dialogs.about(std::string(kAppTitle), aboutText());
 }
 

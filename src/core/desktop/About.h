@@ -12,7 +12,7 @@ class Dialogs;
 // licence and the free fonts and libraries the game carries with theirs.
 std::string aboutText();
 
-// eAbout: the menu's legend and the board's "Acerca".
-void eAbout(Dialogs& dialogs);
+// showAbout: the menu's legend and the board's "Acerca".
+void showAbout(Dialogs& dialogs);
 
 } // namespace quillora

@@ -58,13 +58,13 @@ bool WebLookUp::online(const char* message) {
     return false;
 }
 
-void WebLookUp::mWhat(std::string_view text, bool usarEnciclopedia) {
+void WebLookUp::openLookUp(std::string_view text, bool useEncyclopedia) {
     if (online(kNoNetwork)) {
-        m_web.openUrl(lookUpUrl(text, usarEnciclopedia, m_endpoints));
+        m_web.openUrl(lookUpUrl(text, useEncyclopedia, m_endpoints));
     }
 }
 
-void WebLookUp::eHelp() {
+void WebLookUp::openHelp() {
     // The page that comes with the game reads without a network.
     if (!isWebAddress(m_endpoints.help) || online(kNoNetwork)) {
         m_web.openUrl(m_endpoints.help);

@@ -46,10 +46,10 @@ class WebLookUp {
 public:
     WebLookUp(NetworkCheck& network, Web& web, Dialogs& dialogs, Endpoints endpoints);
 
-    // mWhat: the text, already in small letters.
-    void mWhat(std::string_view text, bool usarEnciclopedia);
-    // eHelp: F1 and "Ayuda".
-    void eHelp();
+    // openLookUp: the text, already in small letters.
+    void openLookUp(std::string_view text, bool useEncyclopedia);
+    // openHelp: F1 and "Ayuda".
+    void openHelp();
     // "DESCARGAR": true when the download was handed to the browser.
     bool downloadFont();
 

@@ -23,9 +23,9 @@ bool isVowelKey(int key) {
 
 } // namespace
 
-CellLook ApplyLetterStyle(const Settings& s, int cell) {
-    const Rgb line = s.lineaBlanca ? kWhite : kBlack;
-    switch (s.estilo) {
+CellLook styledCell(const Settings& s, int cell) {
+    const Rgb line = s.whiteLines ? kWhite : kBlack;
+    switch (s.letterStyle) {
     case 1:
         return CellLook{kWhite, false, kBlack, line};
     case 2:
@@ -36,20 +36,20 @@ CellLook ApplyLetterStyle(const Settings& s, int cell) {
     case 4:
         return CellLook{kWhite, false, kInkBlue, kInkBlue};
     default:
-        return CellLook{kWhite, s.letraOpaca, s.letraBlanca ? kWhite : kBlack, line};
+        return CellLook{kWhite, s.opaqueLetters, s.whiteLetters ? kWhite : kBlack, line};
     }
 }
 
 CellLook phraseLabelLook(const Settings& s, const CellLook& before) {
-    return s.estilo == 2 ? before : ApplyLetterStyle(s, 1);
+    return s.letterStyle == 2 ? before : styledCell(s, 1);
 }
 
 Rgb missColour(const Settings& s, const Palette& palette) {
-    return s.estilo == 2 ? kNearWhite : palette.redLamp;
+    return s.letterStyle == 2 ? kNearWhite : palette.redLamp;
 }
 
 Rgb windowBackground(const Settings& s) {
-    if (s.lineaBlanca || (s.letraBlanca && s.estilo != 3)) {
+    if (s.whiteLines || (s.whiteLetters && s.letterStyle != 3)) {
         return kLightBlueBackground;
     }
     return kNearWhite;
@@ -66,7 +66,7 @@ LampColours lampColours(Lamp lamp, const Palette& palette) {
     case Lamp::None:
         break;
     }
-    return {palette.gameColour, eColor(palette.gameColour)};
+    return {palette.gameColour, shadeOf(palette.gameColour)};
 }
 
 Rgb keyRestColour(int key) {

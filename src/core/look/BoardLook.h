@@ -19,7 +19,7 @@ struct CellLook {
 };
 
 // The letter style and flags applied to cell 1..42 of the board.
-CellLook ApplyLetterStyle(const Settings& settings, int cell);
+CellLook styledCell(const Settings& settings, int cell);
 
 // The label that holds the whole hidden phrase takes the cells' look,
 // except in "Colorido", whose colours belong to single cells: there it keeps

@@ -10,7 +10,7 @@ int shadeComponent(int c) {
 }
 } // namespace
 
-Rgb eColor(Rgb gameColour) {
+Rgb shadeOf(Rgb gameColour) {
     // Split from the packed value, as the colour is stored, so a colour read
     // from a file behaves exactly like one picked on screen.
     const Rgb split = Rgb::fromPacked(gameColour.packed());

@@ -52,6 +52,6 @@ struct Palette {
 
 // The derived shade used for lines and counters: each component above 30 is
 // lowered by 30, each of 30 or less raised by 30.
-Rgb eColor(Rgb gameColour);
+Rgb shadeOf(Rgb gameColour);
 
 } // namespace quillora

@@ -21,7 +21,7 @@ void setUpRoster(SharedState& shared, bool multiplayer, int rosterSize) {
     shared.playerCount = roster.rosterSize;
 }
 
-void eNext(SharedState& shared) {
+void passTurn(SharedState& shared) {
     if (freeTurnOn(shared)) {
         return;
     }
@@ -32,7 +32,7 @@ void eNext(SharedState& shared) {
     }
 }
 
-void adelantar(SharedState& shared) {
+void moveTurnForward(SharedState& shared) {
     if (freeTurnOn(shared)) {
         return;
     }
@@ -43,7 +43,7 @@ void adelantar(SharedState& shared) {
     }
 }
 
-void atrasar(SharedState& shared) {
+void moveTurnBack(SharedState& shared) {
     if (freeTurnOn(shared)) {
         return;
     }
@@ -67,7 +67,7 @@ void toggleFreeTurn(SharedState& shared) {
     on = !on;
 }
 
-void MoveAuthorLast(SharedState& shared) {
+void moveAuthorLast(SharedState& shared) {
     auto& names = shared.current().playerNames;
     const int author = shared.roster.currentPlayer;
     const int last = std::min(shared.playerCount, kMaxPlayers);
@@ -90,9 +90,9 @@ std::string playerName(const SharedState& shared, int position) {
     return shared.current().playerNames[static_cast<std::size_t>(position - 1)];
 }
 
-PlayerLabel ePlayerName(SharedState& shared, const std::string& currentCaption) {
-    if (shared.settings.nombre.empty()) {
-        shared.settings.nombre = kDefaultUserName;
+PlayerLabel playerLabelFor(SharedState& shared, const std::string& currentCaption) {
+    if (shared.settings.userName.empty()) {
+        shared.settings.userName = kDefaultUserName;
     }
     PlayerLabel label;
     const int position = shared.roster.currentPlayer;
@@ -100,7 +100,7 @@ PlayerLabel ePlayerName(SharedState& shared, const std::string& currentCaption) 
         // Nobody's turn is tracked, so no name may replace the notice.
         label.caption = kFreeTurnCaption;
     } else if (position == 1 && !shared.multiplayer) {
-        label.caption = shared.settings.nombre;
+        label.caption = shared.settings.userName;
     } else if (position >= 1 && position <= kMaxPlayers) {
         label.caption = playerName(shared, position);
     } else {

@@ -11,7 +11,7 @@ struct SharedState;
 inline constexpr const char* kFreeTurnCaption = "Turno libre";
 inline constexpr const char* kDefaultUserName = "Quillora VS";
 
-// What the board's player labels show: the caption of lblPlayer1 and the
+// What the board's player labels show: the caption of the first player label and the
 // tooltip of both labels.
 struct PlayerLabel {
     std::string caption;
@@ -24,12 +24,12 @@ void setUpRoster(SharedState& shared, bool multiplayer, int rosterSize);
 
 // After every letter played: the turn goes round the guessers only, since
 // the one who wrote a friend's phrase sits last and does not guess it.
-void eNext(SharedState& shared);
+void passTurn(SharedState& shared);
 
 // "Adelantar" and "Atrasar" of the board's turn menu: these go round every
 // player, writer included.
-void adelantar(SharedState& shared);
-void atrasar(SharedState& shared);
+void moveTurnForward(SharedState& shared);
+void moveTurnBack(SharedState& shared);
 bool turnMovesEnabled(const SharedState& shared);
 
 // "Turno libre" of the turn menu, kept for the current session slot.
@@ -38,13 +38,13 @@ void toggleFreeTurn(SharedState& shared);
 
 // The player who wrote the phrase goes to the end of the order, so the
 // guessers are the positions before.
-void MoveAuthorLast(SharedState& shared);
+void moveAuthorLast(SharedState& shared);
 
 // The name of the position 1..9 in the current session slot ("" outside).
 std::string playerName(const SharedState& shared, int position);
 
 // The label of the player whose turn it is. A caption for a position outside
 // 1..9 stays what it was, hence `currentCaption`.
-PlayerLabel ePlayerName(SharedState& shared, const std::string& currentCaption);
+PlayerLabel playerLabelFor(SharedState& shared, const std::string& currentCaption);
 
 } // namespace quillora

@@ -26,7 +26,7 @@ constexpr std::array<PartStart, 8> kDrawnFrom{{{Figure::Head, 1},
 
 } // namespace
 
-void Figure::Muneco() {
+void Figure::reset() {
     m_visible.fill(false);
     m_visible[Trapdoor] = true;
     m_head = {1440, 1440, 735, 615};

@@ -57,11 +57,11 @@ public:
         PartCount
     };
 
-    Figure() { Muneco(); }
+    Figure() { reset(); }
 
     // Back to the initial geometry, face "- -", every part of the figure
     // hidden; the trapdoor stays.
-    void Muneco();
+    void reset();
     // Shows what `strikes` strikes have drawn, the panic at 7 and the
     // hanging at 8.
     void draw(int strikes);

@@ -70,7 +70,7 @@ char32_t keyLetter(int key) {
     return 0;
 }
 
-int Verificar_Tecla(int keyCode, bool boxHasText) {
+int filterAnswerKey(int keyCode, bool boxHasText) {
     if (keyCode == 8) {
         return keyCode;
     }

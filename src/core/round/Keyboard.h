@@ -45,7 +45,7 @@ char32_t keyLetter(int key);
 // The filter of the answer box: the typed character code comes back when it
 // may go in, 0 when it is swallowed. A space is only let in after some text,
 // and backspace (8) always.
-int Verificar_Tecla(int keyCode, bool boxHasText);
+int filterAnswerKey(int keyCode, bool boxHasText);
 
 // What a key typed on the computer's keyboard does while a game is in play.
 enum class KeyAction { None, Guess, ToggleAnswer, ToggleDigits };

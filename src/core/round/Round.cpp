@@ -50,18 +50,18 @@ bool answerCharAllowed(char32_t c) {
 Round::Round(SharedState& shared, Dialogs& dialogs, Random& random, RoundEvents* events)
     : m_shared(shared), m_dialogs(dialogs), m_random(random),
       m_events(events ? *events : m_noEvents) {
-    m_catalogue.WordBankInit();
+    m_catalogue.initDrawRanges();
     // The listener may not be built yet: the board's first reset tells it
     // nothing.
     resetBoard();
 }
 
 bool Round::pointsCount() const {
-    return !m_shared.multiplayer && m_shared.settings.sistemaPuntos;
+    return !m_shared.multiplayer && m_shared.settings.pointsSystem;
 }
 
 void Round::requestSound(int number) {
-    m_sound.request(number, m_shared.settings.sonidos);
+    m_sound.request(number, m_shared.settings.sounds);
 }
 
 void Round::light(Lamp lamp) {
@@ -82,7 +82,7 @@ void Round::tickStatus() {
     if (m_status.rfind(kPlaying, 0) != 0) {
         return;
     }
-    if (!m_shared.settings.animacion) {
+    if (!m_shared.settings.animated) {
         m_status = kPlaying;
         return;
     }
@@ -92,22 +92,22 @@ void Round::tickStatus() {
 
 // --- starting and resetting ------------------------------------------------------
 
-GameStart Round::cmdGame() {
+GameStart Round::pressPlay() {
     const bool underWay = !m_state.manyErrors && !m_state.waitingForPhrase && !m_state.over;
     if (underWay && !m_dialogs.yesNo(kLeaveQuestion)) {
         return GameStart::Nothing;
     }
-    return eGame();
+    return play();
 }
 
-GameStart Round::eGame() {
+GameStart Round::play() {
     if (m_playCaption == kNewGame) {
         if (!m_events.scoreCounting()) {
-            eMenuNew();
+            clearBoard();
         }
         return GameStart::Nothing;
     }
-    if (!m_shared.multiplayer && m_shared.settings.supervivencia && m_shared.survivalPoints <= 0) {
+    if (!m_shared.multiplayer && m_shared.settings.survival && m_shared.survivalPoints <= 0) {
         m_dialogs.message(Dialogs::Icon::Exclamation,
                           "Reinicia el juego o consigue puntos para volver a jugar en este modo.",
                           "No puedes jugar sin puntos");
@@ -116,23 +116,23 @@ GameStart Round::eGame() {
     if (m_shared.multiplayer) {
         return GameStart::FriendWindow;
     }
-    if (!m_shared.settings.fraseAutomatica) {
+    if (!m_shared.settings.autoPhrase) {
         return GameStart::ThemeWindow;
     }
     if (m_shared.tourPosition >= 1) {
-        DrawTourPhrase();
+        drawTourPhrase();
     } else {
-        BotonTema();
-        eOther();
-        eOk();
+        prepareThemeWindow();
+        drawThemeAndPhrase();
+        layDrawnPhrase();
     }
     return GameStart::Started;
 }
 
-void Round::BotonTema() {
+void Round::prepareThemeWindow() {
     m_randomTheme = markedThemes(m_shared.current()) > 1;
-    m_catalogue.ThemeLoad();
-    m_word2ThemeLabel = m_randomTheme ? "????" : m_catalogue.themeName(m_shared.settings.tema);
+    m_catalogue.loadThemeNames();
+    m_themeWindowLabel = m_randomTheme ? "????" : m_catalogue.themeName(m_shared.settings.theme);
 }
 
 int Round::drawPhraseNumber() {
@@ -143,8 +143,8 @@ int Round::drawPhraseNumber() {
     return number;
 }
 
-void Round::eOther() {
-    m_catalogue.WordBankInit();
+void Round::drawThemeAndPhrase() {
+    m_catalogue.initDrawRanges();
     if (m_randomTheme) {
         const auto& selected = m_shared.current().selectedThemes;
         m_gameTheme = m_random.drawHalfRange(m_catalogue.themeDrawRange());
@@ -156,25 +156,25 @@ void Round::eOther() {
             }
         }
     } else {
-        m_gameTheme = m_shared.settings.tema;
+        m_gameTheme = m_shared.settings.theme;
     }
     m_phraseNumber = drawPhraseNumber();
-    m_catalogue.PhraseLoad(m_gameTheme);
+    m_catalogue.loadPhrases(m_gameTheme);
     m_drawnPhrase = m_catalogue.phrase(m_phraseNumber + 1);
-    m_gameThemeName = m_word2ThemeLabel;
+    m_gameThemeName = m_themeWindowLabel;
 }
 
-void Round::eOk() {
+void Round::layDrawnPhrase() {
     layCataloguePhrase(true);
 }
 
-void Round::DrawTourPhrase() {
-    m_catalogue.ThemeLoad();
+void Round::drawTourPhrase() {
+    m_catalogue.loadThemeNames();
     m_gameThemeName = m_catalogue.themeName(m_shared.tourPosition);
-    m_catalogue.WordBankInit();
+    m_catalogue.initDrawRanges();
     m_gameTheme = m_shared.tourPosition;
     m_phraseNumber = drawPhraseNumber();
-    m_catalogue.PhraseLoad(m_gameTheme);
+    m_catalogue.loadPhrases(m_gameTheme);
     m_drawnPhrase = m_catalogue.phrase(m_phraseNumber + 1);
     layCataloguePhrase(false);
 }
@@ -192,18 +192,18 @@ void Round::layCataloguePhrase(bool mayStartAuto) {
 }
 
 void Round::switchAutoOn() {
-    m_shared.settings.fraseAutomatica = true;
+    m_shared.settings.autoPhrase = true;
 }
 
 bool Round::autoMarkerVisible() const {
-    return m_shared.settings.fraseAutomatica;
+    return m_shared.settings.autoPhrase;
 }
 
-void Round::eMenuAuto() {
-    if (!m_shared.settings.fraseAutomatica) {
+void Round::toggleAutoPhrase() {
+    if (!m_shared.settings.autoPhrase) {
         switchAutoOn();
     } else {
-        m_shared.settings.fraseAutomatica = false;
+        m_shared.settings.autoPhrase = false;
         endTour(m_shared);
     }
     m_autoCaption = "A";
@@ -220,7 +220,7 @@ void Round::startTour() {
     m_events.titleChanged();
     showTourMarker();
     m_events.settingsChanged();
-    DrawTourPhrase();
+    drawTourPhrase();
 }
 
 void Round::showTourMarker() {
@@ -237,10 +237,10 @@ void Round::startPhrase(const std::string& phrase, int theme, const std::string&
     m_status = kPlaying + "...";
     m_themeLabel = themeLabel;
     m_newGameEnabled = true;
-    LayPhrase();
+    layPendingPhrase();
 }
 
-void Round::LayPhrase() {
+void Round::layPendingPhrase() {
     if (!m_board.lay(m_pendingPhrase, m_pendingLetterTotal)) {
         return;
     }
@@ -252,7 +252,7 @@ void Round::LayPhrase() {
     m_events.phraseLaid();
 }
 
-void Round::eMenuNew() {
+void Round::clearBoard() {
     if (m_state.manyErrors) {
         m_dialogs.exclamation("Tienes bastantes errores, termina el juego.");
         return;
@@ -263,11 +263,11 @@ void Round::eMenuNew() {
     m_board.clear();
     m_state.strikeSlots.fill("");
     m_status = kNewGame;
-    m_figure.Muneco();
-    BotonNuevo();
+    m_figure.reset();
+    startNewBoard();
 }
 
-void Round::BotonNuevo() {
+void Round::startNewBoard() {
     resetBoard();
     // The title of the game just ended said what it was worth.
     m_events.titleChanged();
@@ -285,7 +285,7 @@ void Round::resetBoard() {
     closeAnswerBox();
     m_board.lay(U"", 0);
     m_state.over = false;
-    m_queEsEsoVisible = false;
+    m_lookUpVisible = false;
     m_state.waitingForPhrase = true;
     m_state.correctionUsed = false;
     m_state.hit = false;
@@ -307,7 +307,7 @@ void Round::typeKey(char32_t typed) {
         guess(key.letter);
         break;
     case KeyAction::ToggleAnswer:
-        BotonRespuesta();
+        toggleAnswerBox();
         break;
     case KeyAction::ToggleDigits:
         showDigitPanel(!m_digitPanelVisible);
@@ -324,7 +324,7 @@ void Round::clickKey(int key) {
     if (key >= 1 && key <= 37) {
         guess(keyLetter(key));
     } else if (key == kWriteKey) {
-        BotonRespuesta();
+        toggleAnswerBox();
     } else {
         showDigitPanel(key == kDigitPanelKey);
     }
@@ -335,27 +335,27 @@ void Round::guess(char32_t letter) {
         return;
     }
     m_state.guessedLetter = letter;
-    BotonIntro();
+    playGuessedLetter();
 }
 
-void Round::BotonReLetra() {
+void Round::checkAlreadyTried() {
     m_state.alreadyTried = m_board.alreadyTried(m_state.guessedLetter);
 }
 
-void Round::BotonIntro() {
+void Round::playGuessedLetter() {
     m_state.hit = false;
-    BotonReLetra();
+    checkAlreadyTried();
     if (m_state.alreadyTried) {
-        LuzAmarilla();
+        lightYellowLamp();
         m_state.alreadyTried = false;
         return;
     }
     m_state.hit = m_board.reveal(m_state.guessedLetter);
-    BotonStrike();
-    BotonWin();
+    recordMiss();
+    checkWin();
 }
 
-void Round::BotonStrike() {
+void Round::recordMiss() {
     if (!m_state.hit) {
         for (int n = 1; n <= RoundState::kSlots; ++n) {
             if (m_state.slot(n).empty()) {
@@ -369,29 +369,29 @@ void Round::BotonStrike() {
             requestSound(kSoundLost);
         } else if (m_state.strikeCount == kPanicStrikes) {
             requestSound(kSoundWarning);
-            LuzRoja();
+            lightRedLamp();
         } else {
             requestSound(kSoundStrike);
-            LuzRoja();
+            lightRedLamp();
         }
     } else if (!m_board.complete()) {
         // The letter that completes the phrase leaves the sound to the win.
         requestSound(kSoundRight);
-        LuzVerde();
+        lightGreenLamp();
     }
-    BotonFigura();
+    advanceFigure();
 }
 
-void Round::BotonFigura() {
+void Round::advanceFigure() {
     const int strikes = m_state.strikeCount;
     m_figure.draw(strikes);
-    m_state.manyErrors = strikes >= kManyErrorsStrikes && m_shared.settings.sistemaPuntos;
+    m_state.manyErrors = strikes >= kManyErrorsStrikes && m_shared.settings.pointsSystem;
     if (strikes < kDeathStrikes) {
         return;
     }
     m_events.countdownStopped();
     endRound("¡MUERTO!");
-    LuzRoja();
+    lightRedLamp();
     m_deathColours = true;
     m_board.showMissed();
     m_designEnabled = false;
@@ -408,11 +408,11 @@ void Round::endRound(const std::string& caption) {
     m_state.over = true;
     // Every game ends under its theme's own name; a friend's phrase has
     // none, and shows the catalogue's "no theme".
-    m_catalogue.ThemeLoad();
+    m_catalogue.loadThemeNames();
     m_themeLabel = m_catalogue.themeName(m_gameTheme);
     m_events.roundEnded(toUtf8(m_board.answerText()));
     advanceTour();
-    m_queEsEsoVisible = true;
+    m_lookUpVisible = true;
     m_state.manyErrors = false;
 }
 
@@ -422,7 +422,7 @@ void Round::advanceTour() {
     }
 }
 
-void Round::BotonWin() {
+void Round::checkWin() {
     m_events.nextTurn();
     if (m_state.over || !m_board.complete()) {
         return;
@@ -431,7 +431,7 @@ void Round::BotonWin() {
     requestSound(kSoundWon);
     m_events.countdownStopped();
     m_figure.calm();
-    LuzVerde();
+    lightGreenLamp();
     if (pointsCount()) {
         m_events.roundWon();
     }
@@ -445,7 +445,7 @@ void Round::closeAnswerBox() {
     m_answerText.clear();
 }
 
-void Round::BotonRespuesta() {
+void Round::toggleAnswerBox() {
     if (m_answerBoxOpen) {
         closeAnswerBox();
     } else {
@@ -454,7 +454,7 @@ void Round::BotonRespuesta() {
     }
 }
 
-bool Round::cmdOk() {
+bool Round::submitAnswer() {
     if (!m_answerBoxOpen || !inPlay()) {
         return false;
     }
@@ -478,23 +478,23 @@ bool Round::cmdOk() {
     if (!inPlay()) {
         return true;
     }
-    Comparar();
+    compareAnswer();
     return true;
 }
 
-void Round::Comparar() {
+void Round::compareAnswer() {
     if (toU32(m_answerText) == m_board.answerText()) {
         if (m_board.revealedCount() < m_board.letterTotal() / 2.0) {
             m_state.earlyAnswerBonus = true;
             m_state.strikeSlots.fill("");
         }
         m_board.revealAll();
-        BotonWin();
+        checkWin();
     } else {
         fillEmptySlots();
         requestSound(kSoundLost);
         m_state.strikeCount = kDeathStrikes;
-        BotonFigura();
+        advanceFigure();
     }
     closeAnswerBox();
 }
@@ -515,7 +515,7 @@ void Round::timeUp() {
     requestSound(kSoundLost);
     m_events.countdownStopped();
     m_state.strikeCount = kDeathStrikes;
-    BotonFigura();
+    advanceFigure();
 }
 
 // --- the strike correction --------------------------------------------------------------
@@ -532,7 +532,7 @@ std::string Round::correctionQuestion(int correctionsLeft) {
            "para corregir en todo el juego. ¿Deseas usar una?";
 }
 
-void Round::eBackStrike() {
+void Round::takeBackStrike() {
     if (!correctionOffered()) {
         return;
     }
@@ -549,8 +549,8 @@ void Round::eBackStrike() {
                 break;
             }
         }
-        m_figure.Muneco();
-        BotonFigura();
+        m_figure.reset();
+        advanceFigure();
         if (m_shared.correctionsLeft == 2) {
             m_dialogs.information(
                 "Has usado una de tus correcciones, para usar otra tienes que jugar otra partida.");
@@ -561,7 +561,7 @@ void Round::eBackStrike() {
 
 // --- leaving ----------------------------------------------------------------------------
 
-bool Round::eMenuBack() {
+bool Round::backToMenu() {
     if (m_state.manyErrors) {
         m_dialogs.exclamation("Tiene bastantes errores, termine la partida.");
         return false;

@@ -46,8 +46,8 @@ public:
 enum class GameStart {
     Nothing,      // refused, asked and declined, or the board was only cleared
     Started,      // a phrase is laid and the game is on
-    ThemeWindow,  // the player's phrase window must open (frmWord2)
-    FriendWindow, // a friend types the phrase (frmWord1)
+    ThemeWindow,  // the player's phrase window must open (ThemeWindow)
+    FriendWindow, // a friend types the phrase (FriendPhraseWindow)
 };
 
 // One game of hangman on the board: guessing, strikes, the figure, the whole
@@ -57,34 +57,34 @@ public:
     Round(SharedState& shared, Dialogs& dialogs, Random& random, RoundEvents* events = nullptr);
 
     // --- starting and resetting ---------------------------------------------
-    // The play button: asks before abandoning a game under way, then eGame.
-    GameStart cmdGame();
-    GameStart eGame();
+    // The play button: asks before abandoning a game under way, then play.
+    GameStart pressPlay();
+    GameStart play();
     // Clears the board for the next game; refused with many errors.
-    void eMenuNew();
+    void clearBoard();
     // Back to a neutral board, waiting for a phrase.
-    void BotonNuevo();
+    void startNewBoard();
     // Lays a phrase as the game of `theme`, shown under `themeLabel`.
     void startPhrase(const std::string& phrase, int theme, const std::string& themeLabel);
-    void LayPhrase();
+    void layPendingPhrase();
 
     // --- the player's phrase window and the automatic phrase ----------------------
     // Whether several themes are selected, and the theme the window shows.
-    void BotonTema();
+    void prepareThemeWindow();
     // Draws the theme and the phrase of the next game.
-    void eOther();
+    void drawThemeAndPhrase();
     // Lays the drawn phrase; two games of one theme in a row switch the
     // automatic phrase on.
-    void eOk();
-    void DrawTourPhrase();
+    void layDrawnPhrase();
+    void drawTourPhrase();
     // "Tour temático": the automatic phrase walks every theme from the
     // first, and the first game of the tour starts at once.
     void startTour();
     // The automatic-phrase marker reads "T" while a tour runs.
     void showTourMarker();
-    void eMenuAuto();
+    void toggleAutoPhrase();
     bool randomTheme() const { return m_randomTheme; }
-    const std::string& word2ThemeLabel() const { return m_word2ThemeLabel; }
+    const std::string& themeWindowLabel() const { return m_themeWindowLabel; }
     const std::string& drawnPhrase() const { return m_drawnPhrase; }
     bool autoMarkerVisible() const;
     const std::string& autoMarkerCaption() const { return m_autoCaption; }
@@ -98,31 +98,31 @@ public:
     // A click on key 0..39 of the on-screen keyboard.
     void clickKey(int key);
     void guess(char32_t letter);
-    void BotonIntro();
+    void playGuessedLetter();
 
     // --- the whole answer -----------------------------------------------------
-    void BotonRespuesta();
+    void toggleAnswerBox();
     bool answerBoxOpen() const { return m_answerBoxOpen; }
     const std::string& answerBoxText() const { return m_answerText; }
     void setAnswerBoxText(std::string text) { m_answerText = std::move(text); }
     bool answerOkEnabled() const { return !m_answerText.empty(); }
     // OK of the answer box: false when the box stays open for more typing.
-    bool cmdOk();
+    bool submitAnswer();
 
     // --- the strike correction --------------------------------------------------
     bool correctionOffered() const;
-    void eBackStrike();
+    void takeBackStrike();
     static std::string correctionQuestion(int correctionsLeft);
 
     // --- leaving ----------------------------------------------------------------
     // True when the board may go back to the menu.
-    bool eMenuBack();
+    bool backToMenu();
 
     // --- timers -------------------------------------------------------------------
-    // tmrStrike: the lamp goes back to the game colour while the game is on.
+    // The lamp goes back to the game colour while the game is on.
     void tickLamp();
     bool lampTimerRunning() const { return m_lampTimerRunning; }
-    // tmrSusp: the dots of "JUGANDO".
+    // The dots of "JUGANDO".
     void tickStatus();
     // The dots only move while a game is played: no other caption animates.
     bool statusTimerRunning() const { return m_status.rfind("JUGANDO", 0) == 0; }
@@ -144,7 +144,7 @@ public:
     const std::string& themeLabel() const { return m_themeLabel; }
     bool counterVisible() const { return m_counterVisible; }
     bool digitPanelVisible() const { return m_digitPanelVisible; }
-    bool queEsEsoVisible() const { return m_queEsEsoVisible; }
+    bool lookUpVisible() const { return m_lookUpVisible; }
     bool newGameEnabled() const { return m_newGameEnabled; }
     bool designEnabled() const { return m_designEnabled; }
     Lamp lamp() const { return m_lamp; }
@@ -156,20 +156,20 @@ public:
 
 private:
     void resetBoard();
-    void BotonReLetra();
-    void BotonStrike();
-    void BotonFigura();
-    void BotonWin();
-    void Comparar();
+    void checkAlreadyTried();
+    void recordMiss();
+    void advanceFigure();
+    void checkWin();
+    void compareAnswer();
     // A death that does not come from a wrong letter takes every strike left.
     void fillEmptySlots();
     void endRound(const std::string& caption);
     void closeAnswerBox();
     void showDigitPanel(bool shown) { m_digitPanelVisible = shown; }
     void light(Lamp lamp);
-    void LuzAmarilla() { light(Lamp::Yellow); }
-    void LuzVerde() { light(Lamp::Green); }
-    void LuzRoja() { light(Lamp::Red); }
+    void lightYellowLamp() { light(Lamp::Yellow); }
+    void lightGreenLamp() { light(Lamp::Green); }
+    void lightRedLamp() { light(Lamp::Red); }
     void requestSound(int number);
     bool pointsCount() const;
     int drawPhraseNumber();
@@ -196,7 +196,7 @@ private:
     int m_phraseNumber = 0;
 
     bool m_randomTheme = false;
-    std::string m_word2ThemeLabel;
+    std::string m_themeWindowLabel;
     std::string m_drawnPhrase;
     std::string m_autoCaption = "A";
     std::string m_autoTooltip = " Desactivar la frase automática. ";
@@ -208,7 +208,7 @@ private:
     bool m_answerBoxOpen = false;
     bool m_counterVisible = false;
     bool m_digitPanelVisible = false;
-    bool m_queEsEsoVisible = false;
+    bool m_lookUpVisible = false;
     bool m_newGameEnabled = false;
     bool m_designEnabled = true;
     bool m_deathColours = false;

@@ -30,8 +30,8 @@ int roundHalfEven16(double value) {
     return static_cast<int>(rounded);
 }
 
-int winPoints(int revealed, int strikes, bool masPuntosNegativos) {
-    const int divisor = 1 + (masPuntosNegativos ? 2 : 1) * strikes;
+int winPoints(int revealed, int strikes, bool moreNegativePoints) {
+    const int divisor = 1 + (moreNegativePoints ? 2 : 1) * strikes;
     return roundHalfEven16(100.0 * revealed / divisor);
 }
 
@@ -39,30 +39,30 @@ int withHalfBonus(int points) {
     return roundHalfEven16(points / 2.0 + points);
 }
 
-int lossPoints(int revealed, int total, bool masPuntosNegativos) {
-    const double full = masPuntosNegativos ? 2000 : 1000;
+int lossPoints(int revealed, int total, bool moreNegativePoints) {
+    const double full = moreNegativePoints ? 2000 : 1000;
     return roundHalfEven16(full - full * revealed / total);
 }
 
-std::string eTitle(const Settings& s, bool severalPlayers) {
+std::string boardTitle(const Settings& s, bool severalPlayers) {
     std::string title(kAppTitle);
     if (severalPlayers) {
         return title;
     }
-    if (s.sistemaPuntos) {
-        if (!s.supervivencia && !s.masPuntosNegativos) {
+    if (s.pointsSystem) {
+        if (!s.survival && !s.moreNegativePoints) {
             title += " | Puntos";
         }
-        if (s.supervivencia) {
+        if (s.survival) {
             title += " | Supervivencia";
         }
-        if (s.masPuntosNegativos) {
+        if (s.moreNegativePoints) {
             title += " | -Puntos";
         }
     }
-    if (s.contratiempo == 1) {
+    if (s.countdown == 1) {
         title += " | Tiempo";
-    } else if (s.contratiempo == 2) {
+    } else if (s.countdown == 2) {
         title += " | -Tiempo";
     }
     return title;
@@ -74,15 +74,15 @@ Scoring::Scoring(SharedState& shared, Dialogs& dialogs) : m_shared(shared), m_di
 }
 
 double& Scoring::accountInUse() {
-    return m_shared.settings.supervivencia ? m_shared.survivalPoints : m_shared.normalPoints;
+    return m_shared.settings.survival ? m_shared.survivalPoints : m_shared.normalPoints;
 }
 
 double Scoring::accountInUse() const {
-    return m_shared.settings.supervivencia ? m_shared.survivalPoints : m_shared.normalPoints;
+    return m_shared.settings.survival ? m_shared.survivalPoints : m_shared.normalPoints;
 }
 
 bool Scoring::pointsCount() const {
-    return m_shared.settings.sistemaPuntos && !m_shared.multiplayer && m_shared.playerCount <= 1;
+    return m_shared.settings.pointsSystem && !m_shared.multiplayer && m_shared.playerCount <= 1;
 }
 
 bool Scoring::severalPlayers() const {
@@ -90,12 +90,12 @@ bool Scoring::severalPlayers() const {
 }
 
 void Scoring::refreshTitle() {
-    m_title = eTitle(m_shared.settings, severalPlayers());
+    m_title = boardTitle(m_shared.settings, severalPlayers());
 }
 
 void Scoring::showAccount() {
     m_shown = accountInUse();
-    m_pulse = m_shared.settings.supervivencia && m_shown <= kPulseBelow;
+    m_pulse = m_shared.settings.survival && m_shown <= kPulseBelow;
 }
 
 bool Scoring::noPoints() const {
@@ -107,7 +107,7 @@ std::string Scoring::scoreLabel() const {
 }
 
 bool Scoring::giftOffered() const {
-    return pointsCount() && !m_shared.settings.supervivencia && m_shared.survivalPoints == 0 &&
+    return pointsCount() && !m_shared.settings.survival && m_shared.survivalPoints == 0 &&
            m_shared.normalPoints > 0 && !m_gifting;
 }
 
@@ -143,7 +143,7 @@ std::string Scoring::scoreText() const {
 }
 
 bool Scoring::survivalEmpty() const {
-    return m_shared.settings.supervivencia && scoreText() == "0";
+    return m_shared.settings.survival && scoreText() == "0";
 }
 
 void Scoring::scoreWin(int revealed, int strikes, bool& earlyAnswerBonus) {
@@ -151,7 +151,7 @@ void Scoring::scoreWin(int revealed, int strikes, bool& earlyAnswerBonus) {
         return;
     }
     m_shown = accountInUse();
-    int points = winPoints(revealed, strikes, m_shared.settings.masPuntosNegativos);
+    int points = winPoints(revealed, strikes, m_shared.settings.moreNegativePoints);
     std::string note;
     if (earlyAnswerBonus) {
         points = withHalfBonus(points);
@@ -177,11 +177,11 @@ void Scoring::scoreLoss(int revealed, int total) {
             onLossStatistics();
         }
         m_shown = accountInUse();
-        const int points = lossPoints(revealed, total, m_shared.settings.masPuntosNegativos);
+        const int points = lossPoints(revealed, total, m_shared.settings.moreNegativePoints);
         refreshTitle();
         m_title += " | -" + std::to_string(points);
         accountInUse() -= points;
-        if (m_shared.settings.supervivencia && m_shared.survivalPoints <= 0) {
+        if (m_shared.settings.survival && m_shared.survivalPoints <= 0) {
             m_shared.survivalPoints = 0;
         }
         m_upwardsAfterGift = false;
@@ -220,7 +220,7 @@ void Scoring::tick(int& strikeCount) {
         // count): settle at once instead of ticking for ever.
         m_shown = target;
     }
-    m_pulse = m_shared.settings.supervivencia && m_shown <= kPulseBelow;
+    m_pulse = m_shared.settings.survival && m_shown <= kPulseBelow;
 }
 
 } // namespace quillora

@@ -15,13 +15,13 @@ struct SharedState;
 // value; anything outside that range throws std::overflow_error.
 int roundHalfEven16(double value);
 
-int winPoints(int revealed, int strikes, bool masPuntosNegativos);
+int winPoints(int revealed, int strikes, bool moreNegativePoints);
 // The 50 % bonus of a whole answer given early.
 int withHalfBonus(int points);
-int lossPoints(int revealed, int total, bool masPuntosNegativos);
+int lossPoints(int revealed, int total, bool moreNegativePoints);
 
 // The board's title: the game's name and the modes in force.
-std::string eTitle(const Settings& settings, bool severalPlayers);
+std::string boardTitle(const Settings& settings, bool severalPlayers);
 
 // The points of the current user as the board shows them: the two accounts,
 // the score label counting towards the account in use, and the title that
@@ -62,7 +62,7 @@ public:
     // mode whose survival account is empty and whose normal one is not.
     bool giftOffered() const;
     // Moves the normal points into the survival account; the normal score
-    // then drains to 0 on screen, tick by tick (tmrGift).
+    // then drains to 0 on screen, tick by tick.
     void startGift();
     void tickGift();
     bool gifting() const { return m_gifting; }

@@ -11,26 +11,26 @@ namespace quillora {
 // The options of the current session, one per line of its configuration
 // file. The defaults are those of a fresh file.
 struct Settings {
-    std::string fondo;               // 1: background picture file
-    std::string carpetaFondo;        // 2: its folder
-    int estilo = 1;                  // 3: letter style 0..4
-    bool letraOpaca = false;         // 4
-    bool letraBlanca = false;        // 5
-    bool lineaBlanca = false;        // 6
-    bool tamanoReal = false;         // 7
-    bool sonidos = true;             // 8
-    bool fraseAutomatica = false;    // 9
-    bool animacion = false;          // 10
-    int tema = 1;                    // 11: theme number 1..50
-    bool sistemaPuntos = true;       // 12
-    bool supervivencia = false;      // 13
-    int contratiempo = 0;            // 14: 0 off, 1 countdown, 2 hard countdown
-    std::string nombre;              // 15: user name
-    bool usarEnciclopedia = false;   // 16
-    bool masPuntosNegativos = false; // 17
-    Rgb colorJuego = kDefaultBlue;   // 18
-    bool sinBotonJugar = false;      // 19
-    bool tecladoPermanente = false;  // 20
+    std::string backgroundPicture;   // 1: background picture file
+    std::string pictureFolder;       // 2: its folder
+    int letterStyle = 1;             // 3: letter style 0..4
+    bool opaqueLetters = false;      // 4
+    bool whiteLetters = false;       // 5
+    bool whiteLines = false;         // 6
+    bool realSize = false;           // 7
+    bool sounds = true;              // 8
+    bool autoPhrase = false;         // 9
+    bool animated = false;           // 10
+    int theme = 1;                   // 11: theme number 1..50
+    bool pointsSystem = true;        // 12
+    bool survival = false;           // 13
+    int countdown = 0;               // 14: 0 off, 1 countdown, 2 hard countdown
+    std::string userName;            // 15: user name
+    bool useEncyclopedia = false;    // 16
+    bool moreNegativePoints = false; // 17
+    Rgb gameColour = kDefaultBlue;   // 18
+    bool playButtonHidden = false;   // 19
+    bool keyboardKeptOpen = false;   // 20
 };
 
 } // namespace quillora

@@ -16,11 +16,11 @@ struct UserSession {
     std::string corrections;    // 4: strike corrections left
     std::string key;            // 5: the key that locked the session
     std::string locked;         // 6: "1" locked, "0" not
-    std::string Archivo;        // 7: full path of the configuration file
+    std::string filePath;       // 7: full path of the configuration file
     std::string displayName;    // 8
     std::string tour;           // 9: thematic tour position, "0" none
 
-    bool inUse() const { return !Archivo.empty(); }
+    bool inUse() const { return !filePath.empty(); }
 };
 
 } // namespace quillora

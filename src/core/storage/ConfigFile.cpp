@@ -37,14 +37,14 @@ constexpr int kThemeDrawRange = 100;
 
 // The lines that are not on/off options.
 enum Line : int {
-    kFondo = 1,
-    kCarpetaFondo = 2,
-    kEstilo = 3,
-    kFraseAutomatica = 9,
-    kTema = 11,
-    kContratiempo = 14,
-    kNombre = 15,
-    kColorJuego = 18,
+    kPictureLine = 1,
+    kPictureFolderLine = 2,
+    kLetterStyleLine = 3,
+    kAutoPhraseLine = 9,
+    kThemeLine = 11,
+    kCountdownLine = 14,
+    kUserNameLine = 15,
+    kGameColourLine = 18,
 };
 
 // The on/off options and their lines; loading and saving both go through
@@ -54,19 +54,19 @@ struct FlagLine {
     int line;
     Flag flag;
 };
-constexpr std::array<FlagLine, 13> kFlagLines{{{4, &Settings::letraOpaca},
-                                               {5, &Settings::letraBlanca},
-                                               {6, &Settings::lineaBlanca},
-                                               {7, &Settings::tamanoReal},
-                                               {8, &Settings::sonidos},
-                                               {kFraseAutomatica, &Settings::fraseAutomatica},
-                                               {10, &Settings::animacion},
-                                               {12, &Settings::sistemaPuntos},
-                                               {13, &Settings::supervivencia},
-                                               {16, &Settings::usarEnciclopedia},
-                                               {17, &Settings::masPuntosNegativos},
-                                               {19, &Settings::sinBotonJugar},
-                                               {20, &Settings::tecladoPermanente}}};
+constexpr std::array<FlagLine, 13> kFlagLines{{{4, &Settings::opaqueLetters},
+                                               {5, &Settings::whiteLetters},
+                                               {6, &Settings::whiteLines},
+                                               {7, &Settings::realSize},
+                                               {8, &Settings::sounds},
+                                               {kAutoPhraseLine, &Settings::autoPhrase},
+                                               {10, &Settings::animated},
+                                               {12, &Settings::pointsSystem},
+                                               {13, &Settings::survival},
+                                               {16, &Settings::useEncyclopedia},
+                                               {17, &Settings::moreNegativePoints},
+                                               {19, &Settings::playButtonHidden},
+                                               {20, &Settings::keyboardKeptOpen}}};
 
 std::string& line(SharedState& shared, int number) {
     return shared.configLines[static_cast<std::size_t>(number - 1)];
@@ -90,18 +90,17 @@ std::vector<std::string> linesOf(const Settings& s, bool keepAutomaticPhrase) {
     const auto at = [&lines](int number) -> std::string& {
         return lines[static_cast<std::size_t>(number - 1)];
     };
-    at(kFondo) = s.fondo;
-    at(kCarpetaFondo) = s.carpetaFondo;
-    at(kEstilo) = std::to_string(s.estilo);
+    at(kPictureLine) = s.backgroundPicture;
+    at(kPictureFolderLine) = s.pictureFolder;
+    at(kLetterStyleLine) = std::to_string(s.letterStyle);
     for (const FlagLine& f : kFlagLines) {
-        const bool on = f.line == kFraseAutomatica ? keepAutomaticPhrase : s.*f.flag;
+        const bool on = f.line == kAutoPhraseLine ? keepAutomaticPhrase : s.*f.flag;
         at(f.line) = on ? "1" : "0";
     }
-    at(kTema) = std::to_string(s.tema);
-    at(kContratiempo) =
-        std::to_string(s.contratiempo == 1 || s.contratiempo == 2 ? s.contratiempo : 0);
-    at(kNombre) = s.nombre;
-    at(kColorJuego) = std::to_string(s.colorJuego.packed());
+    at(kThemeLine) = std::to_string(s.theme);
+    at(kCountdownLine) = std::to_string(s.countdown == 1 || s.countdown == 2 ? s.countdown : 0);
+    at(kUserNameLine) = s.userName;
+    at(kGameColourLine) = std::to_string(s.gameColour.packed());
     return lines;
 }
 
@@ -381,24 +380,24 @@ fs::path sessionFilePath(const fs::path& folder, std::string_view userName) {
 }
 
 void clearForBoardLoad(SharedState& shared) {
-    line(shared, kFondo).clear();
-    line(shared, kCarpetaFondo).clear();
+    line(shared, kPictureLine).clear();
+    line(shared, kPictureFolderLine).clear();
     for (int n : {4, 5, 6, 7, 9, 10, 13, 14, 16, 17, 19, 20}) {
         line(shared, n) = "0";
     }
 }
 
-void DataLoad(SharedState& shared, Random& random) {
-    const auto lines = readConfigLines(shared.currentSession().Archivo);
+void readSessionFile(SharedState& shared, Random& random) {
+    const auto lines = readConfigLines(shared.currentSession().filePath);
     if (!lines) {
-        line(shared, kEstilo) = "1";
+        line(shared, kLetterStyleLine) = "1";
         line(shared, 8) = "1";
         line(shared, 12) = "1";
-        line(shared, kTema) = randomTheme(random);
+        line(shared, kThemeLine) = randomTheme(random);
         // The name and colour in use stay; at the first start they are the
         // fallbacks the main menu put in place when it could not read the file.
-        line(shared, kNombre) = shared.settings.nombre;
-        line(shared, kColorJuego) = std::to_string(shared.palette.gameColour.packed());
+        line(shared, kUserNameLine) = shared.settings.userName;
+        line(shared, kGameColourLine) = std::to_string(shared.palette.gameColour.packed());
         return;
     }
     for (int n = 1; n <= kConfigLines; ++n) {
@@ -407,31 +406,31 @@ void DataLoad(SharedState& shared, Random& random) {
     }
 }
 
-void ConfLoad(SharedState& shared) {
+void applyLineValues(SharedState& shared) {
     Settings& s = shared.settings;
-    s.fondo = line(shared, kFondo);
-    s.carpetaFondo = line(shared, kCarpetaFondo);
-    s.nombre = line(shared, kNombre);
-    shared.currentSession().displayName = s.nombre;
+    s.backgroundPicture = line(shared, kPictureLine);
+    s.pictureFolder = line(shared, kPictureFolderLine);
+    s.userName = line(shared, kUserNameLine);
+    shared.currentSession().displayName = s.userName;
 
-    const double style = number(shared, kEstilo);
-    s.estilo = style >= 1 && style <= 4 ? static_cast<int>(style) : 0;
+    const double style = number(shared, kLetterStyleLine);
+    s.letterStyle = style >= 1 && style <= 4 ? static_cast<int>(style) : 0;
     for (const FlagLine& f : kFlagLines) {
         s.*f.flag = number(shared, f.line) >= 1;
     }
-    const double countdown = number(shared, kContratiempo);
-    s.contratiempo = countdown == 1 ? 1 : countdown >= 2 ? 2 : 0;
+    const double countdown = number(shared, kCountdownLine);
+    s.countdown = countdown == 1 ? 1 : countdown >= 2 ? 2 : 0;
 
-    const double theme = number(shared, kTema);
+    const double theme = number(shared, kThemeLine);
     if (theme >= 1 && theme <= ThemeCatalogue::kThemes) {
-        s.tema = static_cast<int>(theme);
+        s.theme = static_cast<int>(theme);
     } else if (theme == 0) {
-        s.tema = 1;
+        s.theme = 1;
     }
-    s.colorJuego = colourFromLine(line(shared, kColorJuego), shared.palette.defaultBlue);
-    shared.palette.gameColour = s.colorJuego;
-    if (shared.themeChosen && s.tema >= 0 && s.tema < kThemeFlags) {
-        shared.current().selectedThemes[static_cast<std::size_t>(s.tema)] = true;
+    s.gameColour = colourFromLine(line(shared, kGameColourLine), shared.palette.defaultBlue);
+    shared.palette.gameColour = s.gameColour;
+    if (shared.themeChosen && s.theme >= 0 && s.theme < kThemeFlags) {
+        shared.current().selectedThemes[static_cast<std::size_t>(s.theme)] = true;
     }
 }
 
@@ -450,34 +449,33 @@ bool reportSave(SharedState& shared, Dialogs& dialogs, const std::string& path, 
     return false;
 }
 
-bool ConfSave(SharedState& shared, Dialogs& dialogs) {
-    return reportSave(shared, dialogs, shared.currentSession().Archivo, writeSettings(shared));
+bool saveSettings(SharedState& shared, Dialogs& dialogs) {
+    return reportSave(shared, dialogs, shared.currentSession().filePath, writeSettings(shared));
 }
 
 bool writeSettings(SharedState& shared) {
     Settings& s = shared.settings;
-    if (s.nombre.empty()) {
-        s.nombre = kDefaultName;
+    if (s.userName.empty()) {
+        s.userName = kDefaultName;
     }
     // The automatic phrase comes back next time only for a chosen theme,
     // and never in the middle of a tour.
-    const bool keepAutomaticPhrase =
-        shared.tourPosition == 0 && s.fraseAutomatica && shared.themeChosen;
+    const bool keepAutomaticPhrase = shared.tourPosition == 0 && s.autoPhrase && shared.themeChosen;
     const std::vector<std::string> lines = linesOf(s, keepAutomaticPhrase);
     std::copy(lines.begin(), lines.end(), shared.configLines.begin());
-    return writeConfigLines(shared.currentSession().Archivo, lines);
+    return writeConfigLines(shared.currentSession().filePath, lines);
 }
 
 std::vector<std::string> settingsLines(const Settings& settings) {
-    return linesOf(settings, settings.fraseAutomatica);
+    return linesOf(settings, settings.autoPhrase);
 }
 
-bool NewConfFile(const fs::path& path, const std::string& userName, Random& random) {
+bool writeNewUserFile(const fs::path& path, const std::string& userName, Random& random) {
     // A default Settings is a new user's: only the theme and the name differ.
     Settings fresh;
-    fresh.tema = random.drawHalfRange(kThemeDrawRange);
-    fresh.nombre = userName;
-    return writeConfigLines(path, linesOf(fresh, fresh.fraseAutomatica));
+    fresh.theme = random.drawHalfRange(kThemeDrawRange);
+    fresh.userName = userName;
+    return writeConfigLines(path, linesOf(fresh, fresh.autoPhrase));
 }
 
 } // namespace quillora

@@ -93,12 +93,12 @@ std::filesystem::path sessionFilePath(const std::filesystem::path& folder,
 void clearForBoardLoad(SharedState& shared);
 // Reads the current session's file into the raw line values. A missing or
 // unreadable file leaves the defaults of a fresh start.
-void DataLoad(SharedState& shared, Random& random);
+void readSessionFile(SharedState& shared, Random& random);
 // Turns the raw line values into the options, with their bounds.
-void ConfLoad(SharedState& shared);
+void applyLineValues(SharedState& shared);
 // Writes the live options to the current session's file. A failure leaves
 // the old file whole and tells the player (reportSave).
-bool ConfSave(SharedState& shared, Dialogs& dialogs);
+bool saveSettings(SharedState& shared, Dialogs& dialogs);
 // The same save, telling nobody: for a window that tells the player of a
 // failure in its own words.
 bool writeSettings(SharedState& shared);
@@ -109,6 +109,7 @@ bool reportSave(SharedState& shared, Dialogs& dialogs, const std::string& path, 
 // stands.
 std::vector<std::string> settingsLines(const Settings& settings);
 // A fresh file for a new user, with a random theme.
-bool NewConfFile(const std::filesystem::path& path, const std::string& userName, Random& random);
+bool writeNewUserFile(const std::filesystem::path& path, const std::string& userName,
+                      Random& random);
 
 } // namespace quillora

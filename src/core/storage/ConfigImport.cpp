@@ -54,7 +54,7 @@ std::string withGameLineEnds(std::string bytes) {
     return text + "\r\n";
 }
 
-// iFound5 and iFound3. The main file is written in one step: a copy cut
+// Copies an old file over the main one. The main file is written in one step: a copy cut
 // short would load as a configuration with its last lines missing.
 bool copyToMainFile(const std::string& oldBytes, const fs::path& mainFile) {
     // A player who linked the main file elsewhere wants it kept there.
@@ -72,7 +72,7 @@ bool copyToMainFile(const std::string& oldBytes, const fs::path& mainFile) {
     return replaceFile(file, withGameLineEnds(oldBytes));
 }
 
-// iFound4 and iFound2. Nothing when the old file is not there, so that the
+// Offers one older version's file. Nothing when the old file is not there, so that the
 // next older version may be asked about.
 std::optional<ImportOutcome> offer(SharedState& shared, Dialogs& dialogs, const char* oldName,
                                    const char* question) {
@@ -95,7 +95,7 @@ std::optional<ImportOutcome> offer(SharedState& shared, Dialogs& dialogs, const 
 
 } // namespace
 
-ImportOutcome iFound1(SharedState& shared, Dialogs& dialogs) {
+ImportOutcome offerOldConfig(SharedState& shared, Dialogs& dialogs) {
     // A main file the game cannot even look at counts as missing, like any
     // file it cannot read.
     std::error_code error;

@@ -25,6 +25,6 @@ enum class ImportOutcome {
 // The offer made each time the main menu shows, while the main session has
 // no file of its own yet: first the version 5 file, and only when there is
 // none the version 4 one. A No holds for both until the program ends.
-ImportOutcome iFound1(SharedState& shared, Dialogs& dialogs);
+ImportOutcome offerOldConfig(SharedState& shared, Dialogs& dialogs);
 
 } // namespace quillora

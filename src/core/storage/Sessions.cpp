@@ -34,14 +34,14 @@ Sessions::Sessions(SharedState& shared, Dialogs& dialogs, Random& random)
     : m_shared(shared), m_dialogs(dialogs), m_random(random) {}
 
 void Sessions::initialise(SharedState& shared) {
-    shared.sessions[0].record.Archivo = shared.mainConfigPath().string();
+    shared.sessions[0].record.filePath = shared.mainConfigPath().string();
 }
 
 void Sessions::saveCurrent() {
     UserSession& s = m_shared.currentSession();
     s.points = formatNumber(m_shared.normalPoints);
     s.survivalPoints = formatNumber(m_shared.survivalPoints);
-    s.theme = std::to_string(m_shared.settings.tema);
+    s.theme = std::to_string(m_shared.settings.theme);
     s.history = m_shared.history;
     s.corrections = std::to_string(m_shared.correctionsLeft);
     s.key = m_shared.key;
@@ -53,7 +53,7 @@ void Sessions::loadCurrent() {
     const UserSession& s = m_shared.currentSession();
     m_shared.normalPoints = leadingNumber(s.points);
     m_shared.survivalPoints = leadingNumber(s.survivalPoints);
-    m_shared.settings.tema = leadingCount(s.theme);
+    m_shared.settings.theme = leadingCount(s.theme);
     m_shared.history = s.history;
     m_shared.correctionsLeft = leadingCount(s.corrections);
     m_shared.key = s.key;
@@ -81,7 +81,7 @@ void Sessions::fillNewSlot(const std::string& path, const std::string& name) {
     s.survivalPoints = "1000";
     s.theme = "1";
     s.corrections = "3";
-    s.Archivo = path;
+    s.filePath = path;
     s.tour = "0";
     s.displayName = name;
 }
@@ -111,7 +111,7 @@ bool Sessions::add(const std::string& typedName, bool manyErrors, std::string& s
     }
     m_shared.currentSlot = slot;
     shownName = name;
-    reportSave(m_shared, m_dialogs, path.string(), NewConfFile(path, name, m_random));
+    reportSave(m_shared, m_dialogs, path.string(), writeNewUserFile(path, name, m_random));
     fillNewSlot(path.string(), name);
     loadCurrent();
     return true;
@@ -139,7 +139,7 @@ bool Sessions::addFromFiles(const std::vector<std::string>& paths, bool manyErro
         std::string name = lines.size() >= 15 ? lines[14] : std::string();
         if (name.empty()) {
             name = defaultName(slot);
-            reportSave(m_shared, m_dialogs, path, NewConfFile(path, name, m_random));
+            reportSave(m_shared, m_dialogs, path, writeNewUserFile(path, name, m_random));
         }
         fillNewSlot(path, name);
         loadCurrent();

@@ -23,7 +23,7 @@ public:
     static void initialise(SharedState& shared);
 
     void saveCurrent();
-    // Copies the current slot into the live values (eResetUser, less the
+    // Copies the current slot into the live values (what a switch of user does, less the
     // restart that follows it).
     void loadCurrent();
 

@@ -646,18 +646,18 @@ const std::string& emptyText() {
 
 } // namespace
 
-void ThemeCatalogue::WordBankInit() {
+void ThemeCatalogue::initDrawRanges() {
     m_phraseDrawRange = 40;
     m_themeDrawRange = 100;
     m_themeCount = m_themeDrawRange / 2;
 }
 
-void ThemeCatalogue::ThemeLoad() {
+void ThemeCatalogue::loadThemeNames() {
     for (int theme = 0; theme <= kThemes; ++theme)
         m_themeNames[theme] = kThemeNames[theme];
 }
 
-void ThemeCatalogue::PhraseLoad(int theme) {
+void ThemeCatalogue::loadPhrases(int theme) {
     if (!hasTheme(theme))
         return;
     for (int index = 1; index <= kPhrasesPerTheme; ++index)

@@ -18,16 +18,16 @@ public:
 
     // Sets the draw ranges (40 for phrases, 100 for themes) and the theme
     // count derived from them (100 / 2).
-    void WordBankInit();
+    void initDrawRanges();
     int phraseDrawRange() const { return m_phraseDrawRange; }
     int themeDrawRange() const { return m_themeDrawRange; }
     int themeCount() const { return m_themeCount; }
 
     // Fills the theme names 0..50; entry 0 is "????", no theme.
-    void ThemeLoad();
+    void loadThemeNames();
     // Fills phrases 1..20 of the theme; a theme without phrases (0 or out of
     // range) leaves the previous ones in place.
-    void PhraseLoad(int theme);
+    void loadPhrases(int theme);
 
     // Callers keep to 0..50 and 1..20; anything else answers an empty text.
     const std::string& themeName(int theme) const;

@@ -52,7 +52,7 @@ int tipNumberOf(double fraction) {
     return static_cast<int>(f * kRange / kHalf);
 }
 
-int eNuevoTip(Random& random) {
+int drawTipNumber(Random& random) {
     int number = 0;
     while (number == 0) {
         random.reseed();

@@ -19,8 +19,8 @@ std::string_view tipText(int number);
 // precision as the tips always were: 0..10.
 int tipNumberOf(double fraction);
 
-// eNuevoTip: a fresh seed for each try, and tries again while it gives 0, so
+// drawTipNumber: a fresh seed for each try, and tries again while it gives 0, so
 // each of the tips 1..10 comes as often as the others.
-int eNuevoTip(Random& random);
+int drawTipNumber(Random& random);
 
 } // namespace quillora

@@ -3,7 +3,7 @@
 #include "desktop/WebLookUp.h"
 #include "desktop/About.h"
 #include "desktop/BuildConfig.h"
-#include "support/BoardModel.h"
+#include "support/BoardModelFixture.h"
 #include "support/Fakes.h"
 
 #include <gtest/gtest.h>
@@ -28,9 +28,9 @@ TEST(WebLookUp, WithoutANetworkThePlayerIsToldAndNothingOpensButTheInstalledHelp
     ScriptedDialogs dialogs;
     FakeDesktop desktop(dialogs);
     desktop.network.alive = false;
-    desktop.lookUp.mWhat("vaca", false);
+    desktop.lookUp.openLookUp("vaca", false);
     EXPECT_FALSE(desktop.lookUp.downloadFont());
-    desktop.lookUp.eHelp();
+    desktop.lookUp.openHelp();
     ASSERT_EQ(dialogs.shown.size(), 2U);
     EXPECT_EQ(dialogs.shown[0].text, "Se requiere una conexión a Internet, intente más tarde.");
     EXPECT_EQ(dialogs.shown[1].text,
@@ -46,7 +46,7 @@ TEST(WebLookUp, WithoutANetworkThePlayerIsToldAndNothingOpensButTheInstalledHelp
     down.alive = false;
     Endpoints web = Endpoints::fromBuild("https://quillora.example/ayuda");
     WebLookUp online(down, desktop.web, dialogs, web);
-    online.eHelp();
+    online.openHelp();
     EXPECT_EQ(dialogs.shown.size(), 3U);
     EXPECT_EQ(desktop.web.opened.size(), 1U);
 
@@ -57,7 +57,7 @@ TEST(WebLookUp, WithoutANetworkThePlayerIsToldAndNothingOpensButTheInstalledHelp
 
 TEST(About, TellsTheMakerTheGameItsVersionAndTheLicences) {
     ScriptedDialogs dialogs;
-    eAbout(dialogs);
+    showAbout(dialogs);
     ASSERT_EQ(dialogs.shown.size(), 1U);
     EXPECT_TRUE(dialogs.shown[0].about);
     EXPECT_EQ(dialogs.shown[0].title, "Quillora Vesta");
@@ -73,14 +73,14 @@ TEST(About, TellsTheMakerTheGameItsVersionAndTheLicences) {
     }
 }
 
-class BoardLookUp : public BoardModel {};
+class BoardLookUp : public BoardModelFixture {};
 
 TEST_F(BoardLookUp, TheEndedGameIsLookedUpInSmallLettersWhereTheOptionSays) {
     play("EL OSO PANDA", U"elospand");
-    ASSERT_TRUE(model.round().queEsEsoVisible());
-    model.queEsEso();
-    shared.settings.usarEnciclopedia = true;
-    model.queEsEso();
+    ASSERT_TRUE(model.round().lookUpVisible());
+    model.lookUpAnswer();
+    shared.settings.useEncyclopedia = true;
+    model.lookUpAnswer();
     ASSERT_EQ(desktop.web.opened.size(), 2U);
     EXPECT_EQ(desktop.web.opened[0].rfind("https://www.bing.com/search?q=el%20oso%20panda&", 0),
               0U);
@@ -97,7 +97,7 @@ TEST_F(BoardLookUp, TheEndedGameIsLookedUpInSmallLettersWhereTheOptionSays) {
 
     // F1 opens the help even behind a dead network.
     desktop.network.alive = false;
-    model.keyTyped(QlvsModel::WindowKey::F1);
+    model.keyTyped(BoardModel::WindowKey::F1);
     EXPECT_EQ(desktop.web.opened.back(), FakeDesktop::kHelpPage);
 }
 

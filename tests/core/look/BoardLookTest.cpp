@@ -18,18 +18,18 @@ constexpr Rgb kBlue{0, 0, 255};
 
 Settings style(int estilo, bool opaca, bool blanca, bool linea) {
     Settings s;
-    s.estilo = estilo;
-    s.letraOpaca = opaca;
-    s.letraBlanca = blanca;
-    s.lineaBlanca = linea;
+    s.letterStyle = estilo;
+    s.opaqueLetters = opaca;
+    s.whiteLetters = blanca;
+    s.whiteLines = linea;
     return s;
 }
 
 TEST(BoardLookTest, ShadesDropComponentsAboveThirtyAndRaiseTheOthers) {
-    EXPECT_EQ(eColor(kDefaultBlue), (Rgb{60, 90, 210}));
-    EXPECT_EQ(eColor({30, 31, 0}), (Rgb{60, 1, 30}));
-    EXPECT_EQ(eColor({31, 30, 255}), (Rgb{1, 60, 225}));
-    EXPECT_EQ(eColor({255, 255, 255}), (Rgb{225, 225, 225}));
+    EXPECT_EQ(shadeOf(kDefaultBlue), (Rgb{60, 90, 210}));
+    EXPECT_EQ(shadeOf({30, 31, 0}), (Rgb{60, 1, 30}));
+    EXPECT_EQ(shadeOf({31, 30, 255}), (Rgb{1, 60, 225}));
+    EXPECT_EQ(shadeOf({255, 255, 255}), (Rgb{225, 225, 225}));
 }
 
 TEST(BoardLookTest, CellLooksFollowStyleAndFlags) {
@@ -48,9 +48,9 @@ TEST(BoardLookTest, CellLooksFollowStyleAndFlags) {
         {style(4, true, true, true), 1, {kWhite, false, kInkBlue, kInkBlue}},
         {style(4, false, false, false), 2, {kWhite, false, kInkBlue, kInkBlue}}};
     for (const auto& [settings, cell, expected] : cases) {
-        const CellLook look = ApplyLetterStyle(settings, cell);
+        const CellLook look = styledCell(settings, cell);
         EXPECT_EQ(Look(look.background, look.filled, look.letter, look.underline), expected)
-            << "style " << settings.estilo << ", cell " << cell;
+            << "style " << settings.letterStyle << ", cell " << cell;
     }
 }
 

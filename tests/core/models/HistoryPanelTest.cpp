@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "models/frmQlvs/HistoryPanelModel.h"
+#include "models/board/HistoryPanelModel.h"
 
 #include "storage/Sessions.h"
-#include "support/BoardModel.h"
+#include "support/BoardModelFixture.h"
 
 #include <gtest/gtest.h>
 
@@ -14,15 +14,15 @@ namespace quillora {
 namespace {
 
 using Content = SidePanelModel::Content;
-using Key = QlvsModel::WindowKey;
+using Key = BoardModel::WindowKey;
 using Entries = std::vector<std::string>;
 
-class HistoryPanelTest : public BoardModel {
+class HistoryPanelTest : public BoardModelFixture {
 protected:
-    HistoryPanelTest() { shared.settings.sonidos = false; }
+    HistoryPanelTest() { shared.settings.sounds = false; }
     // A game of `phrase` won, or lost when `win` is false.
     void round(const std::string& phrase, bool win) {
-        model.round().eMenuNew();
+        model.round().clearBoard();
         model.round().startPhrase(phrase, 1, "ANIMAL");
         if (win) {
             for (char c : phrase) {
@@ -36,7 +36,7 @@ protected:
     }
     // The board as the next opening builds it.
     Entries reopened() {
-        QlvsModel board{shared, dialogs, random, desktop.lookUp};
+        BoardModel board{shared, dialogs, random, desktop.lookUp};
         board.load();
         return board.history().entries();
     }
@@ -93,7 +93,7 @@ TEST_F(HistoryPanelTest, ASelectedEntryIsLookedUpInSmallLetters) {
 }
 
 TEST_F(HistoryPanelTest, HistoryAndThemesTakeTurnsBesideTheBoard) {
-    model.eStat();
+    model.openStats();
     ASSERT_TRUE(model.stats().shown());
     model.keyTyped(Key::History);
     EXPECT_EQ(model.side().content(), Content::History);
@@ -103,7 +103,7 @@ TEST_F(HistoryPanelTest, HistoryAndThemesTakeTurnsBesideTheBoard) {
     EXPECT_FALSE(model.stats().shown()) << "the history rolls the statistics up";
 
     shared.current().selectedThemes[30] = shared.current().selectedThemes[2] = true;
-    model.eOpenList();
+    model.openThemesPanel();
     EXPECT_EQ(model.side().content(), Content::Themes) << "one panel at a time";
     EXPECT_EQ(model.themesPanel().names(),
               (Entries{std::string(ThemeCatalogue::storedThemeName(2)),
@@ -113,9 +113,9 @@ TEST_F(HistoryPanelTest, HistoryAndThemesTakeTurnsBesideTheBoard) {
     model.keyTyped(Key::History);
     EXPECT_FALSE(model.side().shown()) << "Ctrl+H again puts it away";
 
-    model.ePlayed();
+    model.toggleHistory();
     model.round().startPhrase("CASA", 1, "ANIMAL");
-    model.round().BotonRespuesta();
+    model.round().toggleAnswerBox();
     EXPECT_FALSE(model.side().shown()) << "the answer box takes the panel's place";
 }
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "models/frmOptions/OptionsModel.h"
+#include "models/options/OptionsModel.h"
 
 #include "storage/ConfigFile.h"
 #include "support/LoadedSession.h"
@@ -43,7 +43,7 @@ std::vector<std::string> fileLines(const std::map<int, std::string>& changed = {
 
 class OptionsModelTest : public ::testing::Test {
 protected:
-    std::filesystem::path file() const { return shared.currentSession().Archivo; }
+    std::filesystem::path file() const { return shared.currentSession().filePath; }
     // The file, then the options in memory as the board reads them.
     void givenFile(const std::vector<std::string>& lines) {
         ASSERT_TRUE(writeConfigLines(file(), lines));
@@ -51,8 +51,8 @@ protected:
     }
     void boardLoad() {
         clearForBoardLoad(shared);
-        DataLoad(shared, random);
-        ConfLoad(shared);
+        readSessionFile(shared, random);
+        applyLineValues(shared);
     }
     OptionsModel& open() {
         model = std::make_unique<OptionsModel>(shared, dialogs);
@@ -221,12 +221,12 @@ TEST_F(OptionsModelTest, NamePlaceholderComesAndGoes) {
         {"Quillora VS", "Nombre"}, {"", "Quillora VS"}, {"Ana", "Ana"}, {"Nombre", "Nombre"}};
     for (const auto& [name, field] : shown) {
         SCOPED_TRACE(name);
-        shared.settings.nombre = name;
+        shared.settings.userName = name;
         open();
         EXPECT_EQ(model->nameText(), field);
     }
 
-    shared.settings.nombre = "Quillora VS";
+    shared.settings.userName = "Quillora VS";
     open();
     model->nameEntered();
     EXPECT_EQ(model->nameText(), "");
@@ -249,15 +249,15 @@ TEST_F(OptionsModelTest, SavedNamesLeaveNoPlaceholderOrBlank) {
         givenFile(fileLines());
         open();
         model->setNameText(field);
-        ASSERT_TRUE(model->AltSave1());
+        ASSERT_TRUE(model->saveFromPages());
         EXPECT_EQ(savedLine(15), line);
-        EXPECT_EQ(shared.settings.nombre, line);
+        EXPECT_EQ(shared.settings.userName, line);
     }
 }
 
 // --- saving from the option pages ----------------------------------------------------------------
 
-TEST_F(OptionsModelTest, AltSave1WritesTheBoxesAndTheBoardReadsThem) {
+TEST_F(OptionsModelTest, SavingThePagesWritesTheBoxesAndTheBoardReadsThem) {
     givenFile(fileLines({{1, "fondo.jpg"}, {2, "/fotos"}, {10, "1"}}));
     open();
     for (int box : {1, 10, 5, 7, 9, 12}) {
@@ -265,29 +265,29 @@ TEST_F(OptionsModelTest, AltSave1WritesTheBoxesAndTheBoardReadsThem) {
     }
     model->setThemeText("23");
     model->setColourCodeText("255");
-    ASSERT_TRUE(model->AltSave1());
+    ASSERT_TRUE(model->saveFromPages());
 
     const std::vector<std::string> expected{"fondo.jpg", "/fotos", "0", "0",   "0", "1", "0",
                                             "1",         "0",      "1", "23",  "1", "1", "2",
                                             "Ana",       "1",      "0", "255", "1", "0"};
     EXPECT_EQ(savedLines(), expected);
-    EXPECT_EQ(shared.settings.contratiempo, 2);
+    EXPECT_EQ(shared.settings.countdown, 2);
     EXPECT_EQ(shared.palette.gameColour, (Rgb{255, 0, 0}));
 
     // The board opened next reads the same.
     shared.settings = Settings{};
     shared.palette.gameColour = kDefaultBlue;
     boardLoad();
-    EXPECT_TRUE(shared.settings.supervivencia);
-    EXPECT_TRUE(shared.settings.lineaBlanca);
-    EXPECT_TRUE(shared.settings.usarEnciclopedia);
-    EXPECT_EQ(shared.settings.contratiempo, 2);
-    EXPECT_EQ(shared.settings.tema, 23);
+    EXPECT_TRUE(shared.settings.survival);
+    EXPECT_TRUE(shared.settings.whiteLines);
+    EXPECT_TRUE(shared.settings.useEncyclopedia);
+    EXPECT_EQ(shared.settings.countdown, 2);
+    EXPECT_EQ(shared.settings.theme, 23);
     EXPECT_EQ(shared.palette.gameColour, (Rgb{255, 0, 0}));
     EXPECT_TRUE(dialogs.shown.empty());
 }
 
-TEST_F(OptionsModelTest, AltSave1KeepsHangersOnOnlyUnderTheirBox) {
+TEST_F(OptionsModelTest, SavingThePagesKeepsHangersOnOnlyUnderTheirBox) {
     // Survival and fewer points on while points are off, as a hand-edited
     // file may have them: the save drops them.
     givenFile(fileLines({{13, "1"}, {17, "1"}, {14, "1"}}));
@@ -295,7 +295,7 @@ TEST_F(OptionsModelTest, AltSave1KeepsHangersOnOnlyUnderTheirBox) {
     EXPECT_EQ(ticked(), (std::set<int>{1, 2, 11}));
     model->setStyleText("");
     model->setThemeText("");
-    ASSERT_TRUE(model->AltSave1());
+    ASSERT_TRUE(model->saveFromPages());
     EXPECT_EQ(savedLine(12), "0");
     EXPECT_EQ(savedLine(13), "0");
     EXPECT_EQ(savedLine(17), "0");
@@ -306,7 +306,7 @@ TEST_F(OptionsModelTest, AltSave1KeepsHangersOnOnlyUnderTheirBox) {
     EXPECT_EQ(model->themeText(), "0");
 }
 
-TEST_F(OptionsModelTest, AltSave1KeepsTheAnimationOnlyForAOne) {
+TEST_F(OptionsModelTest, SavingThePagesKeepsTheAnimationOnlyForAOne) {
     // Line 10 as the file has it, line 10 after the save.
     const std::vector<std::pair<std::string, std::string>> cases{
         {"1", "1"}, {"2", "0"}, {"1.5", "0"}, {"0", "0"}, {"", "0"}, {"1abc", "1"}};
@@ -314,21 +314,21 @@ TEST_F(OptionsModelTest, AltSave1KeepsTheAnimationOnlyForAOne) {
         SCOPED_TRACE(line);
         givenFile(fileLines({{10, line}}));
         open();
-        ASSERT_TRUE(model->AltSave1());
+        ASSERT_TRUE(model->saveFromPages());
         EXPECT_EQ(savedLine(10), saved);
     }
 }
 
-TEST_F(OptionsModelTest, AltSave1ShowsTheSavedLinesOnTheFreePage) {
+TEST_F(OptionsModelTest, SavingThePagesShowsTheSavedLinesOnTheFreePage) {
     givenFile(fileLines());
     open();
-    model->choosePage(Page::Libre);
+    model->choosePage(Page::RawLines);
     model->selectRow(7);
     EXPECT_EQ(model->valueText(), "0");
-    model->choosePage(Page::Funcional);
+    model->choosePage(Page::Functional);
     model->clickBox(7);
-    ASSERT_TRUE(model->AltSave1());
-    model->choosePage(Page::Libre);
+    ASSERT_TRUE(model->saveFromPages());
+    model->choosePage(Page::RawLines);
     EXPECT_EQ(model->values()[7], "1");
     EXPECT_EQ(model->valueText(), "1");
 }
@@ -344,7 +344,7 @@ TEST_F(OptionsModelTest, TheFreeListShowsTheFileAsNumbers) {
                          {18, ""},
                          {20, "-3"}}));
     shared.palette.gameColour = Rgb{1, 2, 3};
-    shared.settings.colorJuego = Rgb{1, 2, 3};
+    shared.settings.gameColour = Rgb{1, 2, 3};
     open();
     const auto& values = model->values();
     EXPECT_EQ(values[0], "fondo 1.jpg");
@@ -360,10 +360,10 @@ TEST_F(OptionsModelTest, TheFreeListShowsTheFileAsNumbers) {
     EXPECT_TRUE(dialogs.shown.empty());
 }
 
-TEST_F(OptionsModelTest, AltSave2WritesWhatWasTypedAndTheBoardReadsIt) {
+TEST_F(OptionsModelTest, SavingTheRawLinesWritesWhatWasTypedAndTheBoardReadsIt) {
     givenFile(fileLines());
     open();
-    model->choosePage(Page::Libre);
+    model->choosePage(Page::RawLines);
     model->selectRow(12); // "M. supervivencia", line 13
     EXPECT_EQ(model->valueText(), "0");
     model->setValueText("2");
@@ -375,13 +375,13 @@ TEST_F(OptionsModelTest, AltSave2WritesWhatWasTypedAndTheBoardReadsIt) {
     EXPECT_EQ(savedLine(13), "2") << "saved as typed";
     EXPECT_EQ(savedLine(18), "255");
     EXPECT_EQ(savedLines().size(), 20U);
-    EXPECT_TRUE(shared.settings.supervivencia);
+    EXPECT_TRUE(shared.settings.survival);
     EXPECT_EQ(shared.palette.gameColour, (Rgb{255, 0, 0}));
     EXPECT_TRUE(model->box(1)) << "the option pages follow the file";
 
     shared.settings = Settings{};
     boardLoad();
-    EXPECT_TRUE(shared.settings.supervivencia);
+    EXPECT_TRUE(shared.settings.survival);
     EXPECT_EQ(shared.palette.gameColour, (Rgb{255, 0, 0}));
 }
 
@@ -393,7 +393,7 @@ TEST_F(OptionsModelTest, AFailedSaveFromEitherPageKeepsTheFileAndSaysSo) {
         dialogs.shown.clear();
         open();
         if (libre) {
-            model->choosePage(Page::Libre);
+            model->choosePage(Page::RawLines);
             model->selectRow(7);
             model->setValueText("1");
         } else {
@@ -408,13 +408,13 @@ TEST_F(OptionsModelTest, AFailedSaveFromEitherPageKeepsTheFileAndSaysSo) {
         EXPECT_EQ(dialogs.shown[0].icon, Icon::Information);
     }
     EXPECT_EQ(dialogs.shown[0].text, "No se pudo guardar, intente más tarde.");
-    EXPECT_FALSE(shared.settings.sonidos) << "raw lines not saved are not read";
+    EXPECT_FALSE(shared.settings.sounds) << "raw lines not saved are not read";
 }
 
 TEST_F(OptionsModelTest, TypingWithNoRowSelectedChangesNoLine) {
     givenFile(fileLines());
     open();
-    model->choosePage(Page::Libre);
+    model->choosePage(Page::RawLines);
     const auto before = model->values();
     model->setValueText("9");
     EXPECT_EQ(model->values(), before);
@@ -426,9 +426,9 @@ TEST_F(OptionsModelTest, TypingWithNoRowSelectedChangesNoLine) {
 // --- opening -------------------------------------------------------------------------------------
 
 TEST_F(OptionsModelTest, AnUnreadableFileIsReportedAndThePagesShowMemory) {
-    shared.settings.sonidos = false;
-    shared.settings.nombre = "Dora";
-    shared.settings.tema = 12;
+    shared.settings.sounds = false;
+    shared.settings.userName = "Dora";
+    shared.settings.theme = 12;
     open(); // no file yet
     ASSERT_EQ(dialogs.shown.size(), 1U);
     EXPECT_EQ(dialogs.shown[0].icon, Icon::Error);
@@ -451,7 +451,7 @@ TEST_F(OptionsModelTest, TheBoxesOpenAsTheOptionsInMemoryStand) {
     EXPECT_EQ(model->styleText(), "2");
     EXPECT_EQ(model->colourCodeText(), "65280");
     EXPECT_EQ(model->gameColour(), (Rgb{0, 255, 0}));
-    shared.settings.contratiempo = 2;
+    shared.settings.countdown = 2;
     open();
     EXPECT_TRUE(model->box(2));
     EXPECT_TRUE(model->box(10));
@@ -465,14 +465,14 @@ TEST_F(OptionsModelTest, EachSessionSlotRemembersItsPage) {
 
     shared.currentSlot = 2;
     EXPECT_EQ(open().page(), Page::Personal);
-    model->choosePage(Page::Libre);
+    model->choosePage(Page::RawLines);
     EXPECT_EQ(model->commandColour(), kRedLamp);
 
     shared.currentSlot = 0;
     EXPECT_EQ(open().page(), Page::Visual);
     EXPECT_EQ(model->commandColour(), model->gameColour());
     shared.currentSlot = 2;
-    EXPECT_EQ(open().page(), Page::Libre);
+    EXPECT_EQ(open().page(), Page::RawLines);
 }
 
 // --- the colour editor ---------------------------------------------------------------------------
@@ -487,7 +487,7 @@ TEST_F(OptionsModelTest, TheColourEditorMakesCodesAndHandsThemOver) {
     EXPECT_EQ(model->editorButtonCaption(), "x");
     EXPECT_EQ(model->editorButtonTooltip(), " Cerrar colores. ");
 
-    model->choosePage(Page::Visual); // ExtraerColor
+    model->choosePage(Page::Visual); // splitGameColour
     EXPECT_EQ(model->component(Channel::Red), 255);
     EXPECT_EQ(model->component(Channel::Green), 0);
     EXPECT_EQ(model->component(Channel::Blue), 0);
@@ -549,7 +549,7 @@ TEST_F(OptionsModelTest, KeysOnThePageListSayWhatTheWindowDoes) {
             EXPECT_EQ(action.openEditor, expected.openEditor);
         }
     };
-    constexpr auto P = Page::Personal, V = Page::Visual, F = Page::Funcional, L = Page::Libre;
+    constexpr auto P = Page::Personal, V = Page::Visual, F = Page::Functional, L = Page::RawLines;
     // The digit and the letter of each box, page by page.
     const std::vector<std::tuple<Page, std::u32string, int>> boxes{
         {P, U"1p", 0}, {P, U"2S", 1}, {P, U"3E", 11}, {P, U"4C", 2}, {P, U"5D", 10},

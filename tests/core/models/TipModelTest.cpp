@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "models/frmQlvs/TipModel.h"
+#include "models/board/TipModel.h"
 #include "words/Tips.h"
 
-#include "support/BoardModel.h"
+#include "support/BoardModelFixture.h"
 
 #include <gtest/gtest.h>
 
@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kTextWidth = 600;
 
-class TipModelTest : public BoardModel {
+class TipModelTest : public BoardModelFixture {
 protected:
     TipModel& tip = model.tip();
 };
@@ -26,7 +26,7 @@ TEST_F(TipModelTest, ATipEntersAtTheRightEdgeAndGoesWithItsLastLetter) {
     EXPECT_FALSE(tip.running());
 
     random.queue({0.5});
-    tip.mTip();
+    tip.startTip();
     tip.setTextWidth(kTextWidth);
     EXPECT_EQ(tip.text(), tipText(5));
     EXPECT_EQ(tip.left(), TipModel::kWidthTwips);
@@ -54,7 +54,7 @@ TEST_F(TipModelTest, ATipEntersAtTheRightEdgeAndGoesWithItsLastLetter) {
 
 TEST_F(TipModelTest, AskingAgainRestartsAndAClickOrAStillBoardPutsItAway) {
     random.queue({0.95});
-    tip.mTip();
+    tip.startTip();
     tip.setTextWidth(kTextWidth);
     for (int i = 0; i < 20; ++i) {
         tip.tick();
@@ -62,7 +62,7 @@ TEST_F(TipModelTest, AskingAgainRestartsAndAClickOrAStillBoardPutsItAway) {
     ASSERT_TRUE(tip.shown());
 
     random.queue({0.05, 0.15});
-    tip.mTip();
+    tip.startTip();
     EXPECT_EQ(tip.text(), tipText(1)) << "0 was drawn again";
     EXPECT_EQ(tip.left(), TipModel::kWidthTwips);
     EXPECT_TRUE(tip.running());
@@ -71,9 +71,9 @@ TEST_F(TipModelTest, AskingAgainRestartsAndAClickOrAStillBoardPutsItAway) {
     EXPECT_FALSE(tip.shown());
     EXPECT_FALSE(tip.running());
 
-    shared.settings.animacion = true;
+    shared.settings.animated = true;
     random.queue({0.3});
-    tip.mTip();
+    tip.startTip();
     tip.tick();
     model.toggleAnimation();
     EXPECT_FALSE(tip.shown());

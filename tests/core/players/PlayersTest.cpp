@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "players/Players.h"
 
-#include "models/frmNames/NamesModel.h"
-#include "models/frmWord1/Word1Model.h"
+#include "models/friendPhrase/FriendPhraseModel.h"
+#include "models/players/PlayersModel.h"
 #include "state/SharedState.h"
 #include "support/Fakes.h"
 
@@ -20,7 +20,7 @@ SharedState players(int count, int slot = 0) {
     shared.currentSlot = slot;
     shared.current().playerNames = {"Ana", "Beto", "Ciro", "Dora"};
     setUpRoster(shared, count > 1, count);
-    shared.settings.nombre = "Lucía";
+    shared.settings.userName = "Lucía";
     return shared;
 }
 
@@ -28,7 +28,8 @@ TEST(PlayersTest, MenuMovesGoRoundEveryPlayerAndLettersOnlyTheGuessers) {
     SharedState shared = players(4, 1);
     shared.roster.currentPlayer = 3;
     std::vector<int> seen;
-    for (auto move : {adelantar, adelantar, atrasar, eNext, eNext, eNext, eNext}) {
+    for (auto move :
+         {moveTurnForward, moveTurnForward, moveTurnBack, passTurn, passTurn, passTurn, passTurn}) {
         move(shared);
         seen.push_back(shared.roster.currentPlayer);
     }
@@ -39,28 +40,28 @@ TEST(PlayersTest, MenuMovesGoRoundEveryPlayerAndLettersOnlyTheGuessers) {
 TEST(PlayersTest, FreeTurnFreezesTheTurnAndKeepsItsCaption) {
     SharedState shared = players(3, 1);
     toggleFreeTurn(shared);
-    for (auto move : {eNext, adelantar, atrasar}) {
+    for (auto move : {passTurn, moveTurnForward, moveTurnBack}) {
         move(shared);
     }
     EXPECT_EQ(shared.roster.currentPlayer, 1);
-    EXPECT_EQ(ePlayerName(shared, "Ana").caption, "Turno libre");
+    EXPECT_EQ(playerLabelFor(shared, "Ana").caption, "Turno libre");
     EXPECT_FALSE(shared.sessions[0].freeTurn) << "the flag belongs to the current slot";
     toggleFreeTurn(shared);
-    eNext(shared);
-    EXPECT_EQ(ePlayerName(shared, "Turno libre").caption, "Beto");
+    passTurn(shared);
+    EXPECT_EQ(playerLabelFor(shared, "Turno libre").caption, "Beto");
 }
 
 TEST(PlayersTest, AlonePlayerIsTheUserWithoutTurnMoves) {
     SharedState shared = players(0, 1);
     EXPECT_EQ(shared.playerCount, 1);
-    shared.settings.nombre.clear();
-    const PlayerLabel label = ePlayerName(shared, "");
+    shared.settings.userName.clear();
+    const PlayerLabel label = playerLabelFor(shared, "");
     EXPECT_EQ(label.caption, "Quillora VS");
-    EXPECT_EQ(shared.settings.nombre, "Quillora VS");
+    EXPECT_EQ(shared.settings.userName, "Quillora VS");
     EXPECT_EQ(label.tooltip, " Jugando solo ");
     EXPECT_FALSE(turnMovesEnabled(shared));
     shared.roster.currentPlayer = 0;
-    EXPECT_EQ(ePlayerName(shared, "antes").caption, "antes");
+    EXPECT_EQ(playerLabelFor(shared, "antes").caption, "antes");
 }
 
 TEST(PlayersTest, TwoPlayersTakeTurnsWriting) {
@@ -69,10 +70,10 @@ TEST(PlayersTest, TwoPlayersTakeTurnsWriting) {
     for (int game = 0; game < 3; ++game) {
         shared.playerCount = shared.roster.rosterSize;
         shared.roster.currentPlayer = 1;
-        MoveAuthorLast(shared);
+        moveAuthorLast(shared);
         shared.playerCount = shared.roster.guesserCount;
-        eNext(shared);
-        guessers.push_back(ePlayerName(shared, "").caption);
+        passTurn(shared);
+        guessers.push_back(playerLabelFor(shared, "").caption);
     }
     EXPECT_EQ(guessers, (std::vector<std::string>{"Beto", "Ana", "Beto"}));
     EXPECT_EQ(shared.sessions[1].playerNames[2], "Ciro") << "names past the players stay put";
@@ -81,20 +82,20 @@ TEST(PlayersTest, TwoPlayersTakeTurnsWriting) {
 // --- the names window -----------------------------------------------------------------
 
 TEST(NamesModelTest, ShowsThePlayersRowsAndGoesRoundThemOnEnter) {
-    const NamesModel four(players(4));
+    const PlayersModel four(players(4));
     EXPECT_TRUE(four.rowVisible(4) && !four.rowVisible(5));
     EXPECT_EQ(four.extraHeightTwips(), 1800);
     EXPECT_EQ(four.enter(3).focusBox, 4);
     EXPECT_EQ(four.enter(4).focusBox, 1);
     EXPECT_FALSE(four.enter(4).close);
-    const NamesModel alone(players(1));
+    const PlayersModel alone(players(1));
     EXPECT_EQ(alone.text(1), "Lucía");
     EXPECT_EQ(alone.extraHeightTwips(), 0);
     EXPECT_TRUE(alone.enter(1).close);
 }
 
 TEST(NamesModelTest, TwoTicksSwapAndAThirdIsRefused) {
-    NamesModel model(players(4));
+    PlayersModel model(players(4));
     EXPECT_TRUE(model.tick(3));
     EXPECT_FALSE(model.changeTimerRunning());
     EXPECT_TRUE(model.tick(1));
@@ -107,30 +108,30 @@ TEST(NamesModelTest, TwoTicksSwapAndAThirdIsRefused) {
 
 TEST(NamesModelTest, PlaceholderMakesWayAndFillsTheEmptyPlayersOnClose) {
     SharedState shared = players(3);
-    NamesModel model(shared);
+    PlayersModel model(shared);
     model.setText(2, "JUGADOR 2");
     model.focusIn(2);
     EXPECT_EQ(model.text(2), "");
     model.setText(3, "");
     model.setText(5, "Eva");
-    model.eOk(shared);
+    model.keepNames(shared);
     EXPECT_EQ(shared.sessions[0].playerNames,
               (std::array<std::string, 9>{"Ana", "JUGADOR 2", "JUGADOR 3", "Dora", "Eva"}));
-    EXPECT_EQ(shared.settings.nombre, "Lucía");
+    EXPECT_EQ(shared.settings.userName, "Lucía");
 
     SharedState alone = players(1);
-    NamesModel single(alone);
+    PlayersModel single(alone);
     single.setText(1, "Marta");
-    single.eOk(alone);
-    EXPECT_EQ(alone.settings.nombre, "Marta");
+    single.keepNames(alone);
+    EXPECT_EQ(alone.settings.userName, "Marta");
     EXPECT_EQ(alone.currentSession().displayName, "Marta");
     EXPECT_EQ(alone.sessions[0].playerNames[0], "Ana");
 }
 
 // --- the phrase a friend writes ---------------------------------------------------------
 
-TEST(Word1ModelTest, KeysKeepTheAlphabetUpToTheLastCell) {
-    Word1Model model(SharedState{});
+TEST(FriendPhraseModelTest, KeysKeepTheAlphabetUpToTheLastCell) {
+    FriendPhraseModel model(SharedState{});
     for (char32_t key : std::u32string_view(U" a\u00F1o \u00FA1!")) {
         model.type(key);
     }
@@ -143,10 +144,10 @@ TEST(Word1ModelTest, KeysKeepTheAlphabetUpToTheLastCell) {
     EXPECT_EQ(model.previewRow(3), "23456789ABCDEF");
 }
 
-TEST(Word1ModelTest, AcceptIsRefusedForEmptyLeadingBlankOrAccents) {
+TEST(FriendPhraseModelTest, AcceptIsRefusedForEmptyLeadingBlankOrAccents) {
     SharedState shared = players(3);
     ScriptedDialogs dialogs;
-    Word1Model model(shared);
+    FriendPhraseModel model(shared);
     EXPECT_EQ(model.themeText(), "(Ninguno)");
     for (const char* pasted : {"", " HOLA", "canción"}) {
         model.setPhraseText(pasted);
@@ -160,11 +161,11 @@ TEST(Word1ModelTest, AcceptIsRefusedForEmptyLeadingBlankOrAccents) {
     EXPECT_EQ(shared.playerCount, 3);
 }
 
-TEST(Word1ModelTest, AcceptMovesTheAuthorLastAndNamesTheTheme) {
+TEST(FriendPhraseModelTest, AcceptMovesTheAuthorLastAndNamesTheTheme) {
     SharedState shared = players(3);
-    adelantar(shared);
+    moveTurnForward(shared);
     ScriptedDialogs dialogs;
-    Word1Model first(shared);
+    FriendPhraseModel first(shared);
     first.setThemeText("Animales");
     first.setPhraseText("el  niño 7");
     const auto phrase = first.accept(shared, dialogs);
@@ -174,11 +175,11 @@ TEST(Word1ModelTest, AcceptMovesTheAuthorLastAndNamesTheTheme) {
     EXPECT_EQ(phrase->themeText, "Animales");
     EXPECT_EQ(shared.sessions[0].playerNames,
               (std::array<std::string, 9>{"Ana", "Ciro", "Beto", "Dora"}));
-    EXPECT_EQ(ePlayerName(shared, "").caption, "Ciro");
-    EXPECT_EQ(ePlayerName(shared, "").tooltip, " 2 Jugadores están jugando ");
+    EXPECT_EQ(playerLabelFor(shared, "").caption, "Ciro");
+    EXPECT_EQ(playerLabelFor(shared, "").tooltip, " 2 Jugadores están jugando ");
 
     setUpRoster(shared, true, 3);
-    Word1Model second(shared);
+    FriendPhraseModel second(shared);
     second.setThemeText("");
     second.themeFocusOut();
     second.themeFocusIn();

@@ -45,7 +45,7 @@ TEST(FigureTest, TheHangedFigureDropsAndMunecoPutsItBack) {
     figure.draw(8);
     EXPECT_EQ(figure.headBox().top, 1560);
 
-    figure.Muneco();
+    figure.reset();
     EXPECT_EQ(figure.line(P::LeftArm), leftArm);
     EXPECT_EQ(figure.headBox(), head);
     EXPECT_EQ(figure.faceBox(), (TwipBox{1650, 1560, 495, 375}));

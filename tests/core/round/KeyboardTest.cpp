@@ -19,7 +19,7 @@ TEST(KeyboardTest, TheAnswerBoxLetsInTheAlphabetBackspaceAndASpaceAfterText) {
         {'!', true, 0},   {'\t', true, 0},   {13, true, 0},       {0, true, 0},
         {-65, true, 0}};
     for (const auto& [code, boxHasText, expected] : keys) {
-        EXPECT_EQ(Verificar_Tecla(code, boxHasText), expected) << code << " " << boxHasText;
+        EXPECT_EQ(filterAnswerKey(code, boxHasText), expected) << code << " " << boxHasText;
     }
 }
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "round/Round.h"
-#include "models/frmWord1/Word1Model.h"
+#include "models/friendPhrase/FriendPhraseModel.h"
 #include "state/SharedState.h"
 #include "words/Text.h"
 #include "words/ThemeCatalogue.h"
@@ -28,14 +28,14 @@ public:
     }
     // Types a whole answer and presses OK, answering the question with `yes`.
     bool answer(const std::string& typed, bool yes = true) {
-        round.BotonRespuesta();
+        round.toggleAnswerBox();
         round.setAnswerBoxText(typed);
         dialogs.answer({yes});
-        return round.cmdOk();
+        return round.submitAnswer();
     }
     const RoundState& st() const { return round.state(); }
     void restart(const std::string& phrase = "CASA") {
-        round.eMenuNew();
+        round.clearBoard();
         start(phrase);
     }
     // Asks for a correction, answering the question if one comes.
@@ -43,7 +43,7 @@ public:
         if (round.correctionOffered()) {
             dialogs.answer({yes});
         }
-        round.eBackStrike();
+        round.takeBackStrike();
     }
     const ScriptedDialogs::Shown& lastShown() const { return dialogs.shown.back(); }
 
@@ -161,12 +161,12 @@ TEST_F(RoundTest, RepeatedLetterOnlyLightsTheYellowLamp) {
 
 TEST_F(RoundTest, SymbolsAndAccentsKeepTheAnswerBoxOpenInCapitals) {
     start();
-    round.BotonRespuesta();
+    round.toggleAnswerBox();
     const std::vector<std::pair<std::string, std::string>> refused{
         {"CAS@", "CAS@"}, {"casá", "CASÁ"}, {"pingüino", "PINGÜINO"}, {"la\tcasa", "LA\tCASA"}};
     for (const auto& [typed, shown] : refused) {
         round.setAnswerBoxText(typed);
-        EXPECT_FALSE(round.cmdOk());
+        EXPECT_FALSE(round.submitAnswer());
         EXPECT_TRUE(round.answerBoxOpen());
         EXPECT_EQ(round.answerBoxText(), shown);
     }
@@ -191,7 +191,7 @@ TEST_F(RoundTest, AnsweringNoKeepsTheBoxOpenAndYesComparesInCapitals) {
     EXPECT_FALSE(st().over);
 
     dialogs.answer({true});
-    EXPECT_TRUE(round.cmdOk());
+    EXPECT_TRUE(round.submitAnswer());
     EXPECT_EQ(round.status(), "¡VICTORIA!");
     EXPECT_FALSE(round.answerBoxOpen());
     EXPECT_TRUE(round.answerBoxText().empty());
@@ -311,32 +311,32 @@ TEST_F(RoundTest, ACorrectionTakesBackTheLastMissOfAGameUnderWayOnceAGame) {
 }
 
 TEST_F(RoundTest, LeavingIsRefusedWithManyErrorsAndAskedDuringPlay) {
-    EXPECT_TRUE(round.eMenuBack()) << "nothing under way";
+    EXPECT_TRUE(round.backToMenu()) << "nothing under way";
     start();
     dialogs.answer({false, true});
-    EXPECT_FALSE(round.eMenuBack());
+    EXPECT_FALSE(round.backToMenu());
     EXPECT_EQ(lastShown().text, "¿Seguro de salirse de la partida?");
-    EXPECT_TRUE(round.eMenuBack());
+    EXPECT_TRUE(round.backToMenu());
 
     guessAll(U"BDEFG");
     dialogs.shown.clear();
-    EXPECT_FALSE(round.eMenuBack());
+    EXPECT_FALSE(round.backToMenu());
     EXPECT_EQ(lastShown().icon, Dialogs::Icon::Exclamation);
     EXPECT_EQ(lastShown().text, "Tiene bastantes errores, termine la partida.");
-    round.eMenuNew();
+    round.clearBoard();
     EXPECT_EQ(lastShown().text, "Tienes bastantes errores, termina el juego.");
     EXPECT_EQ(round.board().letterTotal(), 4);
     EXPECT_EQ(st().strikeCount, 5);
 
     guessAll(U"HIJ");
-    EXPECT_TRUE(round.eMenuBack()) << "a dead game is left without asking";
-    round.eMenuNew();
+    EXPECT_TRUE(round.backToMenu()) << "a dead game is left without asking";
+    round.clearBoard();
     EXPECT_EQ(round.playCaption(), "JUGAR");
     EXPECT_TRUE(st().slot(8).empty() && round.board().triedLetters().empty());
 }
 
 TEST_F(RoundTest, PointsOffNeverHoldTheGame) {
-    shared.settings.sistemaPuntos = false;
+    shared.settings.pointsSystem = false;
     start();
     guessAll(U"BDEFGH");
     EXPECT_FALSE(st().manyErrors);
@@ -345,14 +345,14 @@ TEST_F(RoundTest, PointsOffNeverHoldTheGame) {
 }
 
 TEST_F(RoundTest, StatusDotsCycleOnlyWhilePlaying) {
-    shared.settings.animacion = true;
+    shared.settings.animated = true;
     round.tickStatus();
     EXPECT_EQ(round.status(), "NUEVA PARTIDA");
-    shared.settings.animacion = false;
+    shared.settings.animated = false;
     start();
     round.tickStatus();
     EXPECT_EQ(round.status(), "JUGANDO");
-    shared.settings.animacion = true;
+    shared.settings.animated = true;
     for (const char* expected : {"JUGANDO.", "JUGANDO..", "JUGANDO...", "JUGANDO", "JUGANDO."}) {
         round.tickStatus();
         EXPECT_EQ(round.status(), expected);
@@ -368,27 +368,27 @@ class RoundStartTest : public RoundTest {
 protected:
     // Plays through the theme window: opening draws, accepting lays.
     void playThroughWindow() {
-        ASSERT_EQ(round.eGame(), GameStart::ThemeWindow);
-        round.BotonTema();
-        round.eOther();
-        round.eOk();
+        ASSERT_EQ(round.play(), GameStart::ThemeWindow);
+        round.prepareThemeWindow();
+        round.drawThemeAndPhrase();
+        round.layDrawnPhrase();
     }
     void finishGame() {
         // Every letter of the alphabet ends any catalogue game one way or the other.
         guessAll(U"AEIOUSRNLTCDMPBGVFHJQYZXKW\u00D137");
         ASSERT_TRUE(round.state().over);
-        round.eGame(); // "NUEVA PARTIDA" clears the board
+        round.play(); // "NUEVA PARTIDA" clears the board
     }
     std::string laid() const { return toUtf8(round.board().phrase()); }
 };
 
 TEST_F(RoundStartTest, OneOrNoSelectedThemeUsesTheThemeSetting) {
-    shared.settings.tema = 20;
+    shared.settings.theme = 20;
     shared.sessions[0].selectedThemes[7] = true; // a single selection is not a random theme
     random.queue({phrase(3)});
     playThroughWindow();
     EXPECT_FALSE(round.randomTheme());
-    EXPECT_EQ(round.word2ThemeLabel(), "FRUTA");
+    EXPECT_EQ(round.themeWindowLabel(), "FRUTA");
     EXPECT_EQ(laid(), ThemeCatalogue::storedPhrase(20, 4));
     EXPECT_EQ(round.themeLabel(), "FRUTA");
     EXPECT_EQ(round.status(), "JUGANDO...");
@@ -402,7 +402,7 @@ TEST_F(RoundStartTest, SeveralThemesDrawOnlySelectedOnesAndHideTheName) {
     random.queue({theme(12), theme(0), phrase(4)});
     playThroughWindow();
     EXPECT_TRUE(round.randomTheme());
-    EXPECT_EQ(round.word2ThemeLabel(), "????");
+    EXPECT_EQ(round.themeWindowLabel(), "????");
     EXPECT_EQ(round.gameTheme(), 50);
     EXPECT_EQ(round.themeLabel(), "????") << "the theme shows only at the end";
     EXPECT_EQ(shared.sessions[0].lastThemeName, "????");
@@ -414,7 +414,7 @@ TEST_F(RoundStartTest, TheSamePhraseNumberNeverComesTwiceInARowEvenOnANewBoard) 
     random.queue({phrase(6)});
     playThroughWindow();
     finishGame();
-    shared.settings.tema = 9; // another theme: the rule compares numbers only
+    shared.settings.theme = 9; // another theme: the rule compares numbers only
     random.queue({phrase(6), phrase(6), phrase(2)});
     playThroughWindow();
     EXPECT_EQ(round.phraseNumber(), 2);
@@ -424,17 +424,18 @@ TEST_F(RoundStartTest, TheSamePhraseNumberNeverComesTwiceInARowEvenOnANewBoard) 
     // "Volver al menú" and JUGAR build the board, and its round, anew.
     Round next{shared, dialogs, random, &events};
     random.queue({phrase(2), phrase(4)});
-    ASSERT_EQ(next.eGame(), GameStart::ThemeWindow);
-    next.BotonTema();
-    next.eOther();
+    ASSERT_EQ(next.play(), GameStart::ThemeWindow);
+    next.prepareThemeWindow();
+    next.drawThemeAndPhrase();
     EXPECT_EQ(next.phraseNumber(), 4);
 }
 
 TEST_F(RoundStartTest, EveryGameEndsUnderItsThemeAndLeavesItsThemeForTheNextFriend) {
-    shared.settings.tema = 12;
+    shared.settings.theme = 12;
     random.queue({phrase(3)});
     playThroughWindow();
-    EXPECT_EQ(Word1Model(shared).themeText(), std::string(ThemeCatalogue::storedThemeName(12)))
+    EXPECT_EQ(FriendPhraseModel(shared).themeText(),
+              std::string(ThemeCatalogue::storedThemeName(12)))
         << "a friend is offered the theme of the game played last, whatever its kind";
     round.guess(U'A');
     finishGame();
@@ -444,44 +445,44 @@ TEST_F(RoundStartTest, EveryGameEndsUnderItsThemeAndLeavesItsThemeForTheNextFrie
     guessAll(U"LACS");
     ASSERT_TRUE(round.state().over);
     EXPECT_EQ(round.themeLabel(), "????") << "the catalogue's name of theme 0 at the end";
-    EXPECT_EQ(Word1Model(shared).themeText(), "Frase de Ana");
+    EXPECT_EQ(FriendPhraseModel(shared).themeText(), "Frase de Ana");
 }
 
 TEST_F(RoundStartTest, ANewBoardRebuildsTheTitle) {
     const int before = events.titles;
-    round.BotonNuevo();
+    round.startNewBoard();
     EXPECT_EQ(events.titles, before + 1);
 }
 
 TEST_F(RoundStartTest, TwoGamesOfOneThemeSwitchTheAutomaticPhraseOn) {
-    shared.settings.tema = 3;
+    shared.settings.theme = 3;
     random.queue({phrase(1)});
     playThroughWindow();
-    EXPECT_FALSE(shared.settings.fraseAutomatica);
+    EXPECT_FALSE(shared.settings.autoPhrase);
     finishGame();
     random.queue({phrase(2)});
     playThroughWindow();
-    EXPECT_TRUE(shared.settings.fraseAutomatica);
+    EXPECT_TRUE(shared.settings.autoPhrase);
     EXPECT_TRUE(round.autoMarkerVisible());
     finishGame();
 
     random.queue({phrase(3)});
-    EXPECT_EQ(round.eGame(), GameStart::Started) << "no window with the automatic phrase";
+    EXPECT_EQ(round.play(), GameStart::Started) << "no window with the automatic phrase";
     EXPECT_EQ(laid(), ThemeCatalogue::storedPhrase(3, 4));
 }
 
 TEST_F(RoundStartTest, SwitchingTheAutomaticPhraseOffEndsTheTourAndRestoresTheSelection) {
-    shared.settings.fraseAutomatica = true;
+    shared.settings.autoPhrase = true;
     shared.tourPosition = 12;
     shared.sessions[0].tourCopy[5] = shared.sessions[0].tourCopy[9] = true;
-    round.eMenuAuto();
-    EXPECT_FALSE(shared.settings.fraseAutomatica);
+    round.toggleAutoPhrase();
+    EXPECT_FALSE(shared.settings.autoPhrase);
     EXPECT_EQ(shared.tourPosition, 0);
     EXPECT_TRUE(shared.sessions[0].selectedThemes[5] && shared.sessions[0].selectedThemes[9]);
     EXPECT_FALSE(round.autoMarkerVisible());
     EXPECT_EQ(events.saved, 1);
-    round.eMenuAuto();
-    EXPECT_TRUE(shared.settings.fraseAutomatica);
+    round.toggleAutoPhrase();
+    EXPECT_TRUE(shared.settings.autoPhrase);
     EXPECT_EQ(round.autoMarkerCaption(), "A");
     EXPECT_EQ(round.autoMarkerTooltip(), " Desactivar la frase automática. ");
 }

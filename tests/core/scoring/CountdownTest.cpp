@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "scoring/Countdown.h"
 
-#include "support/BoardModel.h"
+#include "support/BoardModelFixture.h"
 
 #include <string>
 #include <utility>
@@ -12,12 +12,12 @@ namespace quillora {
 namespace {
 
 // Countdown mode played on the board's model: whole games run in ticks.
-class CountdownGame : public BoardModel {
+class CountdownGame : public BoardModelFixture {
 protected:
     // A new game of `phrase` with the countdown option set to `mode`.
     void start(const std::string& phrase, int mode) {
-        shared.settings.contratiempo = mode;
-        model.eMenuNew();
+        shared.settings.countdown = mode;
+        model.clearBoard();
         model.round().startPhrase(phrase, 1, "ANIMAL");
     }
     // Ticks the clock down to `seconds` left.
@@ -106,7 +106,7 @@ TEST_F(CountdownGame, RunningOutOfTimeCostsWhatTheEighthStrikeCosts) {
     for (const auto& [doublePenalties, cost] :
          std::vector<std::pair<bool, int>>{{false, 600}, {true, 1200}}) {
         SCOPED_TRACE(cost);
-        shared.settings.masPuntosNegativos = doublePenalties;
+        shared.settings.moreNegativePoints = doublePenalties;
         shared.normalPoints = 0;
         model.scoring().showAccount();
         start("MURCIELAGO", 1);
@@ -149,7 +149,7 @@ TEST_F(CountdownGame, TheCorrectionQuestionHoldsTheClockAndOnlyARunningOneGoesOn
             heldDuringQuestion = !model.countdownTimerRunning() && clock().seconds() == before;
         };
         dialogs.answer({true});
-        model.keyTyped(QlvsModel::WindowKey::Delete);
+        model.keyTyped(BoardModel::WindowKey::Delete);
         dialogs.onAsk = nullptr;
         ASSERT_EQ(st().strikeCount, 0);
         EXPECT_TRUE(heldDuringQuestion);
@@ -161,24 +161,24 @@ TEST_F(CountdownGame, TheCorrectionQuestionHoldsTheClockAndOnlyARunningOneGoesOn
 TEST_F(CountdownGame, ANewGameStopsTheClockAndAChangedModeWaitsForTheNextGame) {
     start("SOL", 1);
     runTo(25);
-    model.eMenuNew();
+    model.clearBoard();
     EXPECT_FALSE(clock().visible() || model.countdownTimerRunning());
     model.round().startPhrase("SOL", 1, "ANIMAL");
     EXPECT_EQ(clock().text(), "30") << "the next game starts a full clock";
 
-    shared.settings.contratiempo = 2;
+    shared.settings.countdown = 2;
     model.tickCountdown();
     EXPECT_EQ(clock().text(), "29") << "the game under way keeps its clock";
     start("SOL", 2);
     EXPECT_EQ(clock().text(), "15");
 
-    shared.settings.contratiempo = 0;
+    shared.settings.countdown = 0;
     runTo(1);
     model.tickCountdown();
     EXPECT_TRUE(st().over) << "switched off during the game, the clock still ends it";
 
     start("SOL", 0);
-    shared.settings.contratiempo = 1;
+    shared.settings.countdown = 1;
     model.tickCountdown();
     EXPECT_FALSE(clock().visible());
     guess(U"SOL");
@@ -188,11 +188,11 @@ TEST_F(CountdownGame, ANewGameStopsTheClockAndAChangedModeWaitsForTheNextGame) {
 
 TEST_F(CountdownGame, TimeRunningOutBehindTheAnswerQuestionIsTheOnlyDeath) {
     start("SOL", 2);
-    model.round().BotonRespuesta();
+    model.round().toggleAnswerBox();
     model.round().setAnswerBoxText("LUNA");
     dialogs.onAsk = [&] { runTo(0); };
     dialogs.answer({true});
-    model.round().cmdOk();
+    model.round().submitAnswer();
     EXPECT_EQ(events.lost, 1);
     EXPECT_EQ(shared.normalPoints, -1000);
     EXPECT_FALSE(model.round().answerBoxOpen());

@@ -53,11 +53,11 @@ TEST(Points, TheTitleNamesTheModesInForceInOrder) {
     const auto title = [](bool points, bool survival, bool doublePenalties, int countdown,
                           bool severalPlayers = false) {
         Settings s;
-        s.sistemaPuntos = points;
-        s.supervivencia = survival;
-        s.masPuntosNegativos = doublePenalties;
-        s.contratiempo = countdown;
-        return eTitle(s, severalPlayers);
+        s.pointsSystem = points;
+        s.survival = survival;
+        s.moreNegativePoints = doublePenalties;
+        s.countdown = countdown;
+        return boardTitle(s, severalPlayers);
     };
     EXPECT_EQ(title(true, false, false, 0), "Quillora Vesta | Puntos");
     EXPECT_EQ(title(true, true, false, 0), "Quillora Vesta | Supervivencia");
@@ -83,7 +83,7 @@ protected:
                 EXPECT_FALSE(scoring.playEnabled()) << "no new game while counting";
             }
             EXPECT_EQ(scoring.pulseWanted(),
-                      shared.settings.supervivencia && scoring.shownScore() <= 500);
+                      shared.settings.survival && scoring.shownScore() <= 500);
         }
         EXPECT_FALSE(scoring.counting()) << "the count never ends";
         EXPECT_TRUE(scoring.playEnabled());
@@ -131,8 +131,8 @@ TEST_F(ScoringTest, ALossCountsDownToTheAccountLeft) {
             {true, true, 1500, 0, 10, 0, "Quillora Vesta | Supervivencia | -Puntos | -2000", "0"}};
     for (const auto& [survival, doubled, before, revealed, total, after, title, label] : losses) {
         SCOPED_TRACE(title);
-        shared.settings.supervivencia = survival;
-        shared.settings.masPuntosNegativos = doubled;
+        shared.settings.survival = survival;
+        shared.settings.moreNegativePoints = doubled;
         double& account = survival ? shared.survivalPoints : shared.normalPoints;
         double& other = survival ? shared.normalPoints : shared.survivalPoints;
         account = before;
@@ -206,7 +206,7 @@ TEST_F(ScoringTest, NoPointsWithAFriendSeveralPlayersOrThePointsSystemOff) {
     shared.playerCount = 2;
     noPlayerScores();
     shared.playerCount = 1;
-    shared.settings.sistemaPuntos = false;
+    shared.settings.pointsSystem = false;
     noPlayerScores();
 }
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/ConfigFile.h"
-#include "support/BoardModel.h"
+#include "support/BoardModelFixture.h"
 
 #include <algorithm>
 #include <vector>
@@ -9,11 +9,11 @@
 namespace quillora {
 namespace {
 
-using Key = QlvsModel::WindowKey;
+using Key = BoardModel::WindowKey;
 
-class Survival : public BoardModel {
+class Survival : public BoardModelFixture {
 protected:
-    Survival() { shared.settings.supervivencia = true; }
+    Survival() { shared.settings.survival = true; }
     // "ABCDEFGHIJ": ten letters, `shown` of them guessed, then eight misses.
     void loseWithShown(int shown) {
         model.round().startPhrase("ABCDEFGHIJ", 1, "ANIMAL");
@@ -34,7 +34,7 @@ TEST_F(Survival, TheLastPointsLostLeaveNoPointsAndJugarRefuses) {
     EXPECT_TRUE(model.againShown());
     EXPECT_TRUE(model.pulseTimerRunning());
 
-    model.eMenuNew();
+    model.clearBoard();
     EXPECT_EQ(model.playPressed(), GameStart::Nothing);
     ASSERT_FALSE(dialogs.shown.empty());
     EXPECT_EQ(dialogs.shown.back().text,
@@ -45,12 +45,12 @@ TEST_F(Survival, TheLastPointsLostLeaveNoPointsAndJugarRefuses) {
     shared.multiplayer = false;
 
     model.againGetPoints();
-    EXPECT_FALSE(shared.settings.supervivencia);
+    EXPECT_FALSE(shared.settings.survival);
     EXPECT_TRUE(model.reopenRequested());
 }
 
 TEST_F(Survival, TheTransferDrainsTheNormalScoreTenThenOneAtATime) {
-    shared.settings.supervivencia = false;
+    shared.settings.survival = false;
     shared.survivalPoints = 0;
     shared.normalPoints = 2500;
     shared.current().stats.countWin(300, 2, false);
@@ -87,18 +87,18 @@ TEST_F(Survival, TheTransferDrainsTheNormalScoreTenThenOneAtATime) {
 }
 
 TEST_F(Survival, SwitchingSavesReopensAndIsToldOnce) {
-    shared.settings.supervivencia = false;
+    shared.settings.survival = false;
     model.keyTyped(Key::F5);
     EXPECT_TRUE(dialogs.shown.empty()) << "F5 out of survival mode does nothing";
     EXPECT_FALSE(model.reopenRequested());
 
     model.toggleSurvival();
     EXPECT_TRUE(model.reopenRequested());
-    const auto saved = readConfigLines(shared.currentSession().Archivo);
+    const auto saved = readConfigLines(shared.currentSession().filePath);
     ASSERT_TRUE(saved);
     EXPECT_EQ((*saved)[12], "1") << "line 13 keeps the mode";
 
-    QlvsModel reopened{shared, dialogs, random, desktop.lookUp};
+    BoardModel reopened{shared, dialogs, random, desktop.lookUp};
     reopened.load();
     EXPECT_EQ(reopened.windowTitle(), "Quillora Vesta | Supervivencia");
     reopened.tickAnnounce();
@@ -108,10 +108,10 @@ TEST_F(Survival, SwitchingSavesReopensAndIsToldOnce) {
 
     dialogs.answer({false, true});
     reopened.keyTyped(Key::F5);
-    EXPECT_TRUE(shared.settings.supervivencia) << "Cancel stays";
+    EXPECT_TRUE(shared.settings.survival) << "Cancel stays";
     reopened.keyTyped(Key::F5);
     EXPECT_EQ(dialogs.shown.back().text, "Está apunto de salirse del modo supervivencia.");
-    EXPECT_FALSE(shared.settings.supervivencia);
+    EXPECT_FALSE(shared.settings.survival);
     EXPECT_TRUE(reopened.reopenRequested());
 }
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "scoring/UserStats.h"
 
-#include "models/frmInicio/InicioModel.h"
-#include "support/BoardModel.h"
+#include "models/start/StartScreenModel.h"
+#include "support/BoardModelFixture.h"
 
 #include <gtest/gtest.h>
 
@@ -75,11 +75,11 @@ TEST(UserStats, AFullCounterStopsOnAWinAndFailsALossWithNothingCounted) {
 
 // --- what the board counts ----------------------------------------------------------------
 
-class BoardStatistics : public BoardModel {
+class BoardStatistics : public BoardModelFixture {
 protected:
-    BoardStatistics() { InicioLoad(shared); }
+    BoardStatistics() { loadAtStart(shared); }
     // CASA: four letters, so a win is worth 400 / (1 + strikes).
-    void play(std::u32string_view letters) { BoardModel::play("CASA", letters); }
+    void play(std::u32string_view letters) { BoardModelFixture::play("CASA", letters); }
     const Counters& normal() const { return shared.current().stats.normal(); }
 };
 
@@ -90,7 +90,7 @@ TEST_F(BoardStatistics, GamesAreCountedInTheModeInPlay) {
     expectCounters(normal(), {9, 2, 200, 200}, "a loss");
     EXPECT_EQ(shared.normalPoints, -800);
 
-    shared.settings.supervivencia = true;
+    shared.settings.survival = true;
     play(U"cas");
     expectCounters(normal(), {9, 2, 200, 200}, "survival leaves normal alone");
     expectCounters(shared.current().stats.survival(), {0, 1, 400, 400}, "survival win");
@@ -112,7 +112,7 @@ TEST_F(BoardStatistics, TheCountsStayWithTheirUserAcrossASwitchAndANewBoard) {
     ASSERT_EQ(shared.currentSlot, 1);
     play(U"bdefghij");
 
-    QlvsModel next{shared, dialogs, random, desktop.lookUp};
+    BoardModel next{shared, dialogs, random, desktop.lookUp};
     next.stats().open();
     EXPECT_EQ(next.stats().value(StatsPanelModel::Games, false), "1");
     EXPECT_EQ(next.stats().value(StatsPanelModel::Errors, false), "8");
@@ -120,7 +120,7 @@ TEST_F(BoardStatistics, TheCountsStayWithTheirUserAcrossASwitchAndANewBoard) {
 
     next.switchSession(0);
     ASSERT_EQ(shared.currentSlot, 0);
-    QlvsModel main{shared, dialogs, random, desktop.lookUp};
+    BoardModel main{shared, dialogs, random, desktop.lookUp};
     main.stats().open();
     EXPECT_EQ(main.stats().value(StatsPanelModel::Games, false), "1");
     EXPECT_EQ(main.stats().value(StatsPanelModel::Best, false), "400");

@@ -50,7 +50,7 @@ class ConfigFileTest : public ::testing::Test {
 protected:
     void SetUp() override {
         shared.dataFolder = folder;
-        shared.currentSession().Archivo = file().string();
+        shared.currentSession().filePath = file().string();
     }
 
     fs::path file() const { return folder / "QuilloraVS5.txt"; }
@@ -58,8 +58,8 @@ protected:
     void write(const std::vector<std::string>& lines) { writeRaw(joined(lines)); }
     void load() {
         clearForBoardLoad(shared);
-        DataLoad(shared, random);
-        ConfLoad(shared);
+        readSessionFile(shared, random);
+        applyLineValues(shared);
     }
     std::vector<std::string> savedLines() const {
         return readConfigLines(file()).value_or(std::vector<std::string>{});
@@ -103,22 +103,22 @@ TEST_F(ConfigFileTest, AFileFromAnotherCopyLoadsLineByLine) {
         writeRaw(joined(fileLines(), ending));
         load();
         const Settings& s = shared.settings;
-        EXPECT_EQ(s.fondo, "fondo.jpg");
-        EXPECT_EQ(s.carpetaFondo, "C:\\Fotos");
-        EXPECT_EQ(s.estilo, 2);
-        EXPECT_TRUE(s.letraOpaca && !s.letraBlanca && s.lineaBlanca && !s.tamanoReal);
-        EXPECT_TRUE(s.sonidos && s.fraseAutomatica && s.animacion && s.sistemaPuntos);
-        EXPECT_FALSE(s.supervivencia);
-        EXPECT_EQ(s.contratiempo, 1);
-        EXPECT_EQ(s.tema, 12);
-        EXPECT_EQ(s.nombre, "Ana");
+        EXPECT_EQ(s.backgroundPicture, "fondo.jpg");
+        EXPECT_EQ(s.pictureFolder, "C:\\Fotos");
+        EXPECT_EQ(s.letterStyle, 2);
+        EXPECT_TRUE(s.opaqueLetters && !s.whiteLetters && s.whiteLines && !s.realSize);
+        EXPECT_TRUE(s.sounds && s.autoPhrase && s.animated && s.pointsSystem);
+        EXPECT_FALSE(s.survival);
+        EXPECT_EQ(s.countdown, 1);
+        EXPECT_EQ(s.theme, 12);
+        EXPECT_EQ(s.userName, "Ana");
         EXPECT_EQ(shared.currentSession().displayName, "Ana");
-        EXPECT_TRUE(s.usarEnciclopedia) << "line 16 is the encyclopedia";
-        EXPECT_FALSE(s.masPuntosNegativos) << "line 17 is the points option";
-        EXPECT_EQ(s.colorJuego, (Rgb{255, 0, 0}));
+        EXPECT_TRUE(s.useEncyclopedia) << "line 16 is the encyclopedia";
+        EXPECT_FALSE(s.moreNegativePoints) << "line 17 is the points option";
+        EXPECT_EQ(s.gameColour, (Rgb{255, 0, 0}));
         EXPECT_EQ(shared.palette.gameColour, (Rgb{255, 0, 0}));
-        EXPECT_FALSE(s.sinBotonJugar);
-        EXPECT_TRUE(s.tecladoPermanente);
+        EXPECT_FALSE(s.playButtonHidden);
+        EXPECT_TRUE(s.keyboardKeptOpen);
     }
 }
 
@@ -143,15 +143,15 @@ TEST_F(ConfigFileTest, EachLineTakesItsBounds) {
         {14, "-1", 0},    {14, "x", 0},     {18, "", blue},    {18, "255", 255}, {18, "abc", 0},
         {18, "-1", blue}, {18, over, blue}, {18, kNines, blue}};
     for (const auto& [line, text, expected] : table) {
-        shared.settings.tema = 33;
+        shared.settings.theme = 33;
         write(fileLines({{line, text}}));
         load();
         const Settings& s = shared.settings;
-        const std::map<int, int> read{{3, s.estilo},
-                                      {4, s.letraOpaca},
-                                      {11, s.tema},
-                                      {14, s.contratiempo},
-                                      {18, static_cast<int>(s.colorJuego.packed())}};
+        const std::map<int, int> read{{3, s.letterStyle},
+                                      {4, s.opaqueLetters},
+                                      {11, s.theme},
+                                      {14, s.countdown},
+                                      {18, static_cast<int>(s.gameColour.packed())}};
         EXPECT_EQ(read.at(line), expected) << "line " << line << " " << text.substr(0, 12);
     }
 }
@@ -161,9 +161,9 @@ TEST_F(ConfigFileTest, AShortOldFileLoadsWithDefaultsAndSavesTwentyLines) {
     lines.resize(17);
     write(lines);
     load();
-    EXPECT_EQ(shared.settings.colorJuego, kDefaultBlue);
-    EXPECT_FALSE(shared.settings.sinBotonJugar || shared.settings.tecladoPermanente);
-    ASSERT_TRUE(ConfSave(shared, dialogs));
+    EXPECT_EQ(shared.settings.gameColour, kDefaultBlue);
+    EXPECT_FALSE(shared.settings.playButtonHidden || shared.settings.keyboardKeptOpen);
+    ASSERT_TRUE(saveSettings(shared, dialogs));
     ASSERT_EQ(savedLines().size(), 20U);
     EXPECT_EQ(slurp(file()), joined(savedLines())) << "every line ends in CR LF";
     EXPECT_EQ(savedLines()[17], "15759390");
@@ -173,20 +173,20 @@ TEST_F(ConfigFileTest, SavingWritesEveryLineFromTheLiveOptions) {
     write(fileLines({{4, "2"}, {15, ""}})); // a flag of 2, no name
     load();
     shared.themeChosen = false;
-    ASSERT_TRUE(ConfSave(shared, dialogs));
+    ASSERT_TRUE(saveSettings(shared, dialogs));
     // The automatic phrase needs a chosen theme.
     EXPECT_EQ(savedLines(), fileLines({{4, "1"}, {9, "0"}, {15, "Quillora VS"}}));
-    EXPECT_EQ(shared.settings.nombre, "Quillora VS");
+    EXPECT_EQ(shared.settings.userName, "Quillora VS");
 
     shared.themeChosen = true;
-    ASSERT_TRUE(ConfSave(shared, dialogs));
+    ASSERT_TRUE(saveSettings(shared, dialogs));
     EXPECT_EQ(savedLines()[8], "1");
     shared.tourPosition = 4;
-    ASSERT_TRUE(ConfSave(shared, dialogs));
+    ASSERT_TRUE(saveSettings(shared, dialogs));
     EXPECT_EQ(savedLines()[8], "0") << "never during a tour";
 
-    shared.settings.fondo = "a\r\nb";
-    ASSERT_TRUE(ConfSave(shared, dialogs));
+    shared.settings.backgroundPicture = "a\r\nb";
+    ASSERT_TRUE(saveSettings(shared, dialogs));
     const auto saved = savedLines();
     ASSERT_EQ(saved.size(), 20U) << "a line break in a value shifts no line";
     EXPECT_EQ(saved[14], "Quillora VS");
@@ -195,7 +195,7 @@ TEST_F(ConfigFileTest, SavingWritesEveryLineFromTheLiveOptions) {
 TEST_F(ConfigFileTest, AMissingFileGivesTheDefaultsAndKeepsNameAndColour) {
     // What the main menu leaves when it cannot read the file either, over
     // raw lines of an earlier user.
-    shared.settings.nombre = "Quillora VS";
+    shared.settings.userName = "Quillora VS";
     shared.palette.gameColour = Rgb{255, 0, 0};
     write(fileLines());
     load();
@@ -203,23 +203,23 @@ TEST_F(ConfigFileTest, AMissingFileGivesTheDefaultsAndKeepsNameAndColour) {
     random.queue({0.5});
     load();
     const Settings& s = shared.settings;
-    EXPECT_EQ(s.estilo, 1);
-    EXPECT_TRUE(s.sonidos && s.sistemaPuntos);
-    EXPECT_FALSE(s.letraOpaca || s.fraseAutomatica || s.animacion || s.tecladoPermanente);
-    EXPECT_EQ(s.contratiempo, 0);
-    EXPECT_EQ(s.fondo, "");
-    EXPECT_EQ(s.tema, 25);
-    EXPECT_EQ(s.nombre, "Ana");
-    EXPECT_EQ(s.colorJuego, (Rgb{255, 0, 0}));
+    EXPECT_EQ(s.letterStyle, 1);
+    EXPECT_TRUE(s.sounds && s.pointsSystem);
+    EXPECT_FALSE(s.opaqueLetters || s.autoPhrase || s.animated || s.keyboardKeptOpen);
+    EXPECT_EQ(s.countdown, 0);
+    EXPECT_EQ(s.backgroundPicture, "");
+    EXPECT_EQ(s.theme, 25);
+    EXPECT_EQ(s.userName, "Ana");
+    EXPECT_EQ(s.gameColour, (Rgb{255, 0, 0}));
     EXPECT_FALSE(fs::exists(file())) << "reading never creates the file";
 
-    shared.settings.nombre = "Quillora VS";
+    shared.settings.userName = "Quillora VS";
     shared.palette.gameColour = kDefaultBlue;
     random.queue({0.0});
     load();
     EXPECT_EQ(shared.currentSession().displayName, "Quillora VS");
-    EXPECT_EQ(s.colorJuego, kDefaultBlue);
-    EXPECT_EQ(s.tema, 1);
+    EXPECT_EQ(s.gameColour, kDefaultBlue);
+    EXPECT_EQ(s.theme, 1);
 }
 
 TEST_F(ConfigFileTest, FilesThatAreNotConfigurationsNeitherCrashNorChange) {
@@ -227,7 +227,7 @@ TEST_F(ConfigFileTest, FilesThatAreNotConfigurationsNeitherCrashNorChange) {
     writeRaw(binary);
     random.queue({0.2});
     load();
-    EXPECT_EQ(shared.settings.estilo, 1) << "a picture loads as a missing file";
+    EXPECT_EQ(shared.settings.letterStyle, 1) << "a picture loads as a missing file";
     EXPECT_EQ(slurp(file()), binary);
 
     writeRaw(std::string(kMaxConfigBytes, '\n'));
@@ -236,32 +236,32 @@ TEST_F(ConfigFileTest, FilesThatAreNotConfigurationsNeitherCrashNorChange) {
     writeRaw(huge);
     random.queue({0.2});
     load();
-    EXPECT_EQ(shared.settings.tema, 10) << "too large to be ours: loads as missing";
+    EXPECT_EQ(shared.settings.theme, 10) << "too large to be ours: loads as missing";
     EXPECT_EQ(slurp(file()), huge);
 
     fs::remove(file());
     fs::create_directory(file());
     random.queue({0.2});
     load();
-    EXPECT_EQ(shared.settings.estilo, 1);
-    EXPECT_FALSE(ConfSave(shared, dialogs)) << "a folder is never written over";
+    EXPECT_EQ(shared.settings.letterStyle, 1);
+    EXPECT_FALSE(saveSettings(shared, dialogs)) << "a folder is never written over";
     EXPECT_TRUE(fs::is_directory(file()));
 }
 
 TEST_F(ConfigFileTest, AFreshFileHoldsTheNewUsersDefaults) {
     const fs::path fresh = folder / "nuevo.txt";
     random.queue({0.7, 0.01});
-    ASSERT_TRUE(NewConfFile(fresh, "Beto", random));
+    ASSERT_TRUE(writeNewUserFile(fresh, "Beto", random));
     const std::vector<std::string> expected{"",     "",  "1", "0",        "0", "0", "0",
                                             "1",    "0", "0", "35",       "1", "0", "0",
                                             "Beto", "0", "0", "15759390", "0", "0"};
     EXPECT_EQ(readConfigLines(fresh), expected);
 
-    ASSERT_TRUE(NewConfFile(fresh, "Beto", random));
+    ASSERT_TRUE(writeNewUserFile(fresh, "Beto", random));
     EXPECT_EQ(readConfigLines(fresh).value_or(expected)[10], "0");
-    shared.currentSession().Archivo = fresh.string();
+    shared.currentSession().filePath = fresh.string();
     load();
-    EXPECT_EQ(shared.settings.tema, 1) << "a theme drawn as 0 loads as the first";
+    EXPECT_EQ(shared.settings.theme, 1) << "a theme drawn as 0 loads as the first";
 }
 
 TEST_F(ConfigFileTest, UserNamesNeverLeaveTheDataFolder) {
@@ -277,16 +277,16 @@ TEST_F(ConfigFileTest, UserNamesNeverLeaveTheDataFolder) {
         << "no user may take the main session's file";
 
     random.queue({0.5});
-    ASSERT_TRUE(NewConfFile(sessionFilePath(folder, "../x"), "../x", random));
+    ASSERT_TRUE(writeNewUserFile(sessionFilePath(folder, "../x"), "../x", random));
     EXPECT_TRUE(fs::exists(folder / "_._x.txt"));
     EXPECT_FALSE(fs::exists(folder.parent_path() / "x.txt"));
 }
 
 TEST_F(ConfigFileTest, SavingCreatesTheFolderAndLeavesNoTemporaryFile) {
     const fs::path nested = folder / "quillora-vesta" / "QuilloraVS5.txt";
-    shared.currentSession().Archivo = nested.string();
-    ASSERT_TRUE(ConfSave(shared, dialogs));
-    ASSERT_TRUE(ConfSave(shared, dialogs));
+    shared.currentSession().filePath = nested.string();
+    ASSERT_TRUE(saveSettings(shared, dialogs));
+    ASSERT_TRUE(saveSettings(shared, dialogs));
     std::vector<fs::path> entries;
     for (const auto& entry : fs::directory_iterator(nested.parent_path())) {
         entries.push_back(entry.path());
@@ -294,8 +294,8 @@ TEST_F(ConfigFileTest, SavingCreatesTheFolderAndLeavesNoTemporaryFile) {
     EXPECT_EQ(entries, std::vector<fs::path>{nested});
 
     writeRaw("not a folder");
-    shared.currentSession().Archivo = (file() / "QuilloraVS5.txt").string();
-    EXPECT_FALSE(ConfSave(shared, dialogs));
+    shared.currentSession().filePath = (file() / "QuilloraVS5.txt").string();
+    EXPECT_FALSE(saveSettings(shared, dialogs));
     EXPECT_EQ(slurp(file()), "not a folder");
 }
 
@@ -310,7 +310,7 @@ TEST_F(ConfigFileTest, TheOldEndOfFileMarkIsNotPartOfTheText) {
     }
     writeRaw(lastLineOpen + "\x1A");
     load();
-    EXPECT_TRUE(shared.settings.tecladoPermanente) << "line 20 reads \"1\", mark and all";
+    EXPECT_TRUE(shared.settings.keyboardKeptOpen) << "line 20 reads \"1\", mark and all";
 
     // Anywhere else it is a control character like any other: no text file.
     writeRaw("\x1A" + text);
@@ -324,12 +324,12 @@ TEST_F(ConfigFileTest, ABigFileLoadsItsTwentyLinesAndIsCopiedBeforeItIsReplaced)
     }
     writeRaw(bytes);
     load();
-    EXPECT_EQ(shared.settings.nombre, "Ana");
-    EXPECT_EQ(shared.settings.tema, 12);
-    EXPECT_EQ(shared.settings.colorJuego, (Rgb{255, 0, 0}));
+    EXPECT_EQ(shared.settings.userName, "Ana");
+    EXPECT_EQ(shared.settings.theme, 12);
+    EXPECT_EQ(shared.settings.gameColour, (Rgb{255, 0, 0}));
 
     shared.themeChosen = true; // so line 9 is written back as it was
-    ASSERT_TRUE(ConfSave(shared, dialogs));
+    ASSERT_TRUE(saveSettings(shared, dialogs));
     EXPECT_EQ(savedLines(), fileLines());
     EXPECT_EQ(slurp(folder / "QuilloraVS5.txt.bak"), bytes) << "nothing of the player's is lost";
     EXPECT_TRUE(dialogs.shown.empty());
@@ -342,19 +342,19 @@ TEST_F(ConfigFileTest, AnUnreadableFileIsCopiedAsideWithoutWritingOverAnEarlierC
     writeRaw(picture);
     random.queue({0.2});
     load();
-    ASSERT_TRUE(ConfSave(shared, dialogs));
+    ASSERT_TRUE(saveSettings(shared, dialogs));
     EXPECT_EQ(savedLines().size(), 20U);
     EXPECT_EQ(slurp(firstCopy), "una copia anterior");
     EXPECT_EQ(slurp(folder / "QuilloraVS5.txt.bak2"), picture);
 
     // The file is the game's own now: later saves copy nothing more.
-    ASSERT_TRUE(ConfSave(shared, dialogs));
+    ASSERT_TRUE(saveSettings(shared, dialogs));
     EXPECT_FALSE(fs::exists(folder / "QuilloraVS5.txt.bak3"));
 
     // Twenty lines and then more: copied as well, since the save drops the rest.
     writeRaw(joined(fileLines()) + "notas\r\n");
     load();
-    ASSERT_TRUE(ConfSave(shared, dialogs));
+    ASSERT_TRUE(saveSettings(shared, dialogs));
     EXPECT_NE(slurp(folder / "QuilloraVS5.txt.bak3").find("\r\nnotas\r\n"), std::string::npos);
 }
 
@@ -367,8 +367,8 @@ TEST_F(ConfigFileTest, SavingWritesThroughALinkAndKeepsTheFileMode) {
     fs::create_symlink(fs::path("elsewhere") / "real.txt", file());
     fs::permissions(real, fs::perms::owner_read | fs::perms::owner_write);
     load();
-    shared.settings.nombre = "Beto";
-    ASSERT_TRUE(ConfSave(shared, dialogs));
+    shared.settings.userName = "Beto";
+    ASSERT_TRUE(saveSettings(shared, dialogs));
     EXPECT_TRUE(fs::is_symlink(file()));
     EXPECT_EQ(fs::read_symlink(file()), fs::path("elsewhere") / "real.txt");
     EXPECT_EQ(readConfigLines(real).value_or(fileLines())[14], "Beto");
@@ -381,13 +381,13 @@ TEST_F(ConfigFileTest, SavingWritesThroughALinkAndKeepsTheFileMode) {
     write(fileLines());
     const fs::perms odd = fs::perms::owner_read | fs::perms::owner_write | fs::perms::others_read;
     fs::permissions(file(), odd);
-    ASSERT_TRUE(ConfSave(shared, dialogs));
+    ASSERT_TRUE(saveSettings(shared, dialogs));
     EXPECT_EQ(fs::status(file()).permissions(), odd);
 
     // A link to a file not made yet makes it, and stays a link.
     fs::remove(file());
     fs::create_symlink("nuevo.txt", file());
-    ASSERT_TRUE(ConfSave(shared, dialogs));
+    ASSERT_TRUE(saveSettings(shared, dialogs));
     EXPECT_TRUE(fs::is_symlink(file()));
     EXPECT_EQ(readConfigLines(folder / "nuevo.txt").value_or(fileLines())[14], "Beto");
 }
@@ -396,12 +396,12 @@ TEST_F(ConfigFileTest, AFailedSaveKeepsTheOldFileAndTellsThePlayerOnce) {
     write(fileLines());
     const std::string before = slurp(file());
     load();
-    shared.settings.nombre = "Beto";
+    shared.settings.userName = "Beto";
     const std::string told = "No se pudo guardar la configuración en " + file().string() + ".";
     {
         RefusedWrites refused;
-        EXPECT_FALSE(ConfSave(shared, dialogs));
-        EXPECT_FALSE(ConfSave(shared, dialogs));
+        EXPECT_FALSE(saveSettings(shared, dialogs));
+        EXPECT_FALSE(saveSettings(shared, dialogs));
     }
     EXPECT_EQ(slurp(file()), before);
     EXPECT_EQ(std::distance(fs::directory_iterator(folder), {}), 1) << "no temporary file left";
@@ -410,16 +410,16 @@ TEST_F(ConfigFileTest, AFailedSaveKeepsTheOldFileAndTellsThePlayerOnce) {
     EXPECT_EQ(dialogs.shown[0].icon, Dialogs::Icon::Information);
 
     // Once the file saves again, a new failure is news.
-    ASSERT_TRUE(ConfSave(shared, dialogs));
+    ASSERT_TRUE(saveSettings(shared, dialogs));
     {
         RefusedWrites refused;
-        EXPECT_FALSE(ConfSave(shared, dialogs));
+        EXPECT_FALSE(saveSettings(shared, dialogs));
     }
     EXPECT_EQ(dialogs.shown.size(), 2U);
 
     // Another file that fails is told of by its own name.
-    shared.currentSession().Archivo = (file() / "QuilloraVS5.txt").string();
-    EXPECT_FALSE(ConfSave(shared, dialogs));
+    shared.currentSession().filePath = (file() / "QuilloraVS5.txt").string();
+    EXPECT_FALSE(saveSettings(shared, dialogs));
     ASSERT_EQ(dialogs.shown.size(), 3U);
     EXPECT_NE(dialogs.shown[2].text.find("QuilloraVS5.txt/QuilloraVS5.txt"), std::string::npos);
 }

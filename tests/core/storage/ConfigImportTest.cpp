@@ -90,7 +90,7 @@ protected:
 TEST_F(ConfigImportTest, ANoToTheVersion5QuestionSilencesBothUntilTheProgramEnds) {
     putBoth();
     dialogs.answer({false});
-    EXPECT_EQ(iFound1(shared, dialogs), Outcome::Declined);
+    EXPECT_EQ(offerOldConfig(shared, dialogs), Outcome::Declined);
     ASSERT_EQ(dialogs.shown.size(), 1U);
     EXPECT_TRUE(dialogs.shown[0].question);
     EXPECT_EQ(dialogs.shown[0].kind, Dialogs::Question::YesNo);
@@ -98,9 +98,9 @@ TEST_F(ConfigImportTest, ANoToTheVersion5QuestionSilencesBothUntilTheProgramEnds
 
     // Later showings of the menu in the same run: the version 4 file is not
     // offered either, even once the version 5 one is gone.
-    EXPECT_EQ(iFound1(shared, dialogs), Outcome::NotOffered);
+    EXPECT_EQ(offerOldConfig(shared, dialogs), Outcome::NotOffered);
     fs::remove(version5());
-    EXPECT_EQ(iFound1(shared, dialogs), Outcome::NotOffered);
+    EXPECT_EQ(offerOldConfig(shared, dialogs), Outcome::NotOffered);
     EXPECT_EQ(dialogs.shown.size(), 1U);
     EXPECT_FALSE(fs::exists(mainFile()));
     EXPECT_EQ(slurp(version4()), kVersion4);
@@ -109,7 +109,7 @@ TEST_F(ConfigImportTest, ANoToTheVersion5QuestionSilencesBothUntilTheProgramEnds
     SharedState nextRun;
     nextRun.dataFolder = folder;
     dialogs.answer({false});
-    EXPECT_EQ(iFound1(nextRun, dialogs), Outcome::Declined);
+    EXPECT_EQ(offerOldConfig(nextRun, dialogs), Outcome::Declined);
     EXPECT_EQ(questions(), (Texts{kAskVersion5, kAskVersion4}));
 }
 
@@ -125,7 +125,7 @@ TEST_F(ConfigImportTest, AMainFileOfAnyKindMeansNoQuestion) {
         SCOPED_TRACE(kind);
         make();
         const auto before = contents();
-        EXPECT_EQ(iFound1(shared, dialogs), Outcome::NotOffered);
+        EXPECT_EQ(offerOldConfig(shared, dialogs), Outcome::NotOffered);
         EXPECT_EQ(contents(), before);
         fs::remove_all(mainFile());
     }
@@ -174,14 +174,14 @@ TEST_F(ConfigImportTest, EveryCopiedLineEndsInCrLfAndNothingElseChanges) {
         put(version5(), old);
         put(version4(), kVersion4);
         dialogs.answer({true});
-        EXPECT_EQ(iFound1(run, dialogs), Outcome::Copied);
+        EXPECT_EQ(offerOldConfig(run, dialogs), Outcome::Copied);
         EXPECT_EQ(slurp(mainFile()), copy);
         EXPECT_EQ(slurp(version5()), old) << "the old file stays as it was";
         EXPECT_EQ(questions(), Texts{kAskVersion5})
             << "no version 4 question after the version 5 one";
 
         // The main file exists now: no more offers.
-        EXPECT_EQ(iFound1(run, dialogs), Outcome::NotOffered);
+        EXPECT_EQ(offerOldConfig(run, dialogs), Outcome::NotOffered);
         EXPECT_EQ(dialogs.shown.size(), 1U);
         EXPECT_FALSE(run.importDeclined);
     }
@@ -190,14 +190,14 @@ TEST_F(ConfigImportTest, EveryCopiedLineEndsInCrLfAndNothingElseChanges) {
 TEST_F(ConfigImportTest, TheVersion4FileIsOfferedWhenThereIsNoVersion5) {
     put(version4(), "Ana\nRoja");
     dialogs.answer({false});
-    EXPECT_EQ(iFound1(shared, dialogs), Outcome::Declined);
+    EXPECT_EQ(offerOldConfig(shared, dialogs), Outcome::Declined);
     EXPECT_TRUE(shared.importDeclined);
     EXPECT_FALSE(fs::exists(mainFile()));
 
     SharedState nextRun;
     nextRun.dataFolder = folder;
     dialogs.answer({true});
-    EXPECT_EQ(iFound1(nextRun, dialogs), Outcome::Copied);
+    EXPECT_EQ(offerOldConfig(nextRun, dialogs), Outcome::Copied);
     EXPECT_EQ(questions(), (Texts{kAskVersion4, kAskVersion4}));
     EXPECT_EQ(slurp(mainFile()), "Ana\r\nRoja\r\n");
     EXPECT_FALSE(nextRun.importDeclined);
@@ -207,7 +207,7 @@ TEST_F(ConfigImportTest, TheCopyGoesThroughALinkedMainFileAndMakesItsFolder) {
     put(version5(), "Ana\n255");
     fs::create_symlink(fs::path("guardado") / "mio.txt", mainFile());
     dialogs.answer({true});
-    EXPECT_EQ(iFound1(shared, dialogs), Outcome::Copied);
+    EXPECT_EQ(offerOldConfig(shared, dialogs), Outcome::Copied);
     EXPECT_TRUE(fs::is_symlink(mainFile()));
     EXPECT_EQ(slurp(folder / "guardado" / "mio.txt"), "Ana\r\n255\r\n");
 }
@@ -237,7 +237,7 @@ TEST_P(OldFiles, OnlyAReadableRegularFileWithinTheLimitIsOffered) {
     // first counts as missing.
     put(version4(), kVersion4);
     dialogs.answer({true});
-    EXPECT_EQ(iFound1(shared, dialogs), Outcome::Copied);
+    EXPECT_EQ(offerOldConfig(shared, dialogs), Outcome::Copied);
     EXPECT_EQ(questions(), Texts{old.countsAsMissing ? kAskVersion4 : kAskVersion5});
     EXPECT_EQ(slurp(mainFile()) == kVersion4, old.countsAsMissing);
 
@@ -249,7 +249,8 @@ TEST_P(OldFiles, OnlyAReadableRegularFileWithinTheLimitIsOffered) {
     if (!old.countsAsMissing) {
         dialogs.answer({false});
     }
-    EXPECT_EQ(iFound1(run, dialogs), old.countsAsMissing ? Outcome::NotOffered : Outcome::Declined);
+    EXPECT_EQ(offerOldConfig(run, dialogs),
+              old.countsAsMissing ? Outcome::NotOffered : Outcome::Declined);
     EXPECT_EQ(questions().size(), old.countsAsMissing ? 1U : 2U);
     EXPECT_FALSE(fs::exists(fs::symlink_status(other.path() / "QuilloraVS5.txt")));
 }
@@ -322,7 +323,7 @@ TEST_P(FailedCopies, LeaveNoMainFileAndAreOfferedAgain) {
         if (GetParam().diskFull) {
             refused.emplace();
         }
-        outcome = iFound1(shared, dialogs);
+        outcome = offerOldConfig(shared, dialogs);
     }
     EXPECT_EQ(outcome, Outcome::Failed);
     ASSERT_EQ(dialogs.shown.size(), 2U);
@@ -334,7 +335,7 @@ TEST_P(FailedCopies, LeaveNoMainFileAndAreOfferedAgain) {
 
     // The next showing of the menu offers it again.
     dialogs.answer({false});
-    EXPECT_EQ(iFound1(shared, dialogs), Outcome::Declined);
+    EXPECT_EQ(offerOldConfig(shared, dialogs), Outcome::Declined);
     EXPECT_EQ(questions(), (Texts{kAskVersion5, kAskVersion5}));
 }
 

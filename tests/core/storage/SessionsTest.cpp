@@ -48,7 +48,7 @@ TEST_F(SessionsTest, AddingWithoutANameUsesTheSlotNumberAndWritesAFreshFile) {
     EXPECT_EQ(add(), "Usuario 2");
     EXPECT_EQ(shared.currentSlot, 1);
     const fs::path file = folder / "Usuario 2.txt";
-    EXPECT_EQ(shared.currentSession().Archivo, file.string());
+    EXPECT_EQ(shared.currentSession().filePath, file.string());
     EXPECT_EQ(shared.currentSession().displayName, "Usuario 2");
     EXPECT_EQ(shared.survivalPoints, 1000);
     EXPECT_EQ(shared.correctionsLeft, 3);
@@ -57,19 +57,19 @@ TEST_F(SessionsTest, AddingWithoutANameUsesTheSlotNumberAndWritesAFreshFile) {
 
     // A name that looks like a path still makes a file in the data folder.
     add("../fuera");
-    EXPECT_EQ(fs::path(shared.currentSession().Archivo).parent_path(), folder);
-    EXPECT_TRUE(fs::exists(shared.currentSession().Archivo));
+    EXPECT_EQ(fs::path(shared.currentSession().filePath).parent_path(), folder);
+    EXPECT_TRUE(fs::exists(shared.currentSession().filePath));
 }
 
 TEST_F(SessionsTest, SwitchingBackRestoresWhatTheUserLeftAndTheLockStaysWithItsUser) {
     const auto left = [this] {
-        return std::tuple{shared.normalPoints, shared.survivalPoints,  shared.settings.tema,
+        return std::tuple{shared.normalPoints, shared.survivalPoints,  shared.settings.theme,
                           shared.history,      shared.correctionsLeft, shared.locked,
                           shared.key};
     };
     shared.normalPoints = 450;
     shared.survivalPoints = 300;
-    shared.settings.tema = 7;
+    shared.settings.theme = 7;
     shared.history = "CASA\r\nPERRO";
     shared.correctionsLeft = 1;
     const auto first = left();
@@ -144,7 +144,7 @@ TEST_F(SessionsTest, DroppedFilesBecomeSessionsAndOtherFilesAreLeftAlone) {
                                        unnamed.string()},
                                       false));
     EXPECT_EQ(shared.sessions[1].record.displayName, "Ana");
-    EXPECT_EQ(shared.sessions[1].record.Archivo, named.string());
+    EXPECT_EQ(shared.sessions[1].record.filePath, named.string());
     EXPECT_EQ(shared.sessions[2].record.displayName, "Usuario 3");
     EXPECT_NE(slurp(unnamed).find("Usuario 3"), std::string::npos)
         << "a file without a name gets a fresh one";
@@ -160,7 +160,7 @@ TEST_F(SessionsTest, ADroppedFileEndingWithTheOldEndOfFileMarkBecomesASession) {
                                                                  "\x1A");
     ASSERT_TRUE(sessions.addFromFiles({dropped.string()}, false));
     EXPECT_EQ(shared.currentSession().displayName, "María");
-    EXPECT_EQ(shared.currentSession().Archivo, dropped.string());
+    EXPECT_EQ(shared.currentSession().filePath, dropped.string());
 }
 
 TEST_F(SessionsTest, ANameWhoseFileCannotExistIsRefused) {

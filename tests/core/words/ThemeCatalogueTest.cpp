@@ -42,7 +42,7 @@ std::u32string laidOut(const std::vector<std::u32string>& words) {
 
 TEST(ThemeCatalogueTest, ThemeLoadFillsFiftyDistinctNamesAfterNoTheme) {
     ThemeCatalogue catalogue;
-    catalogue.ThemeLoad();
+    catalogue.loadThemeNames();
     EXPECT_EQ(catalogue.themeName(0), "????");
     EXPECT_EQ(catalogue.themeName(2), "ASTRONOMÍA");
     EXPECT_EQ(catalogue.themeName(28), "INTERNET");
@@ -61,17 +61,17 @@ TEST(ThemeCatalogueTest, ThemeLoadFillsFiftyDistinctNamesAfterNoTheme) {
 
 TEST(ThemeCatalogueTest, PhraseLoadFillsTheThemeAndIgnoresThemesWithoutPhrases) {
     ThemeCatalogue catalogue;
-    catalogue.PhraseLoad(1);
+    catalogue.loadPhrases(1);
     EXPECT_EQ(catalogue.phrase(1), "GALLINA");
-    catalogue.PhraseLoad(50);
+    catalogue.loadPhrases(50);
     EXPECT_EQ(catalogue.phrase(20), "ZANAHORIA");
-    catalogue.PhraseLoad(28);
+    catalogue.loadPhrases(28);
     EXPECT_EQ(catalogue.phrase(10), "CORREO        ELECTRONICO");
 
-    catalogue.PhraseLoad(3);
-    catalogue.PhraseLoad(0);
-    catalogue.PhraseLoad(51);
-    catalogue.PhraseLoad(-1);
+    catalogue.loadPhrases(3);
+    catalogue.loadPhrases(0);
+    catalogue.loadPhrases(51);
+    catalogue.loadPhrases(-1);
     for (int index = 1; index <= ThemeCatalogue::kPhrasesPerTheme; ++index)
         EXPECT_EQ(catalogue.phrase(index), ThemeCatalogue::storedPhrase(3, index)) << index;
     EXPECT_EQ(catalogue.phrase(3), "CODIGO        GENETICO");

@@ -35,7 +35,7 @@ TEST(Tips, DrawsGiveTheTenTipsEvenlyAndNeverTheFirst) {
     SweepRandom sweep(1100);
     std::array<int, kTipCount + 1> counts{};
     for (int i = 0; i < 10000; ++i) {
-        const int n = eNuevoTip(sweep);
+        const int n = drawTipNumber(sweep);
         ASSERT_GE(n, 1);
         ASSERT_LE(n, 10);
         ++counts[static_cast<std::size_t>(n)];
@@ -49,7 +49,7 @@ TEST(Tips, DrawsGiveTheTenTipsEvenlyAndNeverTheFirst) {
     ClockRandom clock;
     std::array<bool, kTipCount + 1> seen{};
     for (int i = 0; i < 3000; ++i) {
-        const int n = eNuevoTip(clock);
+        const int n = drawTipNumber(clock);
         ASSERT_TRUE(n >= 1 && n <= 10) << n;
         seen[static_cast<std::size_t>(n)] = true;
     }
@@ -73,7 +73,7 @@ TEST(Tips, TheNumberIsWorkedOutInSinglePrecision) {
 
     QueuedRandom random;
     random.queue({0.0909, -0.5, std::numeric_limits<double>::quiet_NaN(), 0.99999});
-    EXPECT_EQ(eNuevoTip(random), 10) << "each 0 is drawn again";
+    EXPECT_EQ(drawTipNumber(random), 10) << "each 0 is drawn again";
 
     EXPECT_EQ(tipText(5), "Para jugar sin límites, juegue sin el modo supervivencia.");
     EXPECT_EQ(tipText(kTipCount), "");

@@ -4,9 +4,9 @@
 #include "support/BoardFixture.h"
 #include "support/Draws.h"
 #include "support/Keys.h"
-#include "windows/frmList/frmList.h"
-#include "windows/frmNames/frmNames.h"
-#include "windows/frmWord1/frmWord1.h"
+#include "windows/friendPhrase/FriendPhraseWindow.h"
+#include "windows/players/PlayersWindow.h"
+#include "windows/themesList/ThemesListWindow.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
@@ -18,10 +18,10 @@ namespace {
 // The windows the board opens before a game, as a player who uses only the
 // keys, or a screen reader, finds them; and the phrase they must keep to
 // themselves.
-class PhraseWindows : public BoardWindow {
+class PhraseWindows : public BoardWindowTest {
 protected:
     void SetUp() override {
-        BoardWindow::SetUp();
+        BoardWindowTest::SetUp();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     }
     static void activate(QWidget* opened) { ASSERT_TRUE(takeKeys(opened)); }
@@ -30,7 +30,7 @@ protected:
 TEST_F(PhraseWindows, TheDrawnPhraseIsNeverHeardAndTheThemesAreChosenFromTheKeys) {
     random.queue({phrase(3)});
     QTest::keyClick(window.get(), Qt::Key_Return);
-    frmWord2* words = window->themeWindow();
+    ThemeWindow* words = window->themeWindow();
     ASSERT_NE(words, nullptr);
     activate(words);
     const QString drawn = QString::fromStdString(window->model().round().drawnPhrase());
@@ -50,7 +50,7 @@ TEST_F(PhraseWindows, TheDrawnPhraseIsNeverHeardAndTheThemesAreChosenFromTheKeys
     pressKey(Qt::Key_Tab, Qt::ShiftModifier);
     ASSERT_EQ(QApplication::focusWidget(), words->themeLabel());
     pressKey(Qt::Key_Space);
-    frmList* list = words->themesList();
+    ThemesListWindow* list = words->themesList();
     ASSERT_NE(list, nullptr);
     activate(list);
     {
@@ -87,8 +87,8 @@ TEST_F(PhraseWindows, TheFriendSeesHisPhraseWhileAScreenReaderHearsAPasswordBox)
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
 
     // The names first: Tab runs along the rows, Space ticks, Esc keeps them.
-    window->eNames();
-    frmNames* names = window->namesWindow();
+    window->openPlayersWindow();
+    PlayersWindow* names = window->namesWindow();
     ASSERT_NE(names, nullptr);
     activate(names);
     {
@@ -110,7 +110,7 @@ TEST_F(PhraseWindows, TheFriendSeesHisPhraseWhileAScreenReaderHearsAPasswordBox)
     activate(window.get());
 
     QTest::keyClick(window.get(), Qt::Key_Return);
-    frmWord1* friendWindow = window->friendWindow();
+    FriendPhraseWindow* friendWindow = window->friendWindow();
     ASSERT_NE(friendWindow, nullptr);
     activate(friendWindow);
     QLineEdit* phraseBox = friendWindow->phraseBox();

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "windows/frmQlvs/SessionPanel.h"
-#include "models/frmInicio/InicioModel.h"
-#include "models/frmQlvs/QlvsModel.h"
+#include "windows/board/SessionPanel.h"
+#include "models/board/BoardModel.h"
+#include "models/start/StartScreenModel.h"
 #include "support/Fakes.h"
 #include "support/TempFolder.h"
 
@@ -24,11 +24,11 @@ TEST(SessionPanelUserBox, TakesOnlyCharactersAConfigurationLineCanHold) {
     TempFolder folder("quillora-panel");
     SharedState shared;
     shared.dataFolder = folder.path();
-    InicioLoad(shared);
+    loadAtStart(shared);
     ScriptedDialogs dialogs;
     QueuedRandom random;
     FakeDesktop desktop(dialogs);
-    QlvsModel model(shared, dialogs, random, desktop.lookUp);
+    BoardModel model(shared, dialogs, random, desktop.lookUp);
     QWidget board;
     board.resize(800, 500);
     SessionPanel panel(

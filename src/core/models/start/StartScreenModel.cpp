@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "models/start/StartScreenModel.h"
+
+#include "desktop/WebLookUp.h"
+#include "state/SharedState.h"
+#include "storage/ConfigFile.h"
+#include "storage/FileReplace.h"
+#include "storage/Sessions.h"
+
+namespace quillora {
+
+void loadAtStart(SharedState& shared) {
+    // A save cut short by a crash or a kill leaves its temporary file behind.
+    // No save of ours is under way while the game starts, so whatever of
+    // them is left from a copy of the game no longer running goes now.
+    removeStaleTemporaries(shared.dataFolder);
+    Sessions::initialise(shared);
+    shared.palette = Palette{};
+    shared.settings.autoPhrase = false;
+    if (shared.skipStartDefaults) {
+        shared.skipStartDefaults = false;
+    } else {
+        UserSession& session = shared.currentSession();
+        session.corrections = "3";
+        shared.survivalPoints = 1000;
+        shared.normalPoints = 0;
+        auto& names = shared.current().playerNames;
+        for (std::size_t i = 0; i < names.size(); ++i) {
+            names[i] = "Jugador " + std::to_string(i + 1);
+        }
+    }
+    shared.correctionsLeft = leadingCount(shared.currentSession().corrections);
+}
+
+} // namespace quillora
+
+namespace quillora {
+
+StartScreenModel::StartScreenModel(SharedState& shared, bool fontAvailable)
+    : m_fontMissing(!fontAvailable) {
+    loadAtStart(shared);
+}
+
+void StartScreenModel::tick() {
+    if (!m_running) {
+        return;
+    }
+    if (m_ticks < kTicks) {
+        m_lineLength += kLineStep;
+        ++m_ticks;
+    }
+    if (m_ticks >= kTicks) {
+        finishIntro();
+    }
+}
+
+void StartScreenModel::finishIntro() {
+    m_running = false;
+    if (!m_fontMissing) {
+        m_outcome = Outcome::ShowMenu;
+        return;
+    }
+    m_pointerShown = true;
+    m_noticeShown = true;
+}
+
+void StartScreenModel::download(WebLookUp& lookUp) {
+    if (!lookUp.downloadFont()) {
+        return;
+    }
+    m_pointerLeft = kPointerAtRestart;
+    m_downloaded = true;
+}
+
+} // namespace quillora

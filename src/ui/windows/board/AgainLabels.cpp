@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/board/AgainLabels.h"
+
+#include "look/Twips.h"
+#include "models/board/BoardModel.h"
+#include "platform/Fonts.h"
+#include "windows/board/BoardAccessible.h"
+
+#include <QLabel>
+#include <QMouseEvent>
+
+namespace quillora {
+
+namespace {
+// Where the answer box would be, which no game shows while there are no
+// points to play with.
+constexpr int kTop = 4290, kHeight = 540;
+constexpr int kGetPointsLeft = 5880, kGetPointsWidth = 2760;
+constexpr int kRestartLeft = 8760, kRestartWidth = 2535;
+
+QLabel* makeLabel(const QString& text, int left, int width, QWidget* board) {
+    auto* label = new QLabel(text, board);
+    label->setGeometry(px(left), px(kTop), px(width), px(kHeight));
+    label->setAlignment(Qt::AlignCenter);
+    label->setFont(Fonts::display(11));
+    label->setCursor(Qt::PointingHandCursor);
+    setAccessibleRole(label, QAccessible::Button);
+    label->hide();
+    return label;
+}
+
+} // namespace
+
+AgainLabels::AgainLabels(BoardModel& model, std::function<void()> changed, QWidget* board)
+    : QObject(board), m_model(model), m_changed(std::move(changed)) {
+    m_restart = makeLabel(QStringLiteral("Reiniciar"), kRestartLeft, kRestartWidth, board);
+    m_getPoints =
+        makeLabel(QStringLiteral("Consigue puntos"), kGetPointsLeft, kGetPointsWidth, board);
+    m_restart->installEventFilter(this);
+    m_getPoints->installEventFilter(this);
+}
+
+void AgainLabels::paint(const QString& gameColour) {
+    const QString style = QStringLiteral("background: %1; color: white; border-radius: %2px;")
+                              .arg(gameColour)
+                              .arg(px(90));
+    m_restart->setStyleSheet(style);
+    m_getPoints->setStyleSheet(style);
+}
+
+void AgainLabels::sync() {
+    const bool shown = m_model.againShown();
+    m_restart->setVisible(shown);
+    m_getPoints->setVisible(shown);
+    if (shown) {
+        m_restart->raise();
+        m_getPoints->raise();
+    }
+}
+
+bool AgainLabels::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::MouseButtonPress && event->type() != QEvent::MouseButtonRelease) {
+        return false;
+    }
+    // The click is the label's, never the board's background behind it.
+    if (static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton) {
+        return false;
+    }
+    if (event->type() == QEvent::MouseButtonRelease) {
+        if (watched == m_restart) {
+            m_model.againRestart();
+        } else {
+            m_model.againGetPoints();
+        }
+        m_changed();
+    }
+    return true;
+}
+
+} // namespace quillora

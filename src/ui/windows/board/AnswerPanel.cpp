@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/board/AnswerPanel.h"
+
+#include "look/Twips.h"
+#include "models/board/BoardModel.h"
+#include "platform/Fonts.h"
+#include "round/Keyboard.h"
+#include "windows/QtColour.h"
+#include "windows/TypedTextFilter.h"
+#include "windows/board/BoardAccessible.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace quillora {
+
+namespace {
+constexpr int kLeft = 3000, kTop = 4290, kWidth = 8295, kHeight = 540;
+} // namespace
+
+AnswerPanel::AnswerPanel(BoardModel& model, std::function<void()> changed,
+                         std::function<bool(QKeyEvent*)> shortcut, QWidget* board)
+    : QWidget(board), m_model(model), m_changed(std::move(changed)),
+      m_shortcut(std::move(shortcut)) {
+    setObjectName(QStringLiteral("answerFrame"));
+    setGeometry(px(kLeft), px(kTop), px(kWidth), px(kHeight));
+    setAttribute(Qt::WA_StyledBackground);
+    setAccessibleRole(this, QAccessible::Grouping);
+    setAccessibleName(QStringLiteral("Introduzca Frase a Adivinar"));
+    m_promptLabel = new QLabel(QStringLiteral(" Introduzca Frase a Adivinar "), this);
+    m_promptLabel->setGeometry(px(60), px(75), px(3000), px(390));
+    m_promptLabel->setFont(Fonts::display(9));
+    m_wordBox = new QLineEdit(this);
+    m_wordBox->setGeometry(px(3060), px(75), px(4320), px(390));
+    m_wordBox->setFont(Fonts::display(11));
+    m_wordBox->setAccessibleName(accessibleName());
+    // The filter installed last looks first: the board's keys come first,
+    // then "!" and Enter, then the typing rule.
+    new TypedTextFilter(m_wordBox, [](char32_t c, const QString& before) {
+        return filterAnswerKey(static_cast<int>(c), !before.isEmpty()) != 0;
+    });
+    m_wordBox->installEventFilter(this);
+    connect(m_wordBox, &QLineEdit::textChanged, this, [this](const QString& text) {
+        m_model.round().setAnswerBoxText(text.toStdString());
+        m_okButton->setEnabled(m_model.round().answerOkEnabled());
+    });
+    m_okButton = new QPushButton(QStringLiteral("OK"), this);
+    m_okButton->setGeometry(px(7470), px(60), px(765), px(420));
+    m_okButton->setFocusPolicy(Qt::NoFocus);
+    m_okButton->setFont(Fonts::display(10));
+    connect(m_okButton, &QPushButton::clicked, this, &AnswerPanel::okPressed);
+}
+
+void AnswerPanel::paint(const QString& gameColour) {
+    setStyleSheet(QStringLiteral("#answerFrame { background: %1; border-radius: %2px; }"
+                                 "QLabel { color: white; }")
+                      .arg(gameColour)
+                      .arg(px(90)) +
+                  focusMarkStyle(QStringLiteral("QLineEdit")));
+}
+
+void AnswerPanel::sync() {
+    const Round& round = m_model.round();
+    const bool wasOpen = isVisible();
+    setVisible(round.answerBoxOpen());
+    const QString boxText = qs(round.answerBoxText());
+    if (m_wordBox->text() != boxText) {
+        m_wordBox->setText(boxText);
+    }
+    m_okButton->setEnabled(round.answerOkEnabled());
+    if (round.answerBoxOpen() && !wasOpen) {
+        m_wordBox->setFocus();
+    } else if (!round.answerBoxOpen() && wasOpen) {
+        parentWidget()->setFocus();
+    }
+}
+
+void AnswerPanel::okPressed() {
+    m_model.round().setAnswerBoxText(m_wordBox->text().toStdString());
+    const bool answered = m_model.round().submitAnswer();
+    m_changed();
+    if (!answered && m_model.round().answerBoxOpen()) {
+        m_wordBox->setFocus();
+        m_wordBox->end(false);
+    }
+}
+
+bool AnswerPanel::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != m_wordBox || event->type() != QEvent::KeyPress) {
+        return QWidget::eventFilter(watched, event);
+    }
+    auto* key = static_cast<QKeyEvent*>(event);
+    if (m_shortcut(key)) {
+        return true;
+    }
+    if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
+        if (m_okButton->isEnabled()) {
+            okPressed();
+        }
+        return true;
+    }
+    if (key->text() == QStringLiteral("!")) {
+        m_model.round().toggleAnswerBox();
+        m_changed();
+        return true;
+    }
+    return false;
+}
+
+} // namespace quillora

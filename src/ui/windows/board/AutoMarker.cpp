@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/board/AutoMarker.h"
+
+#include "look/Twips.h"
+#include "models/board/BoardModel.h"
+#include "models/board/BoardSpeech.h"
+#include "platform/Fonts.h"
+#include "windows/QtColour.h"
+#include "windows/board/BoardAccessible.h"
+
+namespace quillora {
+
+namespace {
+constexpr int kLeft = 2610, kTop = 345, kSize = 330;
+} // namespace
+
+AutoMarker::AutoMarker(BoardModel& model, std::function<void()> changed, QWidget* board)
+    : QLabel(board), m_model(model), m_changed(std::move(changed)) {
+    setGeometry(px(kLeft), px(kTop), px(kSize), px(kSize));
+    setAlignment(Qt::AlignCenter);
+    setFont(Fonts::display(9));
+    setCursor(Qt::PointingHandCursor);
+    setAccessibleRole(this, QAccessible::Button);
+    setStyleSheet(QStringLiteral("background: %1; color: %2; border-radius: 3px;")
+                      .arg(css(kPictureButtonBack), css(kAutoMarkerText)));
+}
+
+void AutoMarker::sync() {
+    const Round& round = m_model.round();
+    setVisible(round.autoMarkerVisible());
+    setText(qs(round.autoMarkerCaption()));
+    setToolTip(qs(round.autoMarkerTooltip()));
+    setSpokenName(this, qs(spokenAutoMarker(round.autoMarkerCaption())));
+}
+
+void AutoMarker::mousePressEvent(QMouseEvent*) {
+    // The press is the marker's own: it must not reach the board behind,
+    // where a press on the background plays.
+}
+
+void AutoMarker::mouseReleaseEvent(QMouseEvent*) {
+    m_model.toggleAutoPhrase();
+    m_changed();
+}
+
+} // namespace quillora

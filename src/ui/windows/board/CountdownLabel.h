@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QLabel>
+
+namespace quillora {
+
+class BoardModel;
+
+// The seconds left in countdown mode, beside the letters counter;
+// hidden while no clock runs.
+class CountdownLabel final : public QLabel {
+public:
+    CountdownLabel(const BoardModel& model, QWidget* board);
+
+    void sync();
+
+private:
+    const BoardModel& m_model;
+};
+
+} // namespace quillora

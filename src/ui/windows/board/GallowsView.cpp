@@ -1,0 +1,123 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/board/GallowsView.h"
+
+#include "look/Twips.h"
+#include "models/board/BoardSpeech.h"
+#include "platform/Fonts.h"
+#include "round/Figure.h"
+#include "windows/QtColour.h"
+#include "windows/board/BoardAccessible.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+namespace quillora {
+
+namespace {
+
+QRectF box(TwipBox b) {
+    return QRectF(b.left, b.top, b.width, b.height);
+}
+QLineF line(TwipLine l) {
+    return QLineF(l.x1, l.y1, l.x2, l.y2);
+}
+// Line widths are given in pixels; the painter works in twips.
+QPen pen(Rgb colour, int widthPixels) {
+    QPen p(qc(colour), widthPixels * kTwipsPerPixel);
+    p.setCapStyle(Qt::RoundCap);
+    return p;
+}
+
+// The little drop of sweat that shows when the figure starts to panic.
+void paintPanicPicture(QPainter& p, QRectF area) {
+    QPainterPath drop;
+    const double w = area.width();
+    const double h = area.height();
+    drop.moveTo(area.left() + w * 0.5, area.top() + h * 0.08);
+    drop.cubicTo(area.left() + w * 0.5, area.top() + h * 0.08, area.left() + w * 0.15,
+                 area.top() + h * 0.55, area.left() + w * 0.2, area.top() + h * 0.68);
+    drop.arcTo(QRectF(area.left() + w * 0.2, area.top() + h * 0.38, w * 0.6, h * 0.55), 180, 180);
+    drop.cubicTo(area.left() + w * 0.85, area.top() + h * 0.55, area.left() + w * 0.5,
+                 area.top() + h * 0.08, area.left() + w * 0.5, area.top() + h * 0.08);
+    p.setPen(QPen(QColor(0, 60, 160), 1.5 * kTwipsPerPixel));
+    p.setBrush(QColor(120, 190, 255));
+    p.drawPath(drop);
+    p.setPen(Qt::NoPen);
+    p.setBrush(QColor(235, 245, 255));
+    p.drawEllipse(QRectF(area.left() + w * 0.33, area.top() + h * 0.55, w * 0.12, h * 0.16));
+}
+
+} // namespace
+
+GallowsView::GallowsView(const Figure& figure, QWidget* parent)
+    : QWidget(parent), m_figure(figure) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setGeometry(0, 0, px(kWidthTwips), px(kHeightTwips));
+    setAccessibleRole(this, QAccessible::Graphic);
+}
+
+void GallowsView::sync() {
+    update();
+    setSpokenName(this, qs(spokenFigure(m_figure)));
+}
+
+void GallowsView::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.scale(1.0 / kTwipsPerPixel, 1.0 / kTwipsPerPixel);
+
+    p.setPen(Qt::NoPen);
+    p.setBrush(qc(kGallowsWood));
+    p.drawRect(box(kPost));
+    p.drawRect(box(kBeam));
+    for (const auto& brace : kBraces) {
+        p.setPen(pen(brace.colour, brace.width));
+        p.drawLine(line(brace.line));
+    }
+    p.setPen(pen(kRope.colour, kRope.width));
+    p.drawLine(line(kRope.line));
+
+    if (m_figure.visible(Figure::Trapdoor)) {
+        p.setPen(Qt::NoPen);
+        p.setBrush(qc(kTrapdoorColour));
+        p.drawRect(box(Figure::trapdoorBox()));
+    }
+
+    const std::array<Figure::Part, 5> limbs{Figure::Body, Figure::LeftArm, Figure::RightArm,
+                                            Figure::LeftLeg, Figure::RightLeg};
+    p.setPen(pen(kBlack, 2));
+    for (Figure::Part part : limbs) {
+        if (m_figure.visible(part)) {
+            p.drawLine(line(m_figure.line(part)));
+        }
+    }
+    if (m_figure.visible(Figure::Head)) {
+        p.setPen(pen(kBlack, 1));
+        p.setBrush(Qt::white);
+        p.drawEllipse(box(m_figure.headBox()));
+    }
+    if (m_figure.visible(Figure::Knot)) {
+        p.setPen(pen(kKnotColour, 7));
+        p.drawLine(line(m_figure.line(Figure::Knot)));
+    }
+    if (m_figure.visible(Figure::Face)) {
+        QFont font = Fonts::face(12);
+        font.setPixelSize(pointsToPixels(12) * kTwipsPerPixel);
+        p.setFont(font);
+        p.setPen(Qt::black);
+        p.drawText(box(m_figure.faceBox()), Qt::AlignCenter,
+                   QString::fromStdString(m_figure.faceText()));
+    }
+    if (m_figure.visible(Figure::PanicPicture)) {
+        paintPanicPicture(p, box(Figure::panicPictureBox()));
+    }
+    p.setPen(pen(kPanicStrokeColour, 1));
+    for (Figure::Part part : {Figure::PanicStroke1, Figure::PanicStroke2, Figure::PanicStroke3}) {
+        if (m_figure.visible(part)) {
+            p.drawLine(line(m_figure.line(part)));
+        }
+    }
+}
+
+} // namespace quillora

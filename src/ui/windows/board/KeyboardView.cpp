@@ -1,0 +1,178 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/board/KeyboardView.h"
+
+#include "look/Twips.h"
+#include "models/board/BoardModel.h"
+#include "models/board/BoardSpeech.h"
+#include "platform/Fonts.h"
+#include "windows/QtColour.h"
+#include "windows/board/BoardAccessible.h"
+#include "windows/board/KeyboardAccessible.h"
+
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+
+namespace quillora {
+
+namespace {
+
+constexpr double kKeyFontPoints = 12;
+constexpr double kWideKeyFontPoints = 10;
+
+} // namespace
+
+KeyboardView::KeyboardView(BoardModel& model, std::function<void()> changed, QWidget* parent)
+    : QWidget(parent), m_model(model), m_changed(std::move(changed)) {
+    setMouseTracking(true);
+    setGeometry(px(kLeftTwips), px(kTopTwips), px(kWidthTwips), px(kHeightTwips));
+    setAccessibleName(QStringLiteral("Teclado"));
+}
+
+bool KeyboardView::keyUsable(int key) const {
+    const Round& round = m_model.round();
+    const char32_t letter = keyLetter(key);
+    return round.inPlay() && (letter == 0 || !round.board().alreadyTried(letter));
+}
+
+void KeyboardView::press(int key) {
+    m_model.pressKey(key);
+    m_model.releaseMouse(key);
+    m_model.leaveKeys();
+    m_changed();
+}
+
+void KeyboardView::sync() {
+    update();
+    QList<int> named, described, restated;
+    for (int key = 0; key < kKeyCount; ++key) {
+        Spoken now{qs(spokenKeyName(m_model.round(), key)),
+                   qs(spokenKeyDescription(m_model.round(), key)), keyShown(key), keyUsable(key)};
+        Spoken& before = m_spoken[static_cast<std::size_t>(key)];
+        const int child = KeyboardAccessible::childOfKey(key);
+        if (now.name != before.name) {
+            named.append(child);
+        }
+        if (now.description != before.description) {
+            described.append(child);
+        }
+        if (now.shown != before.shown || now.usable != before.usable) {
+            restated.append(child);
+        }
+        before = std::move(now);
+    }
+    announceChildren(this, named, QAccessible::NameChanged);
+    announceChildren(this, described, QAccessible::DescriptionChanged);
+    announceChildren(this, restated, QAccessible::StateChanged);
+}
+
+bool KeyboardView::keyShown(int key) const {
+    const Round& round = m_model.round();
+    const bool digits = round.digitPanelVisible();
+    const KeyPlace place = keyPlace(key);
+    if (place.panel == KeyPanel::Digits) {
+        return digits && round.board().keyVisible(key);
+    }
+    if (digits && place.top == 0 && px(kLeftTwips + place.left) >= px(kDigitsLeftTwips)) {
+        return false; // under the digit panel
+    }
+    return key >= 38 || round.board().keyVisible(key);
+}
+
+QRect KeyboardView::keyRect(int key) const {
+    const KeyPlace place = keyPlace(key);
+    const int panelLeft = place.panel == KeyPanel::Digits ? kDigitsLeftTwips - kLeftTwips : 0;
+    return QRect(px(panelLeft + place.left), px(place.top), px(place.width), px(place.height));
+}
+
+int KeyboardView::keyAt(QPoint point) const {
+    for (int key = 0; key < kKeyCount; ++key) {
+        if (keyShown(key) && keyRect(key).contains(point)) {
+            return key;
+        }
+    }
+    return -1;
+}
+
+bool KeyboardView::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) {
+        return QWidget::event(event);
+    }
+    // The keys are painted, not widgets: each says its own tooltip.
+    auto* help = static_cast<QHelpEvent*>(event);
+    const std::string_view tip = keyTooltip(keyAt(help->pos()));
+    if (tip.empty()) {
+        QToolTip::hideText();
+        event->ignore();
+    } else {
+        QToolTip::showText(help->globalPos(),
+                           QString::fromUtf8(tip.data(), static_cast<int>(tip.size())), this);
+    }
+    return true;
+}
+
+void KeyboardView::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.fillRect(rect(), qc(kKeyboardPanel));
+    if (m_model.round().digitPanelVisible()) {
+        p.fillRect(QRect(px(kDigitsLeftTwips - kLeftTwips), 0, px(kDigitsWidthTwips),
+                         px(kDigitsHeightTwips)),
+                   qc(kKeyboardPanel));
+    }
+    for (int key = 0; key < kKeyCount; ++key) {
+        if (!keyShown(key)) {
+            continue;
+        }
+        const QRectF r = QRectF(keyRect(key)).adjusted(1.5, 1.5, -1.5, -1.5);
+        const KeyLook look = m_model.keyFace(key);
+        p.setPen(Qt::NoPen);
+        p.setBrush(qc(look.face));
+        p.drawRoundedRect(r, 5, 5);
+        p.setFont(Fonts::display(key >= 38 ? kWideKeyFontPoints : kKeyFontPoints));
+        p.setPen(qc(look.caption));
+        const std::u32string caption =
+            key == kWriteKey ? m_model.round().writeKeyCaption() : std::u32string(keyCaption(key));
+        p.drawText(r, Qt::AlignCenter, QString::fromStdU32String(caption));
+    }
+}
+
+void KeyboardView::mouseMoveEvent(QMouseEvent* event) {
+    const int key = keyAt(event->position().toPoint());
+    if (key >= 0) {
+        m_model.hoverKey(key);
+    } else {
+        m_model.leaveKeys();
+    }
+    m_changed();
+}
+
+void KeyboardView::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) {
+        QWidget::mousePressEvent(event);
+        return;
+    }
+    const int key = keyAt(event->position().toPoint());
+    if (key >= 0) {
+        m_model.pressKey(key);
+        m_changed();
+    }
+}
+
+void KeyboardView::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) {
+        QWidget::mouseReleaseEvent(event);
+        return;
+    }
+    m_model.releaseMouse(keyAt(event->position().toPoint()));
+    m_changed();
+}
+
+void KeyboardView::leaveEvent(QEvent*) {
+    m_model.leaveKeys();
+    m_changed();
+}
+
+} // namespace quillora

@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "round/Keyboard.h"
+
+#include <QString>
+#include <QWidget>
+
+#include <array>
+#include <functional>
+
+namespace quillora {
+
+class BoardModel;
+
+// The on-screen keyboard and its digit panel. Mouse moves, presses and
+// releases go to the model, which decides the faces and what a click does.
+class KeyboardView final : public QWidget {
+public:
+    KeyboardView(BoardModel& model, std::function<void()> changed, QWidget* parent);
+
+    static constexpr int kLeftTwips = 120;
+    static constexpr int kTopTwips = 4920;
+    static constexpr int kWidthTwips = 11415;
+    static constexpr int kHeightTwips = 975;
+    static constexpr int kDigitsLeftTwips = 3000;
+    static constexpr int kDigitsWidthTwips = 8535;
+    static constexpr int kDigitsHeightTwips = 495;
+
+    // The key under a point of this widget, or -1.
+    int keyAt(QPoint point) const;
+    // The key's rectangle in this widget's pixels.
+    QRect keyRect(int key) const;
+    // Whether the board shows the key, and whether a click on it would do
+    // anything now.
+    bool keyShown(int key) const;
+    bool keyUsable(int key) const;
+    const BoardModel& model() const { return m_model; }
+    // A whole click on the key, as a screen reader asks for one.
+    void press(int key);
+    // Repaints, and tells a screen reader of every key that changed.
+    void sync();
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+private:
+    // What a screen reader was last told of each key.
+    struct Spoken {
+        QString name;
+        QString description;
+        bool shown = false;
+        bool usable = false;
+    };
+
+    BoardModel& m_model;
+    std::function<void()> m_changed;
+    std::array<Spoken, kKeyCount> m_spoken{};
+};
+
+} // namespace quillora

@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/board/PhraseView.h"
+
+#include "look/Twips.h"
+#include "models/board/BoardModel.h"
+#include "models/board/BoardSpeech.h"
+#include "platform/Fonts.h"
+#include "windows/QtColour.h"
+#include "windows/board/BoardAccessible.h"
+
+#include <QPainter>
+
+namespace quillora {
+
+namespace {
+
+constexpr int kCellSize = 495;
+constexpr int kColumnPitch = 600;
+constexpr int kRowPitch = 720;
+constexpr int kUnderlineLength = 480;
+constexpr int kUnderlineBelowTop = 480;
+constexpr double kCellFontPoints = 20.25;
+
+} // namespace
+
+PhraseView::PhraseView(const BoardModel& model, QWidget* parent) : QWidget(parent), m_model(model) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setAccessibleName(QStringLiteral("Frase"));
+    const int width = kColumnPitch * (PhraseBoard::kColumns - 1) + kCellSize;
+    const int height = kRowPitch * 2 + kCellSize + 30;
+    setGeometry(px(kLeftTwips), px(kTopTwips), px(width), px(height));
+}
+
+QFont PhraseView::makeCellFont() {
+    // The board's letters are the bold rounded display face; the painter
+    // works in twips, so the font is sized in twips too.
+    QFont font = Fonts::display(kCellFontPoints);
+    font.setPixelSize(pointsToPixels(kCellFontPoints) * kTwipsPerPixel);
+    return font;
+}
+
+QRect PhraseView::cellRect(int cell) const {
+    const int row = (cell - 1) / PhraseBoard::kColumns;
+    const int column = (cell - 1) % PhraseBoard::kColumns;
+    return QRect(px(kColumnPitch * column), px(kRowPitch * row), px(kCellSize), px(kCellSize));
+}
+
+void PhraseView::sync() {
+    update();
+    QList<int> changed;
+    for (int i = 1; i <= PhraseBoard::kCells; ++i) {
+        QString name = qs(spokenCellName(m_model.round().board().cell(i)));
+        if (name != m_spoken[static_cast<std::size_t>(i - 1)]) {
+            m_spoken[static_cast<std::size_t>(i - 1)] = std::move(name);
+            changed.append(i - 1);
+        }
+    }
+    announceChildren(this, changed, QAccessible::NameChanged);
+}
+
+void PhraseView::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setRenderHint(QPainter::TextAntialiasing);
+    p.scale(1.0 / kTwipsPerPixel, 1.0 / kTwipsPerPixel);
+
+    p.setFont(m_cellFont);
+
+    const PhraseBoard& board = m_model.round().board();
+    const Rgb miss = m_model.missColour();
+    for (int i = 1; i <= PhraseBoard::kCells; ++i) {
+        const PhraseBoard::Cell& cell = board.cell(i);
+        const int row = (i - 1) / PhraseBoard::kColumns;
+        const int column = (i - 1) % PhraseBoard::kColumns;
+        const QRectF box(kColumnPitch * column, kRowPitch * row, kCellSize, kCellSize);
+        const CellLook look = m_model.cellLook(i);
+        if (cell.revealed || cell.missed) {
+            if (look.filled) {
+                p.fillRect(box, qc(look.background));
+            }
+            p.setPen(qc(cell.missed ? miss : look.letter));
+            p.drawText(box, Qt::AlignCenter, QString::fromUcs4(&cell.character, 1));
+        }
+        if (cell.underline) {
+            p.setPen(QPen(qc(look.underline), 2 * kTwipsPerPixel, Qt::SolidLine, Qt::FlatCap));
+            const double y = kRowPitch * row + kUnderlineBelowTop;
+            p.drawLine(QPointF(kColumnPitch * column, y),
+                       QPointF(kColumnPitch * column + kUnderlineLength, y));
+        }
+    }
+}
+
+} // namespace quillora

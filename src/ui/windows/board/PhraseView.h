@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "round/PhraseBoard.h"
+
+#include <QFont>
+#include <QWidget>
+
+#include <array>
+
+namespace quillora {
+
+class BoardModel;
+
+// The 42 letter cells with their underlines, in the letter style in use.
+class PhraseView final : public QWidget {
+public:
+    PhraseView(const BoardModel& model, QWidget* parent);
+
+    static constexpr int kLeftTwips = 3000;
+    static constexpr int kTopTwips = 1440;
+
+    // The face the cells' letters are painted in.
+    const QFont& cellFont() const { return m_cellFont; }
+    const BoardModel& model() const { return m_model; }
+    // Cell 1..42 in this widget's pixels.
+    QRect cellRect(int cell) const;
+    // Repaints, and tells a screen reader of every cell that reads anew.
+    void sync();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    static QFont makeCellFont();
+
+    const BoardModel& m_model;
+    QFont m_cellFont = makeCellFont();
+    std::array<QString, PhraseBoard::kCells> m_spoken;
+};
+
+} // namespace quillora

@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/board/PlayPanel.h"
+
+#include "look/Twips.h"
+#include "models/board/BoardModel.h"
+#include "platform/Fonts.h"
+#include "windows/QtColour.h"
+#include "windows/board/BoardAccessible.h"
+
+#include <QLabel>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPushButton>
+
+namespace quillora {
+
+namespace {
+constexpr int kWidth = 2295, kHeight = 615;
+// Under the theme, or in a game without points beside the status.
+constexpr int kLeft = 9000, kTop = 3570;
+constexpr int kCompactLeft = 9000, kCompactTop = 352;
+} // namespace
+
+PlayPanel::PlayPanel(BoardModel& model, std::function<void()> changed, std::function<void()> play,
+                     QWidget* board)
+    : QWidget(board), m_model(model), m_changed(std::move(changed)), m_play(std::move(play)) {
+    setGeometry(px(kLeft), px(kTop), px(kWidth), px(kHeight));
+    setAccessibleRole(this, QAccessible::Grouping);
+    setAccessibleName(QStringLiteral("JUGAR"));
+    m_gameButton = new QPushButton(this);
+    m_gameButton->setGeometry(0, 0, px(kWidth), px(kHeight));
+    m_gameButton->setFocusPolicy(Qt::NoFocus);
+    m_gameButton->setFont(Fonts::display(13));
+    m_gameButton->setCursor(Qt::PointingHandCursor);
+    connect(m_gameButton, &QPushButton::clicked, this, [this] { m_play(); });
+    m_gameButton->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_gameButton, &QWidget::customContextMenuRequested, this,
+            [this](const QPoint& at) { buildPlayMenu()->popup(m_gameButton->mapToGlobal(at)); });
+
+    m_restoreLabel = new QLabel(this);
+    m_restoreLabel->setGeometry(0, 0, px(kWidth), px(kHeight));
+    m_restoreLabel->setCursor(Qt::PointingHandCursor);
+    m_restoreLabel->installEventFilter(this);
+    setAccessibleRole(m_restoreLabel, QAccessible::Button);
+    m_restoreLabel->setAccessibleName(QStringLiteral("Regresar botón JUGAR"));
+}
+
+void PlayPanel::paint(const QString& buttonStyle, const QString& restoreStyle) {
+    m_gameButton->setStyleSheet(buttonStyle);
+    m_restoreLabel->setStyleSheet(restoreStyle);
+}
+
+void PlayPanel::sync() {
+    const bool compact = m_model.compactLayout();
+    move(px(compact ? kCompactLeft : kLeft), px(compact ? kCompactTop : kTop));
+    m_gameButton->setText(qs(m_model.round().playCaption()));
+    m_gameButton->setEnabled(m_model.scoring().playEnabled());
+    const bool hidden = m_model.shared().settings.playButtonHidden;
+    m_gameButton->setVisible(!hidden);
+    m_restoreLabel->setVisible(hidden);
+    m_restoreLabel->setToolTip(hidden ? QStringLiteral(" Regresar botón JUGAR. ") : QString());
+}
+
+QMenu* PlayPanel::buildPlayMenu() {
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    QAction* autoPhrase = menu->addAction(QStringLiteral("Frase automática"));
+    autoPhrase->setCheckable(true);
+    autoPhrase->setChecked(m_model.shared().settings.autoPhrase);
+    connect(autoPhrase, &QAction::triggered, this, [this] {
+        m_model.toggleAutoPhrase();
+        m_changed();
+    });
+    connect(menu->addAction(QStringLiteral("Desaparecer botón")), &QAction::triggered, this,
+            [this] {
+                m_model.hidePlayButton(true);
+                m_changed();
+            });
+    return menu;
+}
+
+bool PlayPanel::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != m_restoreLabel) {
+        return QWidget::eventFilter(watched, event);
+    }
+    // The whole left click belongs to the label: its press must not fall
+    // through to the board, where a press on the background plays.
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick) {
+        return static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
+    }
+    if (event->type() == QEvent::MouseButtonRelease &&
+        static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+        m_model.hidePlayButton(false);
+        m_changed();
+        return true;
+    }
+    return false;
+}
+
+} // namespace quillora

@@ -1,0 +1,161 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/board/ScorePanel.h"
+
+#include "look/Twips.h"
+#include "models/board/BoardModel.h"
+#include "platform/Fonts.h"
+#include "windows/QtColour.h"
+#include "windows/RoundedLabel.h"
+#include "windows/board/BoardAccessible.h"
+
+#include <QEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QMouseEvent>
+
+namespace quillora {
+
+namespace {
+constexpr int kLeft = 120, kTop = 60, kWidth = 2415, kHeight = 720;
+constexpr int kCaptionHeight = 210;
+} // namespace
+
+ScorePanel::ScorePanel(BoardModel& model, std::function<void()> changed,
+                       std::function<void()> names, QWidget* board)
+    : QWidget(board), m_model(model), m_changed(std::move(changed)), m_names(std::move(names)) {
+    setGeometry(px(kLeft), px(kTop), px(kWidth), px(kHeight));
+    setAccessibleRole(this, QAccessible::Grouping);
+    setAccessibleName(QStringLiteral("Marcador"));
+
+    m_scoreFrame = new RoundedLabel(this);
+    m_scoreFrame->setObjectName(QStringLiteral("scoreFrame"));
+    setAccessibleRole(m_scoreFrame, QAccessible::Grouping);
+    m_scoreFrame->setAccessibleName(QStringLiteral("Puntos"));
+    m_scoreFrame->setGeometry(0, 0, px(kWidth), px(kHeight));
+    auto* caption = new QLabel(QStringLiteral(" Puntos "), m_scoreFrame);
+    caption->setGeometry(0, px(15), px(kWidth), px(kCaptionHeight));
+    caption->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    caption->setFont(Fonts::display(7));
+    m_scoreLabel = new QLabel(m_scoreFrame);
+    m_scoreLabel->setGeometry(0, px(kCaptionHeight), px(kWidth), px(kHeight - 240));
+    m_scoreLabel->setAlignment(Qt::AlignCenter);
+    m_scoreLabel->setFont(Fonts::display(14));
+    m_scoreLabel->setAccessibleDescription(QStringLiteral("Puntos"));
+    // The score's menu is there only while it has something to offer.
+    m_scoreFrame->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_scoreFrame, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
+        if (QMenu* menu = buildScoreMenu()) {
+            menu->popup(m_scoreFrame->mapToGlobal(at));
+        }
+    });
+
+    m_playerFrame = new RoundedLabel(this);
+    m_playerFrame->setObjectName(QStringLiteral("playerFrame"));
+    setAccessibleRole(m_playerFrame, QAccessible::Grouping);
+    m_playerFrame->setAccessibleName(QStringLiteral("Jugador"));
+    m_playerFrame->setGeometry(0, 0, px(kWidth), px(kHeight));
+    m_player1Label = new QLabel(m_playerFrame);
+    m_player1Label->setGeometry(0, 0, px(kWidth), px(kHeight));
+    m_player1Label->setAlignment(Qt::AlignCenter);
+    m_player1Label->setFont(Fonts::display(11));
+    m_player1Label->setMouseTracking(true);
+    m_player1Label->setContextMenuPolicy(Qt::CustomContextMenu);
+    m_player1Label->installEventFilter(this);
+    connect(m_player1Label, &QWidget::customContextMenuRequested, this,
+            [this](const QPoint& at) { buildTurnMenu()->popup(m_player1Label->mapToGlobal(at)); });
+}
+
+void ScorePanel::paint(const QColor& scoreColour, const QColor& playerColour) {
+    m_scoreFrame->setColours(scoreColour, Qt::white);
+    m_playerFrame->setColours(playerColour, Qt::white);
+}
+
+void ScorePanel::sync() {
+    const bool points = m_model.scoring().pointsCount();
+    m_scoreFrame->setVisible(points);
+    m_playerFrame->setVisible(!points);
+    syncPlayer();
+    syncScore();
+}
+
+void ScorePanel::syncScore() {
+    m_scoreLabel->setText(qs(m_model.scoring().scoreLabel()));
+    // The pulse recolours the points ten times a second: a palette, not a
+    // style sheet, so only the label repaints.
+    const QColor colour = qc(m_model.scoreTextColour());
+    if (m_scoreLabel->palette().color(QPalette::WindowText) != colour) {
+        QPalette text = m_scoreLabel->palette();
+        text.setColor(QPalette::WindowText, colour);
+        m_scoreLabel->setPalette(text);
+    }
+}
+
+void ScorePanel::syncPlayer() {
+    m_player1Label->setText(qs(m_model.playerLabel().caption));
+    m_player1Label->setToolTip(qs(m_model.playerLabel().tooltip));
+}
+
+QMenu* ScorePanel::buildScoreMenu() {
+    if (!m_model.giftOffered()) {
+        return nullptr;
+    }
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    connect(menu->addAction(QStringLiteral("Pasar puntos a supervivencia")), &QAction::triggered,
+            this, [this] {
+                m_model.startGift();
+                m_changed();
+            });
+    return menu;
+}
+
+QMenu* ScorePanel::buildTurnMenu() {
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    QAction* free = menu->addAction(QStringLiteral("Turno libre"));
+    free->setCheckable(true);
+    free->setChecked(m_model.freeTurn());
+    connect(free, &QAction::triggered, this, [this] {
+        m_model.toggleFreeTurn();
+        m_changed();
+    });
+    menu->addSeparator();
+    QAction* forward = menu->addAction(QStringLiteral("Adelantar"));
+    QAction* back = menu->addAction(QStringLiteral("Atrasar"));
+    forward->setEnabled(m_model.turnMovesEnabled());
+    back->setEnabled(m_model.turnMovesEnabled());
+    connect(forward, &QAction::triggered, this, [this] {
+        m_model.moveTurnForward();
+        m_changed();
+    });
+    connect(back, &QAction::triggered, this, [this] {
+        m_model.moveTurnBack();
+        m_changed();
+    });
+    return menu;
+}
+
+void ScorePanel::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) {
+        m_model.closeSidePanels();
+        m_changed();
+    }
+    event->accept();
+}
+
+bool ScorePanel::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != m_player1Label) {
+        return QWidget::eventFilter(watched, event);
+    }
+    if (event->type() == QEvent::MouseMove || event->type() == QEvent::Enter) {
+        m_model.hoverPlayer();
+        syncPlayer();
+    } else if (event->type() == QEvent::MouseButtonDblClick) {
+        m_names();
+        return true;
+    }
+    return false;
+}
+
+} // namespace quillora

@@ -1,0 +1,285 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/board/SessionPanel.h"
+
+#include "look/Twips.h"
+#include "models/board/BoardModel.h"
+#include "platform/Fonts.h"
+#include "storage/ConfigFile.h"
+#include "windows/QtColour.h"
+#include "windows/board/BoardAccessible.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QPushButton>
+#include <QTimer>
+#include <QValidator>
+
+namespace quillora {
+
+namespace {
+
+constexpr int kKeyFrameLeft = 3000, kKeyFrameTop = 1920, kKeyFrameWidth = 5745,
+              kKeyFrameHeight = 1560;
+const QString kWrongText = QStringLiteral("Incorrecto");
+
+// The user's name goes into line 15 of a Windows-1252 file and, as typed,
+// into the file's name: the box drops what the line cannot hold, whether it
+// is typed, pasted, dropped or composed by an input method, so the two never
+// disagree. The cursor stays after what was kept of the text before it.
+class StorableNameValidator final : public QValidator {
+public:
+    using QValidator::QValidator;
+
+    State validate(QString& input, int& pos) const override {
+        const QString kept = qs(storableText(input.toStdString()));
+        if (kept != input) {
+            pos = static_cast<int>(qs(storableText(input.left(pos).toStdString())).size());
+            input = kept;
+        }
+        return Acceptable;
+    }
+};
+
+} // namespace
+
+SessionPanel::SessionPanel(BoardModel& model, std::function<void()> changed, QWidget* board)
+    : QWidget(board), m_model(model), m_changed(std::move(changed)) {
+    setAttribute(Qt::WA_StyledBackground);
+    setObjectName(QStringLiteral("sessionFrame"));
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleRole(this, QAccessible::Grouping);
+    setAccessibleName(QStringLiteral("Sesión"));
+
+    m_userLabel = new QLabel(QStringLiteral(" Usuario"), this);
+    m_userLabel->setGeometry(px(240), px(180), px(5400), px(420));
+    m_userLabel->setFont(Fonts::display(14));
+    m_userLabel->setCursor(Qt::PointingHandCursor);
+    m_userLabel->setContextMenuPolicy(Qt::CustomContextMenu);
+    m_userLabel->installEventFilter(this);
+    // The user's name is the label's text; a click opens the list of sessions.
+    setAccessibleRole(m_userLabel, QAccessible::Button);
+    m_userLabel->setAccessibleDescription(QStringLiteral("Usuario"));
+    connect(m_userLabel, &QLabel::customContextMenuRequested, this, [this](const QPoint& at) {
+        QMenu menu(this);
+        QAction* add = menu.addAction(QStringLiteral("+ Agregar sesión"));
+        if (menu.exec(m_userLabel->mapToGlobal(at)) == add) {
+            std::string shown;
+            m_model.addSession(m_userBox->text().toStdString(), shown);
+            m_userBox->setText(qs(shown));
+            m_changed();
+        }
+    });
+
+    m_userBox = new QLineEdit(this);
+    m_userBox->setPlaceholderText(QStringLiteral("Nombre"));
+    m_userBox->setAccessibleName(QStringLiteral("Nombre"));
+    m_userBox->setValidator(new StorableNameValidator(m_userBox));
+    m_userBox->setGeometry(px(5880), px(180), px(3240), px(420));
+    m_userBox->setFont(Fonts::display(11));
+
+    m_sessionsList = new QListWidget(this);
+    m_sessionsList->setFont(Fonts::display(12));
+    m_sessionsList->setFrameShape(QFrame::NoFrame);
+    m_sessionsList->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_sessionsList->setAccessibleName(QStringLiteral("Sesiones"));
+    connect(m_sessionsList, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
+        m_model.switchSession(item->data(Qt::UserRole).toInt());
+        m_changed();
+    });
+
+    m_keyFrame = new QWidget(this);
+    m_keyFrame->setGeometry(px(kKeyFrameLeft), px(kKeyFrameTop), px(kKeyFrameWidth),
+                            px(kKeyFrameHeight));
+    m_keyLabel = new QLabel(m_keyFrame);
+    m_keyLabel->setGeometry(0, 0, px(kKeyFrameWidth), px(480));
+    m_keyLabel->setAlignment(Qt::AlignCenter);
+    m_keyLabel->setFont(Fonts::display(14));
+    for (QLineEdit** box : {&m_keyBox, &m_key2Box}) {
+        *box = new QLineEdit(m_keyFrame);
+        (*box)->setGeometry(px(480), px(660), px(kKeyFrameWidth - 1680), px(540));
+        (*box)->setEchoMode(QLineEdit::Password);
+        (*box)->setFont(Fonts::display(14));
+        (*box)->setAlignment(Qt::AlignCenter);
+        (*box)->installEventFilter(this);
+        (*box)->setAccessibleName(QStringLiteral("Clave"));
+    }
+    m_enterButton = new QPushButton(QStringLiteral(">"), m_keyFrame);
+    m_enterButton->setGeometry(px(kKeyFrameWidth - 1080), px(660), px(600), px(540));
+    m_enterButton->setFont(Fonts::display(14));
+    m_enterButton->setFocusPolicy(Qt::NoFocus);
+    m_enterButton->setAccessibleName(QStringLiteral("Entrar"));
+    connect(m_enterButton, &QPushButton::clicked, this, &SessionPanel::enter);
+
+    m_cancelLabel = new QLabel(QStringLiteral(" Cerrar "), this);
+    m_cancelLabel->setFont(Fonts::display(10));
+    m_cancelLabel->setCursor(Qt::PointingHandCursor);
+    m_cancelLabel->installEventFilter(this);
+    setAccessibleRole(m_cancelLabel, QAccessible::Button);
+
+    m_warningLabel = new QLabel(
+        QStringLiteral("El progreso de la partida no se guarda, termine si piensa continuar."),
+        this);
+    m_warningLabel->setAlignment(Qt::AlignCenter);
+    m_warningLabel->setFont(Fonts::display(10));
+    m_warningLabel->setWordWrap(true);
+
+    hide();
+}
+
+QLineEdit* SessionPanel::activeKeyBox() const {
+    return m_model.panel().secondBoxShown() ? m_key2Box : m_keyBox;
+}
+
+void SessionPanel::enter() {
+    const SessionPanelModel& panel = m_model.panel();
+    if (panel.wrongShown()) {
+        return;
+    }
+    QLineEdit* box = activeKeyBox();
+    m_model.keyEntered(box->text().toStdString());
+    box->clear();
+    if (m_model.panel().wrongShown()) {
+        box->setEchoMode(QLineEdit::Normal);
+        box->setStyleSheet(QStringLiteral("color: %1;").arg(css(kRedLamp)));
+        box->setText(kWrongText);
+        box->end(false);
+        QTimer::singleShot(SessionPanelModel::kWrongMs, this, [this, box] {
+            m_model.panel().tickWrong();
+            box->clear();
+            box->setStyleSheet(QString());
+            box->setEchoMode(QLineEdit::Password);
+        });
+    }
+    m_changed();
+}
+
+void SessionPanel::sync() {
+    const SessionPanelModel& panel = m_model.panel();
+    const int boardWidth = parentWidget()->width();
+    setGeometry(0, 0, boardWidth, px(panel.height()));
+    setVisible(panel.shown());
+    setStyleSheet(
+        QStringLiteral(
+            "#sessionFrame { background: %1; } QLabel { color: white; }"
+            "QListWidget { background: %2; color: white; }"
+            "QPushButton { background: %2; color: white; border: none; border-radius: 6px; }")
+            .arg(css(m_model.gameColour()), css(m_model.shade())) +
+        focusMarkStyle(QStringLiteral("QLineEdit")) +
+        focusMarkStyle(QStringLiteral("QListWidget"), true) +
+        focusMarkStyle(QStringLiteral("#sessionFrame"), true));
+    if (!panel.shown()) {
+        return;
+    }
+    raise();
+    m_userLabel->setText(qs(m_model.displayName() + " "));
+    m_userBox->setVisible(panel.userBoxShown());
+
+    m_sessionsList->clear();
+    for (const auto& entry : m_model.sessionEntries()) {
+        auto* item = new QListWidgetItem(qs(entry.name + " "), m_sessionsList);
+        item->setData(Qt::UserRole, entry.slot);
+        item->setSizeHint(QSize(px(5400), px(SessionPanelModel::kEntryHeight)));
+    }
+    m_sessionsList->setGeometry(px(240), px(panel.listTop()), px(5400), px(panel.listHeight()));
+    m_sessionsList->setVisible(panel.listShown());
+    m_sessionsList->raise();
+
+    m_keyFrame->setVisible(panel.keyFrameShown());
+    m_keyLabel->setText(QString::fromUtf8(panel.keyCaption()));
+    m_keyLabel->setStyleSheet(panel.locked() ? QStringLiteral("color: rgb(190,190,190);")
+                                             : QString());
+    m_keyBox->setVisible(!panel.secondBoxShown());
+    m_key2Box->setVisible(panel.secondBoxShown());
+    m_cancelLabel->setGeometry(boardWidth - px(1440), px(180), px(1200), px(420));
+    m_cancelLabel->setVisible(panel.cancelShown());
+    m_warningLabel->setGeometry(px(1200), px(3720), boardWidth - px(2400), px(720));
+    m_warningLabel->setVisible(panel.warningShown() && panel.keyFrameShown());
+    if (panel.keyFrameShown() && !activeKeyBox()->hasFocus() && !m_userBox->hasFocus()) {
+        activeKeyBox()->setFocus();
+    }
+}
+
+bool SessionPanel::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_userLabel && event->type() == QEvent::MouseButtonPress &&
+        static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+        m_model.toggleSessionList();
+        m_changed();
+        return true;
+    }
+    if (watched == m_cancelLabel && event->type() == QEvent::MouseButtonRelease) {
+        m_model.panel().close();
+        m_changed();
+        return true;
+    }
+    if ((watched == m_keyBox || watched == m_key2Box) &&
+        (event->type() == QEvent::KeyPress || event->type() == QEvent::MouseButtonPress)) {
+        if (event->type() == QEvent::KeyPress) {
+            auto* key = static_cast<QKeyEvent*>(event);
+            if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
+                enter();
+                return true;
+            }
+            if (key->key() == Qt::Key_F4) {
+                return false; // the panel and the board deal with it
+            }
+            if (m_model.panel().wrongShown()) {
+                return true;
+            }
+        }
+        if (m_model.panel().listShown() || m_model.panel().userBoxShown()) {
+            m_model.panel().hideListAndUserBox();
+            m_changed();
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void SessionPanel::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_F4 || event->key() == Qt::Key_Escape) {
+        event->ignore();
+        return;
+    }
+    const QString text = event->text();
+    if (!text.isEmpty() && text.front().isPrint() && m_model.panel().keyFrameShown()) {
+        QLineEdit* box = activeKeyBox();
+        box->setFocus();
+        box->insert(text);
+        m_model.panel().hideListAndUserBox();
+        m_changed();
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}
+
+bool SessionPanel::focusNextPrevChild(bool next) {
+    QList<QWidget*> stops;
+    for (QWidget* box : {static_cast<QWidget*>(m_userBox), static_cast<QWidget*>(m_sessionsList),
+                         static_cast<QWidget*>(activeKeyBox())}) {
+        if (box->isVisible()) {
+            stops.append(box);
+        }
+    }
+    if (!isVisible() || stops.isEmpty()) {
+        return QWidget::focusNextPrevChild(next);
+    }
+    const int at = static_cast<int>(stops.indexOf(QApplication::focusWidget()));
+    const int count = static_cast<int>(stops.size());
+    const int to = at < 0 ? 0 : (at + (next ? 1 : count - 1)) % count;
+    stops[to]->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
+}
+
+void SessionPanel::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) {
+        return;
+    }
+    m_model.panel().hideListAndUserBox();
+    m_changed();
+}
+
+} // namespace quillora

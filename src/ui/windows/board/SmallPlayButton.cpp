@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/board/SmallPlayButton.h"
+
+#include "look/Twips.h"
+#include "models/board/BoardModel.h"
+#include "platform/Fonts.h"
+
+namespace quillora {
+
+namespace {
+constexpr int kLeft = 2130, kTop = 3630, kWidth = 780, kHeight = 435;
+} // namespace
+
+SmallPlayButton::SmallPlayButton(BoardModel& model, std::function<void()> play, QWidget* board)
+    : QPushButton(QStringLiteral("JUGAR"), board), m_model(model) {
+    setGeometry(px(kLeft), px(kTop), px(kWidth), px(kHeight));
+    setFont(Fonts::display(5));
+    setCursor(Qt::PointingHandCursor);
+    setFocusPolicy(Qt::NoFocus);
+    connect(this, &QPushButton::clicked, this, std::move(play));
+}
+
+void SmallPlayButton::sync() {
+    setVisible(!m_model.shared().settings.playButtonHidden);
+    setText(QString::fromStdString(m_model.round().playCaption()));
+    setEnabled(m_model.smallPlayEnabled());
+}
+
+void SmallPlayButton::paint(const QString& game, const QString& disabled) {
+    setStyleSheet(QStringLiteral("QPushButton { background: %1; color: white; border: none;"
+                                 " border-radius: 4px; } QPushButton:disabled { background: %2; }")
+                      .arg(game, disabled));
+}
+
+} // namespace quillora

@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QPushButton>
+
+#include <functional>
+
+namespace quillora {
+
+class BoardModel;
+
+// The small twin of JUGAR: it plays too, and keys typed on it are
+// guesses; behind a lock it rests.
+class SmallPlayButton final : public QPushButton {
+public:
+    SmallPlayButton(BoardModel& model, std::function<void()> play, QWidget* board);
+
+    void sync();
+    void paint(const QString& game, const QString& disabled);
+
+private:
+    BoardModel& m_model;
+};
+
+} // namespace quillora

@@ -1,0 +1,114 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/board/SoundButton.h"
+
+#include "look/Twips.h"
+#include "models/board/BoardModel.h"
+#include "windows/QtColour.h"
+#include "windows/board/BoardAccessible.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace quillora {
+
+namespace {
+
+// Beside the status, under the automatic-phrase marker.
+constexpr int kLeft = 2580, kTop = 765;
+constexpr int kPictureWidth = 25, kPictureHeight = 20;
+constexpr int kMargin = 1;
+constexpr Rgb kSpeaker{60, 60, 60};
+
+} // namespace
+
+SoundButton::SoundButton(BoardModel& model, std::function<void()> changed, QWidget* board)
+    : QWidget(board), m_model(model), m_changed(std::move(changed)) {
+    setGeometry(px(kLeft), px(kTop), kPictureWidth + 2 * kMargin, kPictureHeight + 2 * kMargin);
+    setCursor(Qt::PointingHandCursor);
+    setMouseTracking(true);
+    setAccessibleRole(this, QAccessible::Button);
+}
+
+void SoundButton::sync() {
+    setToolTip(QString::fromUtf8(m_model.soundButtonTooltip()));
+    setSpokenName(this, toolTip().trimmed());
+    update();
+}
+
+void SoundButton::paintPicture(QPainter& p, QRectF box, bool soundOn) {
+    p.save();
+    p.translate(box.topLeft());
+    p.scale(box.width() / kPictureWidth, box.height() / kPictureHeight);
+    p.setRenderHint(QPainter::Antialiasing);
+    // The loudspeaker: a box and its cone.
+    QPainterPath speaker;
+    speaker.moveTo(3, 7.5);
+    speaker.lineTo(7, 7.5);
+    speaker.lineTo(12, 3);
+    speaker.lineTo(12, 17);
+    speaker.lineTo(7, 12.5);
+    speaker.lineTo(3, 12.5);
+    speaker.closeSubpath();
+    p.setPen(Qt::NoPen);
+    p.setBrush(qc(kSpeaker));
+    p.drawPath(speaker);
+    p.setBrush(Qt::NoBrush);
+    if (soundOn) {
+        // Two waves leaving it.
+        p.setPen(QPen(qc(kSpeaker), 1.6, Qt::SolidLine, Qt::RoundCap));
+        p.drawArc(QRectF(9, 6, 8, 8), -50 * 16, 100 * 16);
+        p.drawArc(QRectF(8, 3, 14, 14), -50 * 16, 100 * 16);
+    } else {
+        // Crossed out in the red of a wrong letter.
+        p.setPen(QPen(qc(kRedLamp), 2.0, Qt::SolidLine, Qt::RoundCap));
+        p.drawLine(QPointF(15, 6.5), QPointF(22, 13.5));
+        p.drawLine(QPointF(22, 6.5), QPointF(15, 13.5));
+    }
+    p.restore();
+}
+
+void SoundButton::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    const QRectF frame = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+    // The rectangle fills while the button is held.
+    p.setPen(qc(kPictureButtonBack));
+    p.setBrush(m_pressed ? QBrush(qc(kPictureButtonBack)) : QBrush(Qt::NoBrush));
+    p.drawRect(frame);
+    paintPicture(p, QRectF(kMargin, kMargin, kPictureWidth, kPictureHeight),
+                 m_model.shared().settings.sounds);
+}
+
+void SoundButton::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) {
+        QWidget::mousePressEvent(event);
+        return;
+    }
+    m_pressed = true;
+    update();
+}
+
+void SoundButton::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton || !m_pressed) {
+        QWidget::mouseReleaseEvent(event);
+        return;
+    }
+    m_pressed = false;
+    if (rect().contains(event->position().toPoint())) {
+        m_model.toggleSounds();
+    }
+    m_changed();
+}
+
+void SoundButton::mouseMoveEvent(QMouseEvent* event) {
+    // Passing over the button puts the keyboard's hover faces back.
+    const bool highlighted = m_model.hoveredKey() >= 0 || !m_model.correctionCaption().empty();
+    if (!(event->buttons() & Qt::LeftButton) && highlighted) {
+        m_model.restoreFaces();
+        m_model.leaveKeys();
+        m_changed();
+    }
+}
+
+} // namespace quillora

@@ -1,0 +1,142 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/board/StatsPanel.h"
+
+#include "look/Twips.h"
+#include "models/board/StatsPanelModel.h"
+#include "platform/Fonts.h"
+#include "windows/QtColour.h"
+#include "windows/board/BoardAccessible.h"
+
+#include <QEvent>
+#include <QLabel>
+#include <QMouseEvent>
+
+namespace quillora {
+
+namespace {
+
+// Over the gallows, under the score, where the other side panels stand.
+constexpr int kLeft = 120, kTop = 840, kWidth = 2760;
+constexpr int kFrameTop = 480, kFrameHeight = 3660;
+// Inside the frame: the row names, then the normal and the survival columns.
+constexpr int kNameLeft = 120, kNameWidth = 1080;
+constexpr int kNormalLeft = 1200, kSurvivalLeft = 1980, kColumnWidth = 720;
+constexpr int kRowHeight = 300;
+
+using Row = StatsPanelModel::Row;
+
+struct Line {
+    int top;
+    const char* name;
+    const char* tooltip;
+    // -1 for a heading, which has no values.
+    int row;
+};
+
+constexpr std::array<Line, 9> kLines{{
+    {360, "Puntos", " Total de puntos.  ", Row::Points},
+    {690, "Errores", " Total de errores. ", Row::Errors},
+    {1020, "Partidas", " Total de partidas. ", Row::Games},
+    {1410, "Promedio:", nullptr, -1},
+    {1740, "Puntos", " Promedio de puntos. ", Row::AveragePoints},
+    {2070, "Errores", " Promedio de errores. ", Row::AverageErrors},
+    {2460, "Récord:", nullptr, -1},
+    {2790, "Máximo/p.", " Máximo de puntos en una partida. ", Row::Best},
+    {3120, "Minimo/p.", " Minimo de puntos en una partida. ", Row::Worst},
+}};
+
+QLabel* label(const QString& text, QWidget* parent, QRect twips, double points,
+              Qt::Alignment align) {
+    auto* l = new QLabel(text, parent);
+    l->setGeometry(px(twips.x()), px(twips.y()), px(twips.width()), px(twips.height()));
+    l->setFont(Fonts::display(points));
+    l->setAlignment(align | Qt::AlignVCenter);
+    return l;
+}
+
+} // namespace
+
+StatsPanel::StatsPanel(StatsPanelModel& model, std::function<void()> changed, QWidget* board)
+    : QWidget(board), m_model(model), m_changed(std::move(changed)) {
+    setObjectName(QStringLiteral("statsFrame"));
+    setAttribute(Qt::WA_StyledBackground);
+    setAccessibleRole(this, QAccessible::Grouping);
+    setAccessibleName(QStringLiteral("Estadísticas"));
+
+    label(QStringLiteral("Estadísticas"), this, QRect(120, 60, 1680, 360), 11, Qt::AlignLeft);
+    m_closeLabel =
+        label(QStringLiteral(" Cerrar "), this, QRect(1800, 90, 840, 300), 8, Qt::AlignRight);
+    m_closeLabel->setCursor(Qt::PointingHandCursor);
+    m_closeLabel->installEventFilter(this);
+    setAccessibleRole(m_closeLabel, QAccessible::Button);
+
+    m_statsFrame = new QWidget(this);
+    m_statsFrame->setGeometry(0, px(kFrameTop), px(kWidth), px(kFrameHeight));
+    label(QStringLiteral("Normal"), m_statsFrame, QRect(kNormalLeft, 0, kColumnWidth, kRowHeight),
+          7, Qt::AlignHCenter);
+    label(QStringLiteral("Superviv."), m_statsFrame,
+          QRect(kSurvivalLeft, 0, kColumnWidth, kRowHeight), 7, Qt::AlignHCenter);
+    for (const Line& line : kLines) {
+        const bool heading = line.row < 0;
+        QLabel* name = label(QString::fromUtf8(line.name), m_statsFrame,
+                             QRect(heading ? 60 : kNameLeft, line.top, kNameWidth, kRowHeight),
+                             heading ? 9 : 8, Qt::AlignLeft);
+        if (heading) {
+            continue;
+        }
+        name->setToolTip(QString::fromUtf8(line.tooltip));
+        for (const int left : {kNormalLeft, kSurvivalLeft}) {
+            const int index =
+                line.row + (left == kSurvivalLeft ? StatsPanelModel::kSurvivalColumn : 0);
+            QLabel* value =
+                label(QString(), m_statsFrame,
+                      QRect(left + 30, line.top + 15, kColumnWidth - 60, kRowHeight - 30), 8,
+                      Qt::AlignHCenter);
+            value->setObjectName(QStringLiteral("lblSDates"));
+            // A figure alone says nothing: it is read with its row and column.
+            value->setAccessibleDescription(QString::fromUtf8(line.tooltip).trimmed().chopped(1) +
+                                            (left == kSurvivalLeft
+                                                 ? QStringLiteral(", supervivencia")
+                                                 : QStringLiteral(", normal")));
+            m_survivalStatsLabel[static_cast<std::size_t>(index)] = value;
+        }
+    }
+    hide();
+}
+
+void StatsPanel::paint(const QString& gameColour, const QString& shade) {
+    setStyleSheet(QStringLiteral("#statsFrame { background: %1; border-radius: %2px; }"
+                                 "QLabel { color: white; background: transparent; }"
+                                 "#lblSDates { background: %3; border-radius: 4px; }")
+                      .arg(gameColour)
+                      .arg(px(90))
+                      .arg(shade));
+}
+
+void StatsPanel::sync() {
+    setGeometry(px(kLeft), px(kTop), px(kWidth), px(m_model.height()));
+    setVisible(m_model.shown());
+    m_statsFrame->setVisible(m_model.valuesShown());
+    for (int i = 0; i < StatsPanelModel::kValues; ++i) {
+        valueLabel(i)->setText(qs(m_model.value(i)));
+    }
+    if (isVisible()) {
+        raise();
+    }
+}
+
+bool StatsPanel::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_closeLabel && event->type() == QEvent::MouseButtonRelease) {
+        m_model.close();
+        m_changed();
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void StatsPanel::mousePressEvent(QMouseEvent* event) {
+    event->accept();
+}
+
+} // namespace quillora

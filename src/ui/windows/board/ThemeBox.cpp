@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "windows/board/ThemeBox.h"
+
+#include "look/Twips.h"
+#include "models/board/BoardModel.h"
+#include "platform/Fonts.h"
+#include "windows/QtColour.h"
+#include "windows/board/BoardAccessible.h"
+
+#include <QFontMetrics>
+#include <QLabel>
+#include <QMenu>
+
+namespace quillora {
+
+namespace {
+constexpr int kLeft = 8160, kTop = 300, kWidth = 3135, kHeight = 720;
+// Without a score to show, the theme box and the JUGAR panel trade corners:
+// JUGAR beside the status, the theme under the phrase beside the strikes.
+constexpr int kCompactLeft = 8910, kCompactTop = 3540, kCompactWidth = 2385;
+constexpr int kLabelMargin = 60, kLabelTop = 210;
+constexpr double kThemePoints = 11;
+constexpr int kSmallestPixels = 8;
+} // namespace
+
+ThemeBox::ThemeBox(BoardModel& model, std::function<void()> changed, QWidget* board)
+    : RoundedLabel(board), m_model(model), m_changed(std::move(changed)) {
+    setObjectName(QStringLiteral("shpTheme"));
+    setAccessibleRole(this, QAccessible::Grouping);
+    setAccessibleName(QStringLiteral("Tema"));
+    m_captionLabel = new QLabel(QStringLiteral("Tema"), this);
+    m_captionLabel->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    m_captionLabel->setFont(Fonts::display(7));
+    m_themeLabel = new QLabel(this);
+    m_themeLabel->setAlignment(Qt::AlignCenter);
+    m_themeLabel->setFont(Fonts::display(kThemePoints));
+    m_themeLabel->setAccessibleDescription(QStringLiteral("Tema"));
+    m_themeLabel->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_themeLabel, &QWidget::customContextMenuRequested, this,
+            [this](const QPoint& at) { buildMenu()->popup(m_themeLabel->mapToGlobal(at)); });
+}
+
+QMenu* ThemeBox::buildMenu() {
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    connect(menu->addAction(QStringLiteral("Temas seleccionados")), &QAction::triggered, this,
+            [this] {
+                m_model.openThemesPanel();
+                m_changed();
+            });
+    connect(menu->addAction(QStringLiteral("Dame un consejo")), &QAction::triggered, this, [this] {
+        m_model.tip().startTip();
+        m_changed();
+    });
+    return menu;
+}
+
+void ThemeBox::sync() {
+    const bool compact = m_model.compactLayout();
+    const int width = compact ? kCompactWidth : kWidth;
+    setGeometry(px(compact ? kCompactLeft : kLeft), px(compact ? kCompactTop : kTop), px(width),
+                px(kHeight));
+    m_captionLabel->setGeometry(0, 0, px(width), px(kHeight));
+    m_themeLabel->setGeometry(px(kLabelMargin), px(kLabelTop), px(width - 2 * kLabelMargin),
+                              px(kHeight - kLabelTop - 30));
+    const QString theme = qs(m_model.round().themeLabel());
+    if (theme == m_themeLabel->text() && width == m_fittedWidth) {
+        return;
+    }
+    // Long theme names step down in size until they fit the box.
+    QFont font = Fonts::display(kThemePoints);
+    while (font.pixelSize() > kSmallestPixels &&
+           QFontMetrics(font).horizontalAdvance(theme) > m_themeLabel->width()) {
+        font.setPixelSize(font.pixelSize() - 1);
+    }
+    m_themeLabel->setFont(font);
+    m_themeLabel->setText(theme);
+    m_fittedWidth = width;
+}
+
+} // namespace quillora

@@ -1,0 +1,385 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "models/board/SessionPanelModel.h"
+#include "models/board/StatsPanelModel.h"
+
+#include "storage/ConfigFile.h"
+#include "support/BoardModelFixture.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace quillora {
+namespace {
+
+using Key = BoardModel::WindowKey;
+
+class BoardModelTest : public BoardModelFixture {
+protected:
+    void start() { model.round().startPhrase("CASA", 1, "ANIMAL"); }
+};
+
+TEST_F(BoardModelTest, QuitLabelOffersTheCorrectionAndDeleteUsesIt) {
+    start();
+    model.hoverCorrection();
+    EXPECT_EQ(model.correctionCaption(), "");
+    model.keyTyped(Key::Character, U'b');
+    model.hoverCorrection();
+    EXPECT_EQ(model.correctionCaption(), "<");
+    EXPECT_EQ(model.correctionTooltip(), " Borrar un strike. ");
+    model.restoreFaces();
+    EXPECT_EQ(model.correctionCaption(), "");
+    EXPECT_EQ(model.correctionTooltip(), " Octavo Strike. ");
+
+    dialogs.answer({true});
+    model.keyTyped(Key::Delete);
+    EXPECT_EQ(model.round().state().strikeCount, 0);
+    model.keyTyped(Key::Character, U'd');
+    model.hoverCorrection();
+    EXPECT_EQ(model.correctionCaption(), "") << "one correction a game";
+}
+
+TEST_F(BoardModelTest, WhatADeadKeyComposesIsJudgedLikeWhatIsTyped) {
+    model.round().startPhrase("PANA ANIS", 1, "ANIMAL");
+    model.keyTyped(Key::DeadKey, U'\u00B4');
+    model.keyTyped(Key::Character, U'a');
+    EXPECT_TRUE(model.round().board().triedLetters().empty()) << "an acute and a make an accent";
+    EXPECT_EQ(model.round().state().strikeCount, 0);
+
+    model.keyTyped(Key::DeadKey, U'~');
+    model.keyTyped(Key::Character, U'n');
+    EXPECT_EQ(model.round().board().triedLetters(), U"\u00D1") << "a tilde and n make \u00D1";
+
+    model.keyTyped(Key::DeadKey, U'^');
+    model.keyTyped(Key::Character, U'b');
+    model.keyTyped(Key::Character, U'a');
+    EXPECT_EQ(model.round().board().triedLetters(), U"\u00D1A")
+        << "a pair that composes to nothing is dropped, and the next key is a key again";
+}
+
+TEST_F(BoardModelTest, ALockedBoardOrAnOpenSessionPanelLetsNoShortcutThrough) {
+    start();
+    model.toggleSessionPanel();
+    ASSERT_TRUE(model.panel().shown());
+    for (Key key : {Key::Character, Key::Delete, Key::Enter, Key::F2, Key::F3, Key::ToggleAuto,
+                    Key::ToggleSounds, Key::BackToMenu, Key::Names, Key::MenuKey}) {
+        EXPECT_FALSE(model.keyReachesBoard(key)) << static_cast<int>(key);
+    }
+    EXPECT_TRUE(model.keyReachesBoard(Key::F4)) << "F4 closes the panel it opened";
+    const bool sounds = shared.settings.sounds;
+    model.keyTyped(Key::ToggleSounds);
+    model.keyTyped(Key::Character, U'c');
+    EXPECT_EQ(shared.settings.sounds, sounds);
+    EXPECT_TRUE(model.round().board().triedLetters().empty());
+
+    model.keyEntered("clave");
+    ASSERT_TRUE(shared.locked);
+    EXPECT_FALSE(model.keyReachesBoard(Key::F4)) << "behind the lock only the key box works";
+    EXPECT_FALSE(model.smallPlayEnabled());
+}
+
+TEST_F(BoardModelTest, TheWindowNeverRisesAboveSixtyTwips) {
+    EXPECT_EQ(BoardModel::keepTopOnScreen(-300), 60);
+    EXPECT_EQ(BoardModel::keepTopOnScreen(59), 60);
+    EXPECT_EQ(BoardModel::keepTopOnScreen(60), 60);
+    EXPECT_EQ(BoardModel::keepTopOnScreen(900), 900);
+}
+
+TEST_F(BoardModelTest, KeyFacesFollowHoverPressAndRelease) {
+    start();
+    const Palette& p = shared.palette;
+    model.hoverKey(1);
+    EXPECT_EQ(model.keyFace(1).face, p.redLamp);
+    EXPECT_EQ(model.keyFace(1).caption, kNearWhite);
+    model.hoverKey(2);
+    EXPECT_EQ(model.keyFace(2).face, p.gameColour);
+    EXPECT_EQ(model.keyFace(1).face, kKeyGrey);
+
+    model.pressKey(3);
+    model.hoverKey(4);
+    EXPECT_EQ(model.hoveredKey(), 2) << "no hover while a key is held";
+    EXPECT_EQ(model.keyFace(3).face, p.greenLamp);
+    EXPECT_EQ(model.keyFace(3).caption, (Rgb{0, 130, 0}));
+    model.releaseMouse(4);
+    EXPECT_TRUE(model.round().board().triedLetters().empty()) << "released off the key";
+
+    model.pressKey(3);
+    model.releaseMouse(3);
+    EXPECT_EQ(model.round().board().triedLetters(), U"C");
+    EXPECT_EQ(model.keyFace(3).face, kWhite);
+    EXPECT_EQ(model.keyFace(3).caption, kBlack);
+}
+
+TEST_F(BoardModelTest, KeyboardGrowsSixtyTwipsATickAndLampsFollowTheRound) {
+    model.openKeyboard();
+    for (int tick = 1; tick < 18; ++tick) {
+        model.tickOpen();
+    }
+    EXPECT_EQ(model.heightTwips(), BoardModel::kBaseHeightTwips + 17 * 60);
+    EXPECT_FALSE(model.keyboardShown());
+    model.tickOpen();
+    EXPECT_TRUE(model.keyboardShown());
+    EXPECT_FALSE(model.openTimerRunning());
+    EXPECT_EQ(model.heightTwips(), BoardModel::kBaseHeightTwips + 1080);
+
+    start();
+    model.keyTyped(Key::Character, U'z');
+    EXPECT_EQ(model.lampColours().light, kRedLamp);
+    EXPECT_EQ(model.lampColours().dark, (Rgb{194, 37, 37}));
+    model.round().tickLamp();
+    EXPECT_EQ(model.lampColours().light, model.gameColour());
+    EXPECT_EQ(model.lampColours().dark, model.shade());
+}
+
+TEST_F(BoardModelTest, AKeptKeyboardIsThereAtOnceAndOnlyASlidingOneClimbs) {
+    shared.settings.keyboardKeptOpen = true;
+    ASSERT_TRUE(saveSettings(shared, dialogs)); // the board takes it from the file
+    BoardModel kept{shared, dialogs, random, desktop.lookUp};
+    kept.load();
+    EXPECT_TRUE(kept.keyboardShown());
+    EXPECT_EQ(kept.heightTwips(), BoardModel::kBaseHeightTwips + BoardModel::kKeyboardExtraTwips);
+    EXPECT_EQ(kept.openingDropTwips(), 120);
+    EXPECT_FALSE(kept.topTimerRunning()) << "no climb on every opening of the board";
+
+    // A keyboard that slides out while the option is on climbs 600 twips.
+    shared.settings.keyboardKeptOpen = false;
+    ASSERT_TRUE(saveSettings(shared, dialogs));
+    BoardModel sliding{shared, dialogs, random, desktop.lookUp};
+    sliding.load();
+    shared.settings.keyboardKeptOpen = true;
+    sliding.openKeyboard();
+    while (sliding.openTimerRunning()) {
+        sliding.tickOpen();
+    }
+    int climbed = 0;
+    while (sliding.topTimerRunning()) {
+        climbed += sliding.tickTop();
+    }
+    EXPECT_EQ(climbed, 600);
+}
+
+TEST_F(BoardModelTest, OnlyTheLastRequestPlaysAndANewGameCountsItsScoreAfterItsSound) {
+    shared.settings.sounds = true;
+    start();
+    EXPECT_FALSE(model.scoreTimerRunning()) << "the score waits for the opening sound";
+    // A letter typed before the tick replaces the opening sound.
+    model.keyTyped(Key::Character, U'c');
+    EXPECT_TRUE(model.round().pendingSound().timerRunning());
+    EXPECT_EQ(model.tickSound(), 6);
+    EXPECT_EQ(model.tickSound(), 0) << "a played sound is gone";
+    EXPECT_FALSE(model.round().pendingSound().timerRunning());
+
+    start();
+    EXPECT_EQ(model.tickSound(), 2);
+    EXPECT_FALSE(model.scoreTimerRunning());
+    model.soundEnded(6);
+    EXPECT_FALSE(model.scoreTimerRunning()) << "only the opening sound lets the score go";
+    model.soundEnded(2);
+    EXPECT_TRUE(model.scoreTimerRunning());
+
+    // With sounds off a request is kept but nothing is armed, and the
+    // score counts at once.
+    countScore();
+    shared.settings.sounds = false;
+    start();
+    EXPECT_TRUE(model.scoreTimerRunning());
+    EXPECT_EQ(model.round().pendingSound().number(), 2);
+    EXPECT_FALSE(model.round().pendingSound().timerRunning());
+}
+
+TEST_F(BoardModelTest, ADroppedPictureIsShownNotStoredAndALockRefusesIt) {
+    shared.settings.backgroundPicture = "/home/ana/Imágenes/playa.jpg";
+    ASSERT_TRUE(saveSettings(shared, dialogs));
+    model.load();
+    EXPECT_EQ(model.backgroundPicture(), "/home/ana/Imágenes/playa.jpg");
+
+    model.dropFiles({"/tmp/notas.txt", "/tmp/Monte.PNG"});
+    EXPECT_EQ(model.backgroundPicture(), "/tmp/Monte.PNG");
+    EXPECT_EQ(shared.settings.backgroundPicture, "/home/ana/Imágenes/playa.jpg");
+    EXPECT_EQ(shared.currentSlot, 0) << "a missing text file adds no user";
+
+    shared.locked = true;
+    model.dropFiles({"/tmp/otra.gif"});
+    EXPECT_EQ(model.backgroundPicture(), "/tmp/Monte.PNG");
+}
+
+// --- the session panel ------------------------------------------------------------------
+
+class SessionPanelTest : public ::testing::Test {
+protected:
+    int ticksUntilStill() {
+        int ticks = 0;
+        while (panel.animating() && ticks < 1000) {
+            panel.tick();
+            ++ticks;
+        }
+        return ticks;
+    }
+
+    SharedState shared;
+    SessionPanelModel panel{shared};
+};
+
+TEST_F(SessionPanelTest, OpensInStepsShowsTheKeyOnArrivalAndASecondCallClosesIt) {
+    panel.toggleSessionPanel(2, true);
+    EXPECT_EQ(panel.height(), SessionPanelModel::kStartHeight);
+    EXPECT_EQ(panel.listTop(), 570 - 900);
+    EXPECT_FALSE(panel.keyFrameShown());
+    EXPECT_EQ(ticksUntilStill(), 25); // 135 + 25 * 240 reaches 6015
+    EXPECT_GE(panel.height(), SessionPanelModel::kOpenHeight);
+    EXPECT_TRUE(panel.keyFrameShown());
+    EXPECT_TRUE(panel.warningShown()) << "a game is being played";
+
+    panel.toggleSessionPanel(2, true);
+    ticksUntilStill();
+    EXPECT_FALSE(panel.shown());
+    EXPECT_LE(panel.height(), SessionPanelModel::kClosedHeight);
+}
+
+TEST_F(SessionPanelTest, EnterLocksThenOnlyTheExactKeyUnlocks) {
+    panel.toggleSessionPanel(1, false);
+    ticksUntilStill();
+    EXPECT_STREQ(panel.keyCaption(), "Escribe una clave:");
+    panel.enterKey("Clave");
+    EXPECT_TRUE(shared.locked);
+    EXPECT_STREQ(panel.keyCaption(), "BLOQUEADO");
+    EXPECT_TRUE(panel.secondBoxShown());
+    EXPECT_FALSE(panel.cancelShown());
+    EXPECT_FALSE(panel.f4Closes());
+
+    panel.enterKey("clave");
+    EXPECT_TRUE(shared.locked) << "the key is compared case by case";
+    EXPECT_TRUE(panel.wrongShown());
+    panel.tickWrong();
+    EXPECT_FALSE(panel.wrongShown());
+
+    panel.enterKey("Clave");
+    EXPECT_FALSE(shared.locked);
+    ticksUntilStill();
+    EXPECT_FALSE(panel.shown()) << "the right key closes the panel";
+
+    panel.toggleSessionPanel(1, false);
+    panel.enterKey("");
+    EXPECT_TRUE(shared.locked) << "an empty key locks and unlocks too";
+    panel.enterKey("");
+    EXPECT_FALSE(shared.locked);
+}
+
+TEST_F(SessionPanelTest, TheSessionListSlidesDownAndStops) {
+    panel.toggleSessionPanel(3, false);
+    panel.toggleList(3);
+    EXPECT_EQ(panel.listTop(), 570 - 1350);
+    int ticks = 0;
+    while (panel.listSliding() && ticks < 1000) {
+        panel.tickList();
+        ++ticks;
+    }
+    EXPECT_GE(panel.listTop(), 540);
+    EXPECT_LT(panel.listTop(), 600);
+    panel.toggleList(3);
+    EXPECT_FALSE(panel.listShown());
+}
+
+// --- the statistics panel -------------------------------------------------------------
+
+TEST(StatsPanelModel, AveragesRoundDownAndWaitForAGame) {
+    using Row = StatsPanelModel::Row;
+    SharedState shared;
+    StatsPanelModel panel{shared};
+    UserStats& stats = shared.current().stats;
+    panel.open();
+    for (const bool survival : {false, true}) {
+        EXPECT_EQ(panel.value(Row::AveragePoints, survival), "0");
+        EXPECT_EQ(panel.value(Row::AverageErrors, survival), "0");
+    }
+    EXPECT_EQ(panel.value(Row::Points, true), "1000");
+
+    struct Case {
+        const char* label;
+        double normalPoints;
+        double survivalPoints;
+        const char* normalAverage;
+        const char* survivalAverage;
+    };
+    // Two games in each column from here on: a loss and a win.
+    stats.countLoss(8, false);
+    stats.countWin(200, 1, false);
+    stats.countLoss(8, true);
+    stats.countWin(300, 0, true);
+    for (const Case& c : {Case{"gain over 1000", 400, 1400, "200", "200"},
+                          Case{"below 1000", -800, 900, "-400", "-50"},
+                          Case{"down, not towards 0", -601, 999, "-301", "-1"},
+                          Case{"up to a whole", 401, 1001, "200", "0"}}) {
+        shared.normalPoints = c.normalPoints;
+        shared.survivalPoints = c.survivalPoints;
+        panel.open();
+        EXPECT_EQ(panel.value(Row::AveragePoints, false), c.normalAverage) << c.label;
+        EXPECT_EQ(panel.value(Row::AveragePoints, true), c.survivalAverage) << c.label;
+    }
+    EXPECT_EQ(panel.value(0), "401") << "points read like the score";
+    const std::vector<std::string> survival(
+        {"1001", "8", "2", "4", "0", "300", "300"}); // points, errors, games, averages, records
+    for (int i = 0; i < 7; ++i) {
+        EXPECT_EQ(panel.value(StatsPanelModel::kSurvivalColumn + i), survival[i]) << i;
+    }
+
+    stats.reset();
+    shared.normalPoints = -5000;
+    panel.open();
+    EXPECT_EQ(panel.value(Row::Games, false), "0");
+    EXPECT_EQ(panel.value(Row::Best, false), "0");
+    EXPECT_EQ(panel.value(Row::AveragePoints, false), "200") << "no games: the last text stays";
+    EXPECT_EQ(panel.value(Row::AverageErrors, true), "4");
+}
+
+TEST(StatsPanelModel, UnrollsToItsFullHeightAndRollsUpOutOfSight) {
+    SharedState shared;
+    StatsPanelModel panel{shared};
+    EXPECT_FALSE(panel.shown());
+    panel.open();
+    EXPECT_TRUE(panel.shown());
+    std::vector<int> heights;
+    while (panel.animating() && heights.size() < 100) {
+        EXPECT_FALSE(panel.valuesShown()) << "the values wait for the full height";
+        panel.tick();
+        heights.push_back(panel.height());
+    }
+    ASSERT_EQ(heights.size(), 23U);
+    EXPECT_EQ(heights.front(), 255);
+    EXPECT_EQ(heights[21], 4035);
+    EXPECT_EQ(heights.back(), 4215);
+    EXPECT_TRUE(panel.valuesShown());
+
+    panel.close();
+    EXPECT_FALSE(panel.valuesShown()) << "the values go first";
+    int ticks = 0;
+    while (panel.animating() && ticks < 100) {
+        EXPECT_TRUE(panel.shown());
+        panel.tick();
+        ++ticks;
+    }
+    EXPECT_EQ(ticks, 23);
+    EXPECT_FALSE(panel.shown());
+    EXPECT_EQ(panel.height(), StatsPanelModel::kRestHeight);
+
+    // Opened again halfway up, it still comes to rest at the full height.
+    panel.open();
+    for (int tick = 0; tick < 12; ++tick) {
+        panel.tick();
+    }
+    panel.close();
+    panel.tick();
+    panel.open();
+    while (panel.animating()) {
+        panel.tick();
+    }
+    EXPECT_EQ(panel.height(), 4215);
+    panel.close();
+    panel.close();
+    EXPECT_TRUE(panel.animating()) << "a second close is the same close";
+}
+
+} // namespace
+} // namespace quillora

@@ -1,0 +1,208 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "models/themesList/ThemesListModel.h"
+
+#include "storage/ConfigFile.h"
+#include "storage/Sessions.h"
+#include "support/BoardModelFixture.h"
+#include "support/Draws.h"
+#include "words/ThemeCatalogue.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace quillora {
+namespace {
+
+using Outcome = ThemesListModel::Outcome;
+
+class ListModelTest : public BoardModelFixture {
+protected:
+    ListModelTest() {
+        shared.settings.sounds = false;
+        shared.settings.theme = 20;
+    }
+    // The themes list as the phrase window opens it, with `marked` selected
+    // before.
+    void open(std::initializer_list<int> marked) {
+        for (int t : marked) {
+            shared.current().selectedThemes[static_cast<std::size_t>(t)] = true;
+        }
+        list.load();
+    }
+    void highlightOnly(std::initializer_list<int> themes) {
+        list.clearAll();
+        for (int t : themes) {
+            list.setHighlighted(t - 1, true);
+        }
+    }
+    int highlightedCount() const {
+        int n = 0;
+        for (int row = 0; row < list.rows(); ++row) {
+            n += list.highlighted(row) ? 1 : 0;
+        }
+        return n;
+    }
+    std::string savedLine(int n) const { return storedLine(shared.currentSession().filePath, n); }
+
+    ThemesListModel list{shared, model.round(), dialogs};
+};
+
+TEST_F(ListModelTest, OnlyTwoOrMoreMarkedThemesShowHighlightedAndAceptarFollowsTheHighlights) {
+    shared.current().selectedThemes[0] = true;
+    open({7});
+    EXPECT_FALSE(shared.current().selectedThemes[0]) << "entry 0 is cleared on opening";
+    ASSERT_EQ(list.rows(), 50);
+    EXPECT_EQ(list.names().front(), "ANIMAL");
+    EXPECT_EQ(list.names().back(), std::string(ThemeCatalogue::storedThemeName(50)));
+    EXPECT_EQ(highlightedCount(), 0) << "a single theme is not shown as a choice";
+    EXPECT_FALSE(list.acceptEnabled());
+
+    list.setHighlighted(3, true);
+    EXPECT_TRUE(list.acceptEnabled());
+    list.setHighlighted(3, false);
+    EXPECT_FALSE(list.acceptEnabled());
+    list.selectAll();
+    EXPECT_EQ(highlightedCount(), 50);
+    EXPECT_TRUE(list.acceptEnabled());
+    list.clearAll();
+    EXPECT_FALSE(list.acceptEnabled());
+    EXPECT_EQ(list.acceptChoice(), Outcome::Stay) << "nothing highlighted is nothing to play";
+    EXPECT_TRUE(shared.current().selectedThemes[7]) << "and the table is left as it was";
+
+    shared.current().selectedThemes = {};
+    open({5, 9, 30});
+    EXPECT_EQ(highlightedCount(), 3);
+    EXPECT_TRUE(list.highlighted(4) && list.highlighted(8) && list.highlighted(29));
+    EXPECT_TRUE(list.acceptEnabled());
+}
+
+TEST_F(ListModelTest, AcceptingStoresTheTableAndOneThemeAloneBecomesTheTheme) {
+    open({});
+    random.queue({theme(14), theme(3), phrase(2)});
+    highlightOnly({3, 8, 40});
+    ASSERT_EQ(list.acceptChoice(), Outcome::Accepted);
+    EXPECT_EQ(shared.settings.theme, 20) << "three themes keep the theme setting";
+    EXPECT_TRUE(shared.current().selectedThemes[3] && shared.current().selectedThemes[8] &&
+                shared.current().selectedThemes[40]);
+    EXPECT_FALSE(shared.current().selectedThemes[20]);
+    EXPECT_EQ(model.round().themeWindowLabel(), "????") << "the phrase window drew again";
+    EXPECT_EQ(model.round().gameTheme(), 3);
+    EXPECT_EQ(model.round().drawnPhrase(), ThemeCatalogue::storedPhrase(3, 3));
+    EXPECT_TRUE(shared.themeChosen);
+
+    list.load();
+    random.queue({phrase(5)});
+    highlightOnly({12});
+    ASSERT_EQ(list.acceptChoice(), Outcome::Accepted);
+    EXPECT_EQ(shared.settings.theme, 12);
+    EXPECT_EQ(savedLine(11), "12") << "the chosen theme is saved at once";
+    EXPECT_EQ(model.round().themeWindowLabel(), std::string(ThemeCatalogue::storedThemeName(12)));
+    EXPECT_EQ(model.round().drawnPhrase(), ThemeCatalogue::storedPhrase(12, 6));
+    EXPECT_FALSE(shared.current().selectedThemes[40]);
+}
+
+TEST_F(ListModelTest, OnlyAPressHeldUntilTheTickAcceptsAndPlays) {
+    open({});
+    highlightOnly({4});
+    EXPECT_EQ(list.tickGo(), Outcome::Stay) << "no press, no hold";
+    list.press();
+    list.release();
+    EXPECT_FALSE(list.goTimerRunning());
+    EXPECT_EQ(list.tickGo(), Outcome::Stay) << "released before the half second";
+    EXPECT_NE(shared.settings.theme, 4);
+
+    list.press();
+    EXPECT_TRUE(list.goTimerRunning());
+    random.queue({phrase(1)});
+    EXPECT_EQ(list.tickGo(), Outcome::Play);
+    EXPECT_EQ(shared.settings.theme, 4);
+    EXPECT_FALSE(list.goTimerRunning()) << "one hold, one game";
+
+    highlightOnly({});
+    list.press();
+    EXPECT_EQ(list.tickGo(), Outcome::Stay) << "a hold with nothing highlighted plays nothing";
+}
+
+TEST_F(ListModelTest, TheListOpensBesideThePhraseWindowButNotAboveTheScreensTop) {
+    EXPECT_EQ(ThemesListModel::placeLeft(3000), 4440);
+    EXPECT_EQ(ThemesListModel::placeTop(4000), 2080);
+    EXPECT_EQ(ThemesListModel::placeTop(1980), 60);
+    EXPECT_EQ(ThemesListModel::placeTop(500), 60);
+}
+
+// --- the thematic tour --------------------------------------------------------------
+
+class TourTest : public ListModelTest {
+protected:
+    // The game on the board is lost at once, and the next one started.
+    void loseAndPlayOn() {
+        model.round().timeUp();
+        ASSERT_TRUE(model.round().state().over);
+        countScore();
+        model.playPressed(); // "NUEVA PARTIDA" clears the board
+        random.queue({phrase(m_next++ % 2)});
+        ASSERT_EQ(model.playPressed(), GameStart::Started);
+    }
+    int m_next = 1;
+};
+
+TEST_F(TourTest, ATourWalksEveryThemeInOrderWrapsAndGivesTheSelectionBack) {
+    open({5, 9});
+    random.queue({phrase(2)});
+    ASSERT_EQ(list.tour(), Outcome::Tour);
+    EXPECT_EQ(shared.tourPosition, 1);
+    EXPECT_TRUE(shared.settings.autoPhrase);
+    EXPECT_TRUE(model.round().autoMarkerVisible());
+    EXPECT_EQ(model.round().autoMarkerCaption(), "T");
+    EXPECT_EQ(model.round().autoMarkerTooltip(), " Desactivar el tour temático. ");
+    EXPECT_FALSE(shared.current().selectedThemes[5]) << "the tour borrows the table";
+    EXPECT_EQ(model.round().themeLabel(), "ANIMAL") << "the first game starts at once";
+
+    for (int expected = 1; expected <= 50; ++expected) {
+        ASSERT_EQ(model.round().gameTheme(), expected);
+        loseAndPlayOn();
+    }
+    EXPECT_EQ(model.round().gameTheme(), 1) << "after the fiftieth theme the first again";
+    EXPECT_EQ(savedLine(9), "0") << "a tour is never saved as an automatic phrase";
+
+    model.toggleAutoPhrase();
+    EXPECT_EQ(shared.tourPosition, 0);
+    EXPECT_FALSE(shared.settings.autoPhrase);
+    EXPECT_TRUE(shared.current().selectedThemes[5] && shared.current().selectedThemes[9]);
+    EXPECT_EQ(shared.current().selectedThemes[1], false);
+    EXPECT_EQ(model.round().autoMarkerCaption(), "A");
+}
+
+TEST_F(TourTest, TheTourStaysWithItsUserThroughASwitchAndBack) {
+    open({});
+    random.queue({phrase(2)});
+    list.tour();
+    loseAndPlayOn();
+    loseAndPlayOn();
+    ASSERT_EQ(shared.tourPosition, 3);
+    model.round().timeUp();
+    countScore();
+    ASSERT_EQ(shared.tourPosition, 4);
+
+    Sessions sessions{shared, dialogs, random};
+    random.queue({0.5});
+    std::string shown;
+    ASSERT_TRUE(sessions.add("Ana", false, shown));
+    EXPECT_EQ(shared.tourPosition, 0) << "a new user has no tour";
+    ASSERT_TRUE(sessions.switchTo(0, false));
+    EXPECT_EQ(shared.tourPosition, 4);
+
+    // The switch opens a fresh board for the user who came back.
+    BoardModel board{shared, dialogs, random, desktop.lookUp};
+    board.load();
+    EXPECT_TRUE(shared.settings.autoPhrase);
+    EXPECT_EQ(board.round().autoMarkerCaption(), "T");
+    random.queue({phrase(5)});
+    ASSERT_EQ(board.playPressed(), GameStart::Started) << "no phrase window during a tour";
+    EXPECT_EQ(board.round().gameTheme(), 4);
+}
+
+} // namespace
+} // namespace quillora

@@ -1,0 +1,177 @@
+// SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/BoardFixture.h"
+#include "windows/board/HistoryPanel.h"
+#include "windows/board/KeyboardAccessible.h"
+#include "windows/board/KeyboardView.h"
+#include "windows/board/PhraseView.h"
+#include "windows/board/SessionPanel.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+
+#include <functional>
+
+namespace quillora {
+namespace {
+
+// The board as a screen reader finds it through Qt's accessibility
+// interfaces, which the desktop's accessibility bus hands on as they are.
+using BoardAccess = BoardWindowTest;
+
+QAccessibleInterface* access(QWidget* widget) {
+    return QAccessible::queryAccessibleInterface(widget);
+}
+QString name(QAccessibleInterface* item) {
+    return item ? item->text(QAccessible::Name) : QStringLiteral("<none>");
+}
+QAccessibleInterface* cell(BoardWindow& board, int index) {
+    return access(board.phraseView())->child(index - 1);
+}
+QAccessibleInterface* key(BoardWindow& board, int index) {
+    return access(board.keyboard())->child(KeyboardAccessible::childOfKey(index));
+}
+
+// Every interface under every window of the program, depth first.
+void walk(QAccessibleInterface* item, const std::function<void(QAccessibleInterface*)>& visit,
+          int depth = 0) {
+    if (!item || depth > 40) {
+        return;
+    }
+    visit(item);
+    for (int i = 0; i < item->childCount(); ++i) {
+        walk(item->child(i), visit, depth + 1);
+    }
+}
+void walkAll(const std::function<void(QAccessibleInterface*)>& visit) {
+    for (QWidget* top : QApplication::topLevelWidgets()) {
+        walk(access(top), visit);
+    }
+}
+QStringList textsOf(QAccessibleInterface* item) {
+    QStringList texts;
+    for (const auto t :
+         {QAccessible::Name, QAccessible::Description, QAccessible::Value, QAccessible::Help}) {
+        texts << item->text(t);
+    }
+    if (QAccessibleTextInterface* text = item->textInterface()) {
+        texts << text->text(0, text->characterCount());
+    }
+    return texts;
+}
+
+TEST_F(BoardAccess, CellsKeysAndStrikesReadWhatTheBoardShows) {
+    startVaca();
+    openKeyboard();
+    QAccessibleInterface* phrase = access(window->phraseView());
+    ASSERT_EQ(phrase->role(), QAccessible::Table);
+    ASSERT_EQ(phrase->childCount(), 42);
+    ASSERT_EQ(phrase->tableInterface()->cellAt(0, 1), cell(*window, 2));
+    EXPECT_EQ(cell(*window, 2)->role(), QAccessible::Cell);
+    EXPECT_EQ(name(cell(*window, 2)), "oculta");
+    EXPECT_EQ(cell(*window, 2)->text(QAccessible::Description), "fila 1, columna 2");
+    EXPECT_EQ(name(cell(*window, 5)), "") << "past the phrase there is nothing to read";
+    EXPECT_EQ(key(*window, 1)->role(), QAccessible::Button);
+    EXPECT_EQ(name(key(*window, 1)), "A");
+    EXPECT_EQ(key(*window, 1)->text(QAccessible::Description), "sin probar");
+    EXPECT_FALSE(key(*window, 1)->state().invisible);
+
+    type("ax");
+    EXPECT_EQ(name(cell(*window, 2)), "A");
+    EXPECT_EQ(name(cell(*window, 4)), "A");
+    EXPECT_EQ(name(cell(*window, 1)), "oculta");
+    EXPECT_EQ(key(*window, 1)->text(QAccessible::Description), "probada: acierto");
+    EXPECT_TRUE(key(*window, 1)->state().invisible) << "the board hides a tried key";
+    EXPECT_EQ(key(*window, 25)->text(QAccessible::Description), "probada: fallo");
+    EXPECT_EQ(name(access(window->counterLabel())), "Letras reveladas: 2 de 4");
+    EXPECT_EQ(name(access(window->strikeLabel(1)->parentWidget())), "Strikes: 1 de 8");
+    EXPECT_EQ(name(access(window->strikeLabel(1))), "X");
+    EXPECT_EQ(name(access(window->strikeLabel(2))), QStringLiteral("vacío"));
+    EXPECT_EQ(window->statusLabel()->accessibleName(), "JUGANDO") << "no dots to announce";
+}
+
+TEST_F(BoardAccess, NoTextOfAnyWindowGivesTheHiddenPhraseAwayUntilTheGameEnds) {
+    startVaca();
+    // The theme window, which carried the phrase, goes as soon as the
+    // program's event loop turns.
+    settle();
+    ASSERT_EQ(window->themeWindow(), nullptr);
+    openKeyboard();
+    type("axyz");
+    int cells = 0;
+    walkAll([&cells](QAccessibleInterface* item) {
+        for (const QString& text : textsOf(item)) {
+            EXPECT_FALSE(text.contains(QStringLiteral("VACA"), Qt::CaseInsensitive))
+                << text.toStdString();
+        }
+        if (item->role() == QAccessible::Cell) {
+            ++cells;
+            const QString read = name(item);
+            EXPECT_TRUE(read == "oculta" || read == "A" || read.isEmpty()) << read.toStdString();
+        }
+    });
+    EXPECT_EQ(cells, 42) << "the walk reaches the phrase";
+
+    type("bdefg");
+    ASSERT_EQ(window->statusLabel()->text(), QStringLiteral("¡MUERTO!"));
+    QStringList read;
+    for (int i = 1; i <= 4; ++i) {
+        read << name(cell(*window, i));
+    }
+    EXPECT_EQ(read.join(""), "VACA");
+    EXPECT_EQ(cell(*window, 1)->text(QAccessible::Description), "fila 1, columna 1, no adivinada");
+    EXPECT_EQ(name(access(window->strikeLabel(1)->parentWidget())), "Strikes: 8 de 8");
+}
+
+TEST_F(BoardAccess, TheKeyboardReachesTheMenuAndEveryFocusedControlShowsAMark) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    QTest::keyClick(window.get(), Qt::Key_F10, Qt::ShiftModifier);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(menu->actions().front()->text(), "Nuevo partida");
+    menu->close();
+
+    // The mark is a border of the focused control's own, a dark one on
+    // these light boxes: its edge turns from the box's white to black.
+    const auto edge = [](QWidget* control) {
+        return control->grab().toImage().pixelColor(1, control->height() / 2).lightness();
+    };
+    startVaca();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    type("!");
+    QLineEdit* box = window->answerBox();
+    ASSERT_TRUE(box->hasFocus());
+    EXPECT_LT(edge(box), 60);
+    window->setFocus();
+    EXPECT_GT(edge(box), 150) << "the mark goes with the focus";
+    type("!");
+
+    QTest::keyClick(window.get(), Qt::Key_H, Qt::ControlModifier);
+    QListWidget* history = window->historyPanel()->list();
+    ASSERT_TRUE(history->hasFocus());
+    EXPECT_LT(edge(history), 60);
+    QTest::keyClick(history, Qt::Key_Escape);
+    EXPECT_FALSE(history->isVisible());
+    EXPECT_TRUE(window->hasFocus()) << "typing goes back to the board";
+
+    // The session panel covers the board: Tab keeps to its boxes.
+    QTest::keyClick(window.get(), Qt::Key_F4);
+    while (window->model().panel().animating()) {
+        window->model().panel().tick();
+    }
+    window->sync();
+    QLineEdit* key = window->sessionPanel()->keyBox();
+    ASSERT_TRUE(key->hasFocus());
+    EXPECT_LT(edge(key), 60);
+    for (int tab = 0; tab < 3; ++tab) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        EXPECT_TRUE(window->sessionPanel()->isAncestorOf(QApplication::focusWidget()))
+            << QApplication::focusWidget()->metaObject()->className();
+    }
+}
+
+} // namespace
+} // namespace quillora
