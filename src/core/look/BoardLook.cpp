@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "look/BoardLook.h"
 
-#include "state/Settings.h"
-
 #include <array>
 
 namespace quillora {
@@ -23,9 +21,9 @@ bool isVowelKey(int key) {
 
 } // namespace
 
-CellLook styledCell(const Settings& s, int cell) {
+CellLook styledCell(const LetterStyle& s, int cell) {
     const Rgb line = s.whiteLines ? kWhite : kBlack;
-    switch (s.letterStyle) {
+    switch (s.style) {
     case 1:
         return CellLook{kWhite, false, kBlack, line};
     case 2:
@@ -40,16 +38,16 @@ CellLook styledCell(const Settings& s, int cell) {
     }
 }
 
-CellLook phraseLabelLook(const Settings& s, const CellLook& before) {
-    return s.letterStyle == 2 ? before : styledCell(s, 1);
+CellLook phraseLabelLook(const LetterStyle& s, const CellLook& before) {
+    return s.style == 2 ? before : styledCell(s, 1);
 }
 
-Rgb missColour(const Settings& s, const Palette& palette) {
-    return s.letterStyle == 2 ? kNearWhite : palette.redLamp;
+Rgb missColour(const LetterStyle& s, const Palette& palette) {
+    return s.style == 2 ? kNearWhite : palette.redLamp;
 }
 
-Rgb windowBackground(const Settings& s) {
-    if (s.whiteLines || (s.whiteLetters && s.letterStyle != 3)) {
+Rgb windowBackground(const LetterStyle& s) {
+    if (s.whiteLines || (s.whiteLetters && s.style != 3)) {
         return kLightBlueBackground;
     }
     return kNearWhite;

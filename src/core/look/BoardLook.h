@@ -6,8 +6,6 @@
 
 namespace quillora {
 
-struct Settings;
-
 enum class Lamp { None, Yellow, Green, Red };
 
 // How one letter cell of the board is painted.
@@ -18,19 +16,28 @@ struct CellLook {
     Rgb underline;
 };
 
+// The letter style (0 "Libre" .. 4 "Tinta Azul") and the three flags that
+// only some styles heed: together they decide how the cells are painted.
+struct LetterStyle {
+    int style = 1;
+    bool opaqueLetters = false;
+    bool whiteLetters = false;
+    bool whiteLines = false;
+};
+
 // The letter style and flags applied to cell 1..42 of the board.
-CellLook styledCell(const Settings& settings, int cell);
+CellLook styledCell(const LetterStyle& letters, int cell);
 
 // The label that holds the whole hidden phrase takes the cells' look,
 // except in "Colorido", whose colours belong to single cells: there it keeps
 // the look it had.
-CellLook phraseLabelLook(const Settings& settings, const CellLook& before);
+CellLook phraseLabelLook(const LetterStyle& letters, const CellLook& before);
 
 // Colour of the letters left unguessed at the death.
-Rgb missColour(const Settings& settings, const Palette& palette);
+Rgb missColour(const LetterStyle& letters, const Palette& palette);
 
 // Background of the board window behind the panels.
-Rgb windowBackground(const Settings& settings);
+Rgb windowBackground(const LetterStyle& letters);
 
 // Panels flash in a lamp's colour; its lines and the strike counter take the
 // darker form. With no lamp lit they are the game colour and its shade.

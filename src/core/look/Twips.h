@@ -11,6 +11,10 @@ inline constexpr int px(int twips) {
     return twips >= 0 ? (twips + kTwipsPerPixel / 2) / kTwipsPerPixel
                       : -((-twips + kTwipsPerPixel / 2) / kTwipsPerPixel);
 }
+// The board window before its keyboard slides out: the design window's
+// preview shows the picture at this size too.
+inline constexpr int kBoardWidthTwips = 11745;
+inline constexpr int kBoardBaseHeightTwips = 5340;
 // Font sizes are given in points: 20 twips to the point.
 inline constexpr int pointsToPixels(double points) {
     return static_cast<int>(points * 20.0 / kTwipsPerPixel + 0.5);

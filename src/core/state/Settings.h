@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "look/BoardLook.h"
 #include "look/Colour.h"
 
 #include <string>
@@ -31,6 +32,8 @@ struct Settings {
     Rgb gameColour = kDefaultBlue;   // 18
     bool playButtonHidden = false;   // 19
     bool keyboardKeptOpen = false;   // 20
+
+    LetterStyle letters() const { return {letterStyle, opaqueLetters, whiteLetters, whiteLines}; }
 };
 
 } // namespace quillora

@@ -3,10 +3,10 @@
 #pragma once
 
 #include "look/Colour.h"
-#include "scoring/UserStats.h"
 #include "state/PlayerRoster.h"
 #include "state/Settings.h"
 #include "state/UserSession.h"
+#include "state/UserStats.h"
 
 #include <array>
 #include <filesystem>

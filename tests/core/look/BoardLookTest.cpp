@@ -3,7 +3,6 @@
 #include "look/BoardLook.h"
 #include "look/Picture.h"
 #include "round/Keyboard.h"
-#include "state/Settings.h"
 
 #include <gtest/gtest.h>
 
@@ -16,13 +15,8 @@ constexpr Rgb kRed{255, 0, 0};
 constexpr Rgb kOrange{255, 128, 0};
 constexpr Rgb kBlue{0, 0, 255};
 
-Settings style(int estilo, bool opaca, bool blanca, bool linea) {
-    Settings s;
-    s.letterStyle = estilo;
-    s.opaqueLetters = opaca;
-    s.whiteLetters = blanca;
-    s.whiteLines = linea;
-    return s;
+LetterStyle style(int number, bool opaque, bool whiteLetters, bool whiteLines) {
+    return {number, opaque, whiteLetters, whiteLines};
 }
 
 TEST(BoardLookTest, ShadesDropComponentsAboveThirtyAndRaiseTheOthers) {
@@ -34,7 +28,7 @@ TEST(BoardLookTest, ShadesDropComponentsAboveThirtyAndRaiseTheOthers) {
 
 TEST(BoardLookTest, CellLooksFollowStyleAndFlags) {
     using Look = std::tuple<Rgb, bool, Rgb, Rgb>; // background, filled, letter, underline
-    const std::vector<std::tuple<Settings, int, Look>> cases{
+    const std::vector<std::tuple<LetterStyle, int, Look>> cases{
         {style(0, false, false, false), 1, {kWhite, false, kBlack, kBlack}},
         {style(0, true, true, true), 1, {kWhite, true, kWhite, kWhite}},
         {style(1, true, true, false), 1, {kWhite, false, kBlack, kBlack}},
@@ -50,7 +44,7 @@ TEST(BoardLookTest, CellLooksFollowStyleAndFlags) {
     for (const auto& [settings, cell, expected] : cases) {
         const CellLook look = styledCell(settings, cell);
         EXPECT_EQ(Look(look.background, look.filled, look.letter, look.underline), expected)
-            << "style " << settings.letterStyle << ", cell " << cell;
+            << "style " << settings.style << ", cell " << cell;
     }
 }
 

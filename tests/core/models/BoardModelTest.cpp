@@ -193,16 +193,16 @@ TEST_F(BoardModelTest, ADroppedPictureIsShownNotStoredAndALockRefusesIt) {
     shared.settings.backgroundPicture = "/home/ana/Imágenes/playa.jpg";
     ASSERT_TRUE(saveSettings(shared, dialogs));
     model.load();
-    EXPECT_EQ(model.backgroundPicture(), "/home/ana/Imágenes/playa.jpg");
+    EXPECT_EQ(model.appearance().shownPicture(), "/home/ana/Imágenes/playa.jpg");
 
     model.dropFiles({"/tmp/notas.txt", "/tmp/Monte.PNG"});
-    EXPECT_EQ(model.backgroundPicture(), "/tmp/Monte.PNG");
+    EXPECT_EQ(model.appearance().shownPicture(), "/tmp/Monte.PNG");
     EXPECT_EQ(shared.settings.backgroundPicture, "/home/ana/Imágenes/playa.jpg");
     EXPECT_EQ(shared.currentSlot, 0) << "a missing text file adds no user";
 
     shared.locked = true;
     model.dropFiles({"/tmp/otra.gif"});
-    EXPECT_EQ(model.backgroundPicture(), "/tmp/Monte.PNG");
+    EXPECT_EQ(model.appearance().shownPicture(), "/tmp/Monte.PNG");
 }
 
 // --- the session panel ------------------------------------------------------------------

@@ -63,7 +63,8 @@ protected:
         return window;
     }
     DesignModel& open() {
-        design.emplace(model, preview, pictures.string(), temp.path().string());
+        design.emplace(model.appearance(), model.shared(), model.dialogs(), preview,
+                       pictures.string(), temp.path().string());
         design->open();
         return *design;
     }
@@ -163,7 +164,7 @@ TEST_F(DesignModelTest, TogglesFlipTheirFlagsUnlessTheStyleHasTakenThemOver) {
     // The real size takes the board's picture and the preview with it.
     window.flip(Toggle::Size);
     EXPECT_TRUE(shared.settings.realSize);
-    EXPECT_TRUE(model.pictureRealSize());
+    EXPECT_TRUE(model.appearance().pictureRealSize());
     EXPECT_TRUE(window.previewRealSize());
     preview.good.insert("/fotos/playa.jpg");
     window.typeAddress("/fotos/playa.jpg");
@@ -190,16 +191,17 @@ TEST_F(DesignModelTest, TheStyleTickBringsTheBoardInStep) {
     loadBoard();
     DesignModel& window = open();
     EXPECT_TRUE(window.styleTimerRunning());
-    const CellLook before = model.phraseLabel();
+    const CellLook before = model.appearance().phraseLabel();
 
     window.chooseStyle(4); // "Sombra Negra"
-    EXPECT_EQ(model.phraseLabel().background, before.background) << "not before the tick";
+    EXPECT_EQ(model.appearance().phraseLabel().background, before.background)
+        << "not before the tick";
     window.tickStyle();
-    EXPECT_EQ(model.phraseLabel().background, kBlack);
-    EXPECT_TRUE(model.phraseLabel().filled);
+    EXPECT_EQ(model.appearance().phraseLabel().background, kBlack);
+    EXPECT_TRUE(model.appearance().phraseLabel().filled);
 
     window.flip(Toggle::White);
-    EXPECT_EQ(model.background(), kLightBlueBackground);
+    EXPECT_EQ(model.appearance().background(), kLightBlueBackground);
     window.close();
     EXPECT_FALSE(window.styleTimerRunning());
     EXPECT_EQ(shared.settings.letterStyle, 3) << "the style stays in effect unsaved";
@@ -243,7 +245,7 @@ TEST_F(DesignModelTest, RemovingThePictureThenSavingStoresAnEmptyPicture) {
     DesignModel& window = open();
 
     window.removePicture();
-    EXPECT_EQ(model.backgroundPicture(), "");
+    EXPECT_EQ(model.appearance().shownPicture(), "");
     EXPECT_EQ(window.preview(), "");
     EXPECT_FALSE(window.removeShown());
     ASSERT_TRUE(window.save());
@@ -251,7 +253,7 @@ TEST_F(DesignModelTest, RemovingThePictureThenSavingStoresAnEmptyPicture) {
     EXPECT_EQ(shared.settings.backgroundPicture, "");
     EXPECT_EQ(storedLine(1), "");
     EXPECT_EQ(storedLine(2), "/fotos");
-    EXPECT_EQ(model.backgroundPicture(), "");
+    EXPECT_EQ(model.appearance().shownPicture(), "");
 }
 
 TEST_F(DesignModelTest, SavingStoresTheChosenPictureTheStyleAndTheFlags) {
@@ -267,7 +269,7 @@ TEST_F(DesignModelTest, SavingStoresTheChosenPictureTheStyleAndTheFlags) {
     EXPECT_EQ(storedLine(2), pictures.string());
     EXPECT_EQ(storedLine(3), "4");
     EXPECT_EQ(storedLine(6), "1");
-    EXPECT_EQ(model.backgroundPicture(), playa);
+    EXPECT_EQ(model.appearance().shownPicture(), playa);
     EXPECT_TRUE(dialogs.shown.empty());
 }
 
@@ -275,10 +277,10 @@ TEST_F(DesignModelTest, ClosingWithoutSavingPutsTheStoredPictureBackAndKeepsTheS
     DesignModel& window = openOnMonte();
     const std::string before = slurp(shared.currentSession().filePath);
     window.chooseStyle(3);
-    EXPECT_EQ(model.backgroundPicture(), "/fotos/monte.gif");
+    EXPECT_EQ(model.appearance().shownPicture(), "/fotos/monte.gif");
 
     window.close();
-    EXPECT_EQ(model.backgroundPicture(), "/fotos/playa.jpg");
+    EXPECT_EQ(model.appearance().shownPicture(), "/fotos/playa.jpg");
     EXPECT_EQ(shared.settings.backgroundPicture, "/fotos/playa.jpg");
     EXPECT_EQ(shared.settings.letterStyle, 2);
     EXPECT_EQ(slurp(shared.currentSession().filePath), before) << "nothing was written";
@@ -298,7 +300,7 @@ TEST_F(DesignModelTest, ASaveTheDiskRefusesIsToldInTheWindowsOwnWords) {
     EXPECT_EQ(shared.settings.backgroundPicture, "/fotos/playa.jpg")
         << "what was not saved is not kept";
     window.close();
-    EXPECT_EQ(model.backgroundPicture(), "/fotos/playa.jpg");
+    EXPECT_EQ(model.appearance().shownPicture(), "/fotos/playa.jpg");
 }
 
 // --- pictures ----------------------------------------------------------------------------
@@ -316,13 +318,13 @@ TEST_F(DesignModelTest, OnlyAPictureNameTypedInTheAddressIsLoaded) {
         window.typeAddress(path);
         window.loadTypedPicture();
         if (taken) {
-            EXPECT_EQ(model.backgroundPicture(), path);
+            EXPECT_EQ(model.appearance().shownPicture(), path);
             EXPECT_EQ(window.preview(), path);
             EXPECT_EQ(window.picture(), path);
             EXPECT_EQ(window.folder(), "/otras");
         } else {
             EXPECT_TRUE(preview.asked.empty()) << "not even tried";
-            EXPECT_EQ(model.backgroundPicture(), "/fotos/playa.jpg");
+            EXPECT_EQ(model.appearance().shownPicture(), "/fotos/playa.jpg");
             EXPECT_EQ(window.picture(), "/fotos/playa.jpg");
         }
         EXPECT_FALSE(window.listRefused());
@@ -338,18 +340,18 @@ TEST_F(DesignModelTest, APictureThatCannotBeReadTurnsTheListRedAndChangesNothing
     for (const char* bad : {"rota.jpg", "cortada.jpg"}) {
         window.chooseFile(bad);
         EXPECT_TRUE(window.listRefused()) << bad;
-        EXPECT_EQ(model.backgroundPicture(), "/fotos/playa.jpg");
+        EXPECT_EQ(model.appearance().shownPicture(), "/fotos/playa.jpg");
         EXPECT_EQ(window.preview(), "/fotos/playa.jpg");
         EXPECT_EQ(window.picture(), "/fotos/playa.jpg");
     }
     window.typeAddress("/fotos/rota.bmp");
     window.loadTypedPicture();
     EXPECT_TRUE(window.listRefused());
-    EXPECT_EQ(model.backgroundPicture(), "/fotos/playa.jpg");
+    EXPECT_EQ(model.appearance().shownPicture(), "/fotos/playa.jpg");
 
     window.chooseFile("monte.png");
     EXPECT_FALSE(window.listRefused()) << "a good picture makes the list white again";
-    EXPECT_EQ(model.backgroundPicture(), "/fotos/monte.png");
+    EXPECT_EQ(model.appearance().shownPicture(), "/fotos/monte.png");
 }
 
 TEST_F(DesignModelTest, APathTheConfigurationFileCannotHoldIsRefused) {
@@ -361,7 +363,7 @@ TEST_F(DesignModelTest, APathTheConfigurationFileCannotHoldIsRefused) {
     window.chooseFile("a.jpg");
     EXPECT_TRUE(window.listRefused());
     EXPECT_TRUE(preview.asked.empty());
-    EXPECT_EQ(model.backgroundPicture(), "");
+    EXPECT_EQ(model.appearance().shownPicture(), "");
 
     // A line break in a name would split the file's line in two.
     window.folderChanged("/fotos");
@@ -393,7 +395,7 @@ TEST_F(DesignModelTest, APictureDroppedBeforeOpeningIsTheWindowsToKeepOrDrop) {
     EXPECT_EQ(window.folder(), "/descargas");
     EXPECT_EQ(window.preview(), "/descargas/luna.png");
     window.close();
-    EXPECT_EQ(model.backgroundPicture(), "/fotos/playa.jpg");
+    EXPECT_EQ(model.appearance().shownPicture(), "/fotos/playa.jpg");
 }
 
 TEST_F(DesignModelTest, WhileOpenADropOnTheBoardIsHandedToTheWindow) {
@@ -402,16 +404,17 @@ TEST_F(DesignModelTest, WhileOpenADropOnTheBoardIsHandedToTheWindow) {
 
     model.dropFiles({"/descargas/rota.jpg"});
     EXPECT_TRUE(window.listRefused());
-    EXPECT_EQ(model.backgroundPicture(), "/fotos/playa.jpg") << "the board waits for the window";
+    EXPECT_EQ(model.appearance().shownPicture(), "/fotos/playa.jpg")
+        << "the board waits for the window";
     model.dropFiles({"/descargas/luna.png"});
-    EXPECT_EQ(model.backgroundPicture(), "/descargas/luna.png");
+    EXPECT_EQ(model.appearance().shownPicture(), "/descargas/luna.png");
     EXPECT_EQ(window.address(), "/descargas/luna.png");
     EXPECT_EQ(window.preview(), "/descargas/luna.png");
 
     // Closed, the board takes its drops itself again.
     window.close();
     model.dropFiles({"/descargas/rota.jpg"});
-    EXPECT_EQ(model.backgroundPicture(), "/descargas/rota.jpg");
+    EXPECT_EQ(model.appearance().shownPicture(), "/descargas/rota.jpg");
 }
 
 // --- folders -------------------------------------------------------------------------------
@@ -449,7 +452,7 @@ TEST_F(DesignModelTest, TheAddressGoesToATypedFolderAndReadsAShownOneAgain) {
     preview.good.insert(luna);
     window.typeAddress(luna);
     window.goToAddress();
-    EXPECT_EQ(model.backgroundPicture(), luna);
+    EXPECT_EQ(model.appearance().shownPicture(), luna);
     EXPECT_EQ(window.listFolder(), fotos.string());
 
     // No folder there, or not a place at all: the lists stay put.

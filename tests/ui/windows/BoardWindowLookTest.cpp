@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/ConfigFile.h"
 #include "support/BoardFixture.h"
-#include "windows/board/BackgroundPicture.h"
+#include "windows/BackgroundPicture.h"
 #include "windows/board/SoundButton.h"
 
 #include <QImage>

@@ -349,8 +349,8 @@ TEST_F(DesignWindowTest, StylesAndTogglesReachTheBoardAtOnce) {
     design->styleList()->setFocus();
     QTest::keyClick(design->styleList(), Qt::Key_End);
     EXPECT_EQ(shared.settings.letterStyle, 3);
-    EXPECT_EQ(window->model().phraseLabel().background, kBlack);
-    EXPECT_EQ(window->model().cellLook(1).letter, kWhite);
+    EXPECT_EQ(window->model().appearance().phraseLabel().background, kBlack);
+    EXPECT_EQ(window->model().appearance().cellLook(1).letter, kWhite);
     DesignToggle* letters = design->toggleButton(DesignModel::Toggle::Letter);
     EXPECT_FALSE(letters->isEnabled());
     EXPECT_TRUE(letters->lit());
@@ -365,7 +365,7 @@ TEST_F(DesignWindowTest, StylesAndTogglesReachTheBoardAtOnce) {
     shared.settings.letterStyle = 1;
     design->styleTimer()->setInterval(0);
     QCoreApplication::processEvents();
-    EXPECT_EQ(window->model().phraseLabel().background, kWhite);
+    EXPECT_EQ(window->model().appearance().phraseLabel().background, kWhite);
 }
 
 TEST_F(DesignWindowTest, APictureDroppedOnTheBoardGoesToTheOpenWindow) {

@@ -58,8 +58,8 @@ void BoardModel::load() {
         clearForBoardLoad(m_shared);
         readSessionFile(m_shared, m_random);
         applyLineValues(m_shared);
-        applyLetterStyle();
-        m_picture = m_shared.settings.backgroundPicture;
+        m_appearance.applyLetterStyle();
+        m_appearance.showStoredPicture();
     });
     m_tip.rest(m_shared.settings.animated);
     step([this] {
@@ -159,7 +159,7 @@ void BoardModel::nextTurn() {
 }
 
 void BoardModel::phraseLaid() {
-    applyLetterStyle();
+    m_appearance.applyLetterStyle();
     m_countdown.start(m_round.board().letterTotal(), m_shared.settings.countdown,
                       !m_scoring.severalPlayers());
     openKeyboard();
@@ -460,10 +460,8 @@ void BoardModel::dropFiles(const std::vector<std::string>& paths) {
     // whether it is kept.
     std::vector<std::string> others;
     for (const std::string& path : paths) {
-        if (isPictureName(path) && m_pictureTaker) {
-            m_pictureTaker(path);
-        } else if (isPictureName(path)) {
-            m_picture = path;
+        if (isPictureName(path)) {
+            m_appearance.dropPicture(path);
         } else {
             others.push_back(path);
         }

@@ -3,6 +3,8 @@
 #pragma once
 
 #include "look/BoardLook.h"
+#include "look/Twips.h"
+#include "models/board/BoardAppearance.h"
 #include "models/board/HistoryPanelModel.h"
 #include "models/board/SessionPanelModel.h"
 #include "models/board/SidePanelModel.h"
@@ -30,8 +32,8 @@ class WebLookUp;
 // widget draws this and the round it holds.
 class BoardModel final : private RoundEvents {
 public:
-    static constexpr int kWidthTwips = 11745;
-    static constexpr int kBaseHeightTwips = 5340;
+    static constexpr int kWidthTwips = kBoardWidthTwips;
+    static constexpr int kBaseHeightTwips = kBoardBaseHeightTwips;
     static constexpr int kKeyboardExtraTwips = 1080;
     static constexpr int kOpenStepTwips = 60;
     static constexpr int kOpenTickMs = 10;
@@ -272,30 +274,15 @@ public:
     LampColours lampColours() const;
     Rgb gameColour() const { return m_shared.palette.gameColour; }
     Rgb shade() const { return shadeOf(m_shared.palette.gameColour); }
-    CellLook cellLook(int cell) const { return styledCell(m_shared.settings, cell); }
-    Rgb missColour() const { return quillora::missColour(m_shared.settings, m_shared.palette); }
-    Rgb background() const { return windowBackground(m_shared.settings); }
-    const CellLook& phraseLabel() const { return m_phraseLabel; }
-    // The background picture shown now: the stored one, or one just dropped
-    // on the board or tried in the design window, which is shown but not
-    // stored.
-    const std::string& backgroundPicture() const { return m_picture; }
-    bool pictureRealSize() const { return m_shared.settings.realSize; }
-    void showPicture(const std::string& path) { m_picture = path; }
+    // The cells' style, the colours and the background picture.
+    BoardAppearance& appearance() { return m_appearance; }
+    const BoardAppearance& appearance() const { return m_appearance; }
 
     // --- the design window ---------------------------------------------------------
-    // openDesign: "Cambiar diseño" and Ctrl+D. After a death the missed
-    // letters keep their colour until the next game, so the design, which
-    // repaints the cells, waits for it.
+    // "Cambiar diseño" and Ctrl+D. After a death the missed letters keep
+    // their colour until the next game, so the design, which repaints the
+    // cells, waits for it.
     bool designOffered() const { return m_round.designEnabled(); }
-    // While the design window is open, a picture dropped on the board is
-    // handed to it, which shows it only if it can be read; an empty taker
-    // gives the board its drops back.
-    void handPicturesTo(std::function<void(const std::string&)> taker) {
-        m_pictureTaker = std::move(taker);
-    }
-    // The letter style and flags as they now stand, on the phrase label too.
-    void applyLetterStyle() { m_phraseLabel = phraseLabelLook(m_shared.settings, m_phraseLabel); }
 
 private:
     // The round's hand-overs pass through here: the window opens its keyboard
@@ -352,9 +339,7 @@ private:
     bool m_toMenu = false;
     int m_topSteps = 0;
     PlayerLabel m_player;
-    CellLook m_phraseLabel = styledCell(Settings{}, 1);
-    std::string m_picture;
-    std::function<void(const std::string&)> m_pictureTaker;
+    BoardAppearance m_appearance{m_shared};
 };
 
 } // namespace quillora

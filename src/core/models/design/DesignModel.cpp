@@ -3,9 +3,10 @@
 #include "models/design/DesignModel.h"
 
 #include "look/Picture.h"
-#include "models/board/BoardModel.h"
+#include "models/design/DesignedBoard.h"
 #include "ports/Dialogs.h"
 #include "ports/PictureLoader.h"
+#include "state/SharedState.h"
 #include "storage/ConfigFile.h"
 
 #include <exception>
@@ -66,9 +67,9 @@ std::string userPictureFolder(const std::string& pictures, const std::string& ho
     return !pictures.empty() && fs::is_directory(pictures, error) ? pictures : home;
 }
 
-DesignModel::DesignModel(BoardModel& board, PictureLoader& loader, std::string pictures,
-                         std::string home)
-    : m_board(board), m_shared(board.shared()), m_dialogs(board.dialogs()), m_loader(loader),
+DesignModel::DesignModel(DesignedBoard& board, SharedState& shared, Dialogs& dialogs,
+                         PictureLoader& loader, std::string pictures, std::string home)
+    : m_board(board), m_shared(shared), m_dialogs(dialogs), m_loader(loader),
       m_pictures(std::move(pictures)), m_home(std::move(home)) {}
 
 DesignModel::~DesignModel() {
@@ -90,7 +91,7 @@ void DesignModel::open() {
         listPictures();
         m_picture = s.backgroundPicture;
         m_folder = s.pictureFolder;
-        const std::string shown = m_board.backgroundPicture();
+        const std::string shown = m_board.shownPicture();
         if (!shown.empty()) {
             shownWhole = m_loader.load(shown, s.realSize);
             m_preview = shownWhole ? shown : std::string();

@@ -12,7 +12,7 @@ namespace quillora {
 
 class Dialogs;
 class PictureLoader;
-class BoardModel;
+class DesignedBoard;
 struct SharedState;
 
 // One entry of the style list: its caption and the style it stores.
@@ -53,7 +53,8 @@ public:
 
     // `pictures` is the user's pictures folder, `home` the home folder, which
     // a typed "~" stands for.
-    DesignModel(BoardModel& board, PictureLoader& loader, std::string pictures, std::string home);
+    DesignModel(DesignedBoard& board, SharedState& shared, Dialogs& dialogs, PictureLoader& loader,
+                std::string pictures, std::string home);
     ~DesignModel();
     DesignModel(const DesignModel&) = delete;
     DesignModel& operator=(const DesignModel&) = delete;
@@ -125,7 +126,7 @@ private:
     bool& setting(Toggle which);
     ToggleLook& look(Toggle which);
 
-    BoardModel& m_board;
+    DesignedBoard& m_board;
     SharedState& m_shared;
     Dialogs& m_dialogs;
     PictureLoader& m_loader;

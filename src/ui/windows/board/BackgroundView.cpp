@@ -10,8 +10,8 @@
 
 namespace quillora {
 
-BackgroundView::BackgroundView(const BoardModel& model, QWidget* board)
-    : QWidget(board), m_model(model) {
+BackgroundView::BackgroundView(const BoardAppearance& appearance, QWidget* board)
+    : QWidget(board), m_appearance(appearance) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAccessibleRole(this, QAccessible::Graphic);
     setAccessibleName(QStringLiteral("Imagen de fondo"));
@@ -21,8 +21,8 @@ BackgroundView::BackgroundView(const BoardModel& model, QWidget* board)
 }
 
 void BackgroundView::sync() {
-    if (m_picture.follow(QString::fromStdString(m_model.backgroundPicture()),
-                         m_model.pictureRealSize(), size(), devicePixelRatioF())) {
+    if (m_picture.follow(QString::fromStdString(m_appearance.shownPicture()),
+                         m_appearance.pictureRealSize(), size(), devicePixelRatioF())) {
         update();
     }
 }

@@ -2,19 +2,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "windows/board/BackgroundPicture.h"
+#include "windows/BackgroundPicture.h"
 
 #include <QWidget>
 
 namespace quillora {
 
-class BoardModel;
+class BoardAppearance;
 
 // The picture behind everything on the board. Clicks and drops go
 // through it to the board itself.
 class BackgroundView final : public QWidget {
 public:
-    BackgroundView(const BoardModel& model, QWidget* board);
+    BackgroundView(const BoardAppearance& appearance, QWidget* board);
 
     void sync();
     const BackgroundPicture& picture() const { return m_picture; }
@@ -23,7 +23,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    const BoardModel& m_model;
+    const BoardAppearance& m_appearance;
     BackgroundPicture m_picture;
 };
 

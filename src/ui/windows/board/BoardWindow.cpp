@@ -37,7 +37,6 @@
 #include "windows/players/PlayersWindow.h"
 #include "windows/theme/ThemeWindow.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
@@ -79,8 +78,13 @@ BoardWindow::BoardWindow(SharedState& shared, Dialogs& dialogs, Random& random, 
     setAccessibleRole(this, QAccessible::Window);
     buildControls();
     buildTimers();
-    // Every release of the mouse on the board puts the hover faces back.
-    qApp->installEventFilter(this);
+    // Every release of the mouse on the board puts the hover faces back. A
+    // release goes to the control the press began on, so the board watches
+    // itself and each of its controls, and nothing else of the program.
+    installEventFilter(this);
+    for (QWidget* control : findChildren<QWidget*>()) {
+        control->installEventFilter(this);
+    }
     sync();
 }
 
@@ -183,7 +187,7 @@ void BoardWindow::buildTimers() {
 
 void BoardWindow::buildControls() {
     auto changed = [this] { sync(); };
-    m_background = new BackgroundView(m_model, this);
+    m_background = new BackgroundView(m_model.appearance(), this);
     m_gallows = new GallowsView(m_model.round().figure(), this);
     m_phrase = new PhraseView(m_model, this);
     m_design.keepInSight(m_phrase);
@@ -245,14 +249,14 @@ void BoardWindow::paintPanels() {
         setProperty("lampColours", lampKey);
         paintLampPanels(lamp, score);
     }
-    const QString gameKey = css(game) + css(m_model.background());
+    const QString gameKey = css(game) + css(m_model.appearance().background());
     if (gameKey == property("gameColours").toString()) {
         return;
     }
     setProperty("gameColours", gameKey);
 
     QPalette windowPalette = palette();
-    windowPalette.setColor(QPalette::Window, qc(m_model.background()));
+    windowPalette.setColor(QPalette::Window, qc(m_model.appearance().background()));
     setPalette(windowPalette);
     m_smallPlayButton->paint(css(game), css(kPictureButtonBack));
     m_playPanel->paint(QStringLiteral("QPushButton { background: %1; color: white; border: none;"

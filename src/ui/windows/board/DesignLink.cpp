@@ -68,10 +68,10 @@ void DesignLink::openDesign() {
         return;
     }
     if (!m_window) {
-        m_window =
-            new DesignWindow(m_model, m_boardChanged,
-                             QStandardPaths::writableLocation(QStandardPaths::PicturesLocation),
-                             QDir::homePath(), m_board);
+        m_window = new DesignWindow(
+            m_model.appearance(), m_model.shared(), m_model.dialogs(), m_boardChanged,
+            QStandardPaths::writableLocation(QStandardPaths::PicturesLocation), QDir::homePath(),
+            m_board);
         m_window->setAttribute(Qt::WA_DeleteOnClose);
         // The frame the window system adds is not known before the window
         // shows: the board's own frame is a fair guess.

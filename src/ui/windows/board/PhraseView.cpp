@@ -68,13 +68,13 @@ void PhraseView::paintEvent(QPaintEvent*) {
     p.setFont(m_cellFont);
 
     const PhraseBoard& board = m_model.round().board();
-    const Rgb miss = m_model.missColour();
+    const Rgb miss = m_model.appearance().missColour();
     for (int i = 1; i <= PhraseBoard::kCells; ++i) {
         const PhraseBoard::Cell& cell = board.cell(i);
         const int row = (i - 1) / PhraseBoard::kColumns;
         const int column = (i - 1) % PhraseBoard::kColumns;
         const QRectF box(kColumnPitch * column, kRowPitch * row, kCellSize, kCellSize);
-        const CellLook look = m_model.cellLook(i);
+        const CellLook look = m_model.appearance().cellLook(i);
         if (cell.revealed || cell.missed) {
             if (look.filled) {
                 p.fillRect(box, qc(look.background));

@@ -78,11 +78,12 @@ QString buttonSheet(Rgb face, Rgb pressed) {
 
 } // namespace
 
-DesignWindow::DesignWindow(BoardModel& board, std::function<void()> boardChanged,
-                           const QString& pictures, const QString& home, QWidget* parent)
+DesignWindow::DesignWindow(DesignedBoard& board, SharedState& shared, Dialogs& dialogs,
+                           std::function<void()> boardChanged, const QString& pictures,
+                           const QString& home, QWidget* parent)
     : QWidget(parent, Qt::Dialog), m_previewImage(new PreviewView(this)),
-      m_model(board, *m_previewImage, userPictureFolder(pictures.toStdString(), home.toStdString()),
-              home.toStdString()),
+      m_model(board, shared, dialogs, *m_previewImage,
+              userPictureFolder(pictures.toStdString(), home.toStdString()), home.toStdString()),
       m_boardChanged(std::move(boardChanged)) {
     setWindowTitle(QStringLiteral("Diseño:"));
     // The window's own colour through its palette: a style sheet here would

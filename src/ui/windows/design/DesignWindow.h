@@ -27,8 +27,9 @@ class PreviewView;
 class DesignWindow final : public QWidget {
 public:
     // `pictures` is the folder the lists start in, `home` what "~" means.
-    DesignWindow(BoardModel& board, std::function<void()> boardChanged, const QString& pictures,
-                 const QString& home, QWidget* parent);
+    DesignWindow(DesignedBoard& board, SharedState& shared, Dialogs& dialogs,
+                 std::function<void()> boardChanged, const QString& pictures, const QString& home,
+                 QWidget* parent);
     ~DesignWindow() override;
 
     DesignModel& model() { return m_model; }

@@ -3,7 +3,6 @@
 #include "windows/design/PreviewView.h"
 
 #include "look/Twips.h"
-#include "models/board/BoardModel.h"
 #include "windows/QtColour.h"
 
 #include <QPainter>
@@ -16,7 +15,7 @@ namespace {
 
 // The board's picture area, which the preview shows in small.
 QSize boardArea() {
-    return QSize(px(BoardModel::kWidthTwips), px(BoardModel::kBaseHeightTwips));
+    return QSize(px(kBoardWidthTwips), px(kBoardBaseHeightTwips));
 }
 
 constexpr Rgb kFrame{160, 160, 160};

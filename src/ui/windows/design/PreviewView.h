@@ -3,7 +3,7 @@
 #pragma once
 
 #include "ports/PictureLoader.h"
-#include "windows/board/BackgroundPicture.h"
+#include "windows/BackgroundPicture.h"
 
 #include <QWidget>
 

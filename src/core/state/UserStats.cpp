@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "scoring/UserStats.h"
+#include "state/UserStats.h"
 
 #include <algorithm>
 #include <limits>

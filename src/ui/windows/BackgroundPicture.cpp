@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "windows/board/BackgroundPicture.h"
+#include "windows/BackgroundPicture.h"
 
 #include "look/Picture.h"
 
