@@ -7,12 +7,14 @@
 #include <gtest/gtest.h>
 
 #include <signal.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace quillora {
@@ -40,6 +42,48 @@ protected:
     TempFolder temp{"quillora-replace"};
     const fs::path file = temp.path() / "QuilloraVS5.txt";
 };
+
+ino_t inodeOf(const fs::path& path) {
+    struct stat info {};
+    return ::stat(path.c_str(), &info) == 0 ? info.st_ino : 0;
+}
+
+// Each flush a save asks for: whether a folder was flushed, which one or
+// which file, and what the file's name held at that moment.
+using Flush = std::tuple<bool, ino_t, std::string>;
+
+class FlushRecorder : public SaveWatcher {
+public:
+    FlushRecorder(fs::path file, bool failFileFlush)
+        : m_file(std::move(file)), m_failFileFlush(failFileFlush) {}
+    int sync(int fd) override {
+        struct stat flushed {};
+        ::fstat(fd, &flushed);
+        flushes.emplace_back(S_ISDIR(flushed.st_mode), flushed.st_ino, slurp(m_file));
+        return m_failFileFlush && !S_ISDIR(flushed.st_mode) ? -1 : SaveWatcher::sync(fd);
+    }
+    std::vector<Flush> flushes;
+
+private:
+    fs::path m_file;
+    bool m_failFileFlush;
+};
+
+// Without the first flush a power cut after the rename can leave the name
+// on an empty file; without the second, the old name can come back.
+TEST_F(FileReplaceTest, TheBytesReachTheDiskBeforeTheRenameAndTheRenameWithItsFolder) {
+    FlushRecorder recorder(file, false);
+    ASSERT_TRUE(replaceFile(file, kNewer, &recorder));
+    const std::vector<Flush> expected{{false, inodeOf(file), kOlder},
+                                      {true, inodeOf(temp.path()), kNewer}};
+    EXPECT_EQ(recorder.flushes, expected);
+
+    // Bytes the disk would not flush never take the file's place.
+    FlushRecorder refused(file, true);
+    EXPECT_FALSE(replaceFile(file, kOlder, &refused));
+    EXPECT_EQ(slurp(file), kNewer);
+    EXPECT_EQ(othersInFolder(), std::vector<fs::path>{});
+}
 
 // Dies at its step of the save, as a crash or a kill may.
 class KillAt : public SaveWatcher {
