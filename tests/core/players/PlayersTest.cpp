@@ -28,11 +28,11 @@ TEST(PlayersTest, MenuMovesGoRoundEveryPlayerAndLettersOnlyTheGuessers) {
     SharedState shared = players(4, 1);
     shared.roster.currentPlayer = 3;
     std::vector<int> seen;
-    for (auto move : {adelantar, adelantar, atrasar, eNext, eNext, eNext, eNext}) {
+    for (auto move : {adelantar, adelantar, eNext, atrasar, atrasar, eNext, eNext, eNext, eNext}) {
         move(shared);
         seen.push_back(shared.roster.currentPlayer);
     }
-    EXPECT_EQ(seen, (std::vector<int>{4, 1, 4, 1, 2, 3, 1}));
+    EXPECT_EQ(seen, (std::vector<int>{4, 1, 2, 1, 4, 1, 2, 3, 1}));
     EXPECT_TRUE(turnMovesEnabled(shared));
 }
 
