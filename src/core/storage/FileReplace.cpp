@@ -113,10 +113,10 @@ bool writeAll(int fd, std::string_view bytes) {
 }
 
 // The rename itself reaches the disk only with its folder.
-void syncFolder(const fs::path& folder) {
+void syncFolder(const fs::path& folder, SaveWatcher& watcher) {
     const int fd = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (fd >= 0) {
-        ::fsync(fd);
+        watcher.sync(fd);
         ::close(fd);
     }
 }
@@ -161,7 +161,15 @@ fs::path resolveLinks(const fs::path& path) {
     return {};
 }
 
-bool replaceFile(const fs::path& file, std::string_view bytes) {
+void SaveWatcher::reached(SaveStep) {}
+
+int SaveWatcher::sync(int fd) {
+    return ::fsync(fd);
+}
+
+bool replaceFile(const fs::path& file, std::string_view bytes, SaveWatcher* watcher) {
+    SaveWatcher unwatched;
+    SaveWatcher& watch = watcher ? *watcher : unwatched;
     if (!file.has_filename()) {
         return false;
     }
@@ -183,16 +191,26 @@ bool replaceFile(const fs::path& file, std::string_view bytes) {
             }
             return false;
         }
-        bool ok = writeAll(fd, bytes);
-        ok = ok && (!replacing || ::fchmod(fd, old.st_mode & 07777) == 0);
-        ok = ok && ::fsync(fd) == 0;
-        ok = ::close(fd) == 0 && ok;
-        ok = ok && ::rename(temporary.c_str(), file.c_str()) == 0;
-        if (!ok) {
+        watch.reached(SaveStep::TemporaryCreated);
+        const bool written =
+            writeAll(fd, bytes) && (!replacing || ::fchmod(fd, old.st_mode & 07777) == 0);
+        if (written) {
+            watch.reached(SaveStep::BytesWritten);
+        }
+        // The bytes reach the disk before the name does: a rename that got
+        // there first would leave an empty file after a power cut.
+        const bool synced = written && watch.sync(fd) == 0;
+        if (synced) {
+            watch.reached(SaveStep::FileSynced);
+        }
+        const bool closed = ::close(fd) == 0;
+        if (!synced || !closed || ::rename(temporary.c_str(), file.c_str()) != 0) {
             ::unlink(temporary.c_str());
             return false;
         }
-        syncFolder(folder);
+        watch.reached(SaveStep::Renamed);
+        syncFolder(folder, watch);
+        watch.reached(SaveStep::FolderSynced);
         return true;
     }
     return false;

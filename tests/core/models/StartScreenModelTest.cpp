@@ -1,22 +1,20 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "models/start/StartScreenModel.h"
-#include "storage/ConfigFile.h"
+#include "state/SharedState.h"
 
-#include "support/LoadedSession.h"
+#include "support/Fakes.h"
+#include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
-#include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <chrono>
 #include <filesystem>
 #include <fstream>
-#include <random>
 #include <string>
-#include <thread>
 #include <vector>
 
 namespace quillora {
@@ -135,85 +133,6 @@ TEST(StartScreen, ClearsLeftoverTemporaryFilesOfTheGameAndNothingElse) {
     }
     EXPECT_TRUE(fs::is_directory(at(".quillora-" + std::to_string(gone) + "-1-5.tmp")))
         << "the game never writes a folder of that name";
-}
-
-// --- a save killed half-way ------------------------------------------------------------
-
-constexpr int kKills = 200;
-constexpr int kLongestWaitMicroseconds = 3000;
-
-std::vector<fs::path> filesBeside(const fs::path& file) {
-    std::vector<fs::path> others;
-    for (const auto& entry : fs::directory_iterator(file.parent_path())) {
-        if (entry.path() != file) {
-            others.push_back(entry.path().filename());
-        }
-    }
-    return others;
-}
-
-// A real process saves the options over and over, two versions in turn, and
-// is killed at a random moment; the file must be one version or the other,
-// whole, and the next start must leave no temporary file behind. Kills that
-// land between two saves prove nothing, so the test also insists that some
-// of them caught a save under way.
-TEST(KilledSave, TheFileIsAlwaysWholeAndTheNextStartLeavesNoTemporaryFile) {
-    LoadedSession session("quillora-killed");
-    SharedState& shared = session.shared;
-    ScriptedDialogs& dialogs = session.dialogs;
-    const fs::path file = shared.currentSession().filePath;
-
-    // Long enough lines that a save takes a moment.
-    shared.settings.backgroundPicture = std::string(3000, 'v');
-    shared.settings.userName = "Nueva";
-    ASSERT_TRUE(saveSettings(shared, dialogs));
-    const std::string newer = slurp(file);
-    shared.settings.userName = "Vieja";
-    shared.settings.pictureFolder = std::string(2000, 'c');
-    ASSERT_TRUE(saveSettings(shared, dialogs));
-    const std::string older = slurp(file);
-    ASSERT_NE(older, newer);
-
-    std::mt19937 chance(std::random_device{}());
-    std::uniform_int_distribution<int> wait(0, kLongestWaitMicroseconds);
-    int caughtSaving = 0;
-    for (int kill = 0; kill < kKills; ++kill) {
-        // The saver says when its first save is done, so the wait is spent
-        // among its saves however slowly a loaded machine starts it.
-        int started[2];
-        ASSERT_EQ(::pipe(started), 0);
-        const pid_t saver = ::fork();
-        ASSERT_NE(saver, -1);
-        if (saver == 0) {
-            SharedState mine = shared;
-            for (bool flip = false;; flip = !flip) {
-                mine.settings.userName = flip ? "Nueva" : "Vieja";
-                mine.settings.pictureFolder = flip ? "" : std::string(2000, 'c');
-                saveSettings(mine, dialogs);
-                if (!flip) {
-                    [[maybe_unused]] const auto told = ::write(started[1], "s", 1);
-                }
-            }
-        }
-        char first = 0;
-        ASSERT_EQ(::read(started[0], &first, 1), 1);
-        ::close(started[0]);
-        ::close(started[1]);
-        std::this_thread::sleep_for(std::chrono::microseconds(wait(chance)));
-        ::kill(saver, SIGKILL);
-        int status = 0;
-        ASSERT_EQ(::waitpid(saver, &status, 0), saver);
-        ASSERT_TRUE(WIFSIGNALED(status));
-
-        const std::string bytes = slurp(file);
-        ASSERT_TRUE(bytes == older || bytes == newer)
-            << "kill " << kill << " left " << bytes.size() << " bytes";
-        caughtSaving += !filesBeside(file).empty();
-        loadAtStart(shared);
-        ASSERT_EQ(filesBeside(file), std::vector<fs::path>{}) << "kill " << kill;
-    }
-    EXPECT_GT(caughtSaving, 0) << "no kill landed during a save";
-    EXPECT_TRUE(dialogs.shown.empty());
 }
 
 } // namespace

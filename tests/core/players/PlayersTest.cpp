@@ -28,12 +28,12 @@ TEST(PlayersTest, MenuMovesGoRoundEveryPlayerAndLettersOnlyTheGuessers) {
     SharedState shared = players(4, 1);
     shared.roster.currentPlayer = 3;
     std::vector<int> seen;
-    for (auto move :
-         {moveTurnForward, moveTurnForward, moveTurnBack, passTurn, passTurn, passTurn, passTurn}) {
+    for (auto move : {moveTurnForward, moveTurnForward, passTurn, moveTurnBack, moveTurnBack,
+                      passTurn, passTurn, passTurn, passTurn}) {
         move(shared);
         seen.push_back(shared.roster.currentPlayer);
     }
-    EXPECT_EQ(seen, (std::vector<int>{4, 1, 4, 1, 2, 3, 1}));
+    EXPECT_EQ(seen, (std::vector<int>{4, 1, 2, 1, 4, 1, 2, 3, 1}));
     EXPECT_TRUE(turnMovesEnabled(shared));
 }
 
