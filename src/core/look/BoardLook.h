@@ -14,6 +14,7 @@ struct CellLook {
     bool filled = false;
     Rgb letter;
     Rgb underline;
+    bool operator==(const CellLook&) const = default;
 };
 
 // The letter style (0 "Libre" .. 4 "Tinta Azul") and the three flags that
@@ -52,6 +53,7 @@ LampColours lampColours(Lamp lamp, const Palette& palette);
 struct KeyLook {
     Rgb face;
     Rgb caption;
+    bool operator==(const KeyLook&) const = default;
 };
 Rgb keyRestColour(int key);
 KeyLook keyLook(int key, bool hovered, bool pressed, const Palette& palette);

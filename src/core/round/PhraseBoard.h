@@ -22,6 +22,7 @@ public:
         bool revealed = false;
         bool missed = false; // left unguessed at the death
         bool isLetter() const { return character != U' '; }
+        bool operator==(const Cell&) const = default;
     };
 
     // Non-space characters of a phrase: each occurrence counts.

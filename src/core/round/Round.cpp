@@ -298,6 +298,7 @@ void Round::resetBoard() {
 // --- guessing ----------------------------------------------------------------------
 
 void Round::typeKey(char32_t typed) {
+    m_lastGuess = GuessEffect::None;
     if (!inPlay()) {
         return;
     }
@@ -346,11 +347,13 @@ void Round::playGuessedLetter() {
     m_state.hit = false;
     checkAlreadyTried();
     if (m_state.alreadyTried) {
+        m_lastGuess = GuessEffect::AlreadyTried;
         lightYellowLamp();
         m_state.alreadyTried = false;
         return;
     }
     m_state.hit = m_board.reveal(m_state.guessedLetter);
+    m_lastGuess = m_state.hit ? GuessEffect::Hit : GuessEffect::Miss;
     recordMiss();
     checkWin();
 }

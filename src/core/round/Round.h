@@ -98,6 +98,10 @@ public:
     // A click on key 0..39 of the on-screen keyboard.
     void clickKey(int key);
     void guess(char32_t letter);
+    // What the last character typed did: nothing of a guess, a letter tried
+    // before, or a new letter found or missed.
+    enum class GuessEffect { None, AlreadyTried, Hit, Miss };
+    GuessEffect lastGuess() const { return m_lastGuess; }
     void playGuessedLetter();
 
     // --- the whole answer -----------------------------------------------------
@@ -214,6 +218,7 @@ private:
     bool m_deathColours = false;
     Lamp m_lamp = Lamp::None;
     bool m_lampTimerRunning = false;
+    GuessEffect m_lastGuess = GuessEffect::None;
 };
 
 } // namespace quillora

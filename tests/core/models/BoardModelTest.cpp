@@ -41,6 +41,40 @@ TEST_F(BoardModelTest, QuitLabelOffersTheCorrectionAndDeleteUsesIt) {
     EXPECT_EQ(model.correctionCaption(), "") << "one correction a game";
 }
 
+// The window repaints only what the model says a letter changed: a wrong
+// answer here leaves a stale board on screen.
+TEST_F(BoardModelTest, ATypedLetterTellsWhichPartsOfTheBoardItChanged) {
+    using A = BoardArea;
+    start();
+    model.keyTyped(Key::Character, U'c');
+    const BoardAreas hit = model.changedAreas();
+    for (A area : {A::Cells, A::Counter, A::Keys, A::Lamps}) {
+        EXPECT_TRUE(hit.has(area)) << static_cast<unsigned>(area);
+    }
+    EXPECT_FALSE(hit.has(A::Strikes) || hit.has(A::Figure) || hit.isEverything());
+
+    model.keyTyped(Key::Character, U'x');
+    const BoardAreas miss = model.changedAreas();
+    for (A area : {A::Strikes, A::Figure, A::Keys, A::Lamps}) {
+        EXPECT_TRUE(miss.has(area)) << static_cast<unsigned>(area);
+    }
+    EXPECT_FALSE(miss.has(A::Cells) || miss.isEverything());
+
+    model.keyTyped(Key::Character, U'x');
+    EXPECT_EQ(model.changedAreas(), BoardAreas(A::Lamps)) << "a letter tried before lights a lamp";
+
+    model.keyTyped(Key::Character, U'#');
+    EXPECT_TRUE(model.changedAreas().isEverything()) << "the digit keys are not a guess";
+    model.keyTyped(Key::Character, U'#');
+
+    model.keyTyped(Key::Character, U'a');
+    model.keyTyped(Key::Character, U's');
+    EXPECT_TRUE(model.round().state().over);
+    EXPECT_TRUE(model.changedAreas().isEverything()) << "the last letter ends the game";
+    model.keyTyped(Key::Character, U'z');
+    EXPECT_TRUE(model.changedAreas().isEverything()) << "after the game nothing is a guess";
+}
+
 TEST_F(BoardModelTest, WhatADeadKeyComposesIsJudgedLikeWhatIsTyped) {
     model.round().startPhrase("PANA ANIS", 1, "ANIMAL");
     model.keyTyped(Key::DeadKey, U'\u00B4');

@@ -5,10 +5,13 @@
 #include "support/BoardFixture.h"
 #include "windows/board/KeyboardView.h"
 #include "windows/board/LookUpLabel.h"
+#include "windows/board/PhraseView.h"
 #include "windows/friendPhrase/FriendPhraseWindow.h"
 #include "windows/players/PlayersWindow.h"
 
+#include <QCoreApplication>
 #include <QLineEdit>
+#include <QPaintEvent>
 #include <QTimer>
 
 #include <fstream>
@@ -42,6 +45,49 @@ TEST_F(BoardWindowTest, KeysTypedOnTheWindowPlayAGameToItsEnd) {
     EXPECT_FALSE(window->counterLabel()->isVisible());
     EXPECT_EQ(window->model().round().board().triedLetters(), U"AXÑBDEFGH") << "K came too late";
     EXPECT_TRUE(dialogs.shown.empty());
+}
+
+// Where a widget was asked to paint, whatever the reason.
+class PaintedRegion : public QObject {
+public:
+    explicit PaintedRegion(QWidget* widget) { widget->installEventFilter(this); }
+    QRegion region;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            region += static_cast<QPaintEvent*>(event)->region();
+        }
+        return false;
+    }
+};
+
+TEST_F(BoardWindowTest, ALetterRepaintsOnlyItsCellsAndItsKey) {
+    startVaca();
+    openKeyboard();
+    PaintedRegion phrase(window->phraseView());
+    PaintedRegion keys(window->keyboard());
+    // The board as it opened, painted whole once.
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    window->repaint();
+    QCoreApplication::processEvents();
+    phrase.region = keys.region = QRegion();
+
+    type("a");
+    QCoreApplication::processEvents();
+    QRegion found;
+    for (int cell = 1; cell <= PhraseBoard::kCells; ++cell) {
+        if (window->model().round().board().cell(cell).character == U'A') {
+            found += window->phraseView()->cellRect(cell);
+        }
+    }
+    ASSERT_FALSE(found.isEmpty());
+    EXPECT_TRUE(phrase.region.contains(found.boundingRect())) << "the found letters show";
+    EXPECT_LT(phrase.region.boundingRect().width(), window->phraseView()->width() / 2)
+        << "the other cells stay as they were";
+    const QRect keyA = window->keyboard()->keyRect(keyIndexOf(U'A'));
+    EXPECT_TRUE(keys.region.contains(keyA));
+    EXPECT_EQ(keys.region.boundingRect(), keyA) << "no other key is painted";
 }
 
 TEST_F(BoardWindowTest, ClicksOnTheOnScreenKeyboardGuessAndOpenTheDigits) {

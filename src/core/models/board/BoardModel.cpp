@@ -201,6 +201,26 @@ bool BoardModel::keyReachesBoard(WindowKey key) const {
     return !m_panel.shown() || key == WindowKey::F4;
 }
 
+BoardAreas BoardModel::guessAreas(bool wasInPlay) const {
+    // A game that ends, or a key that was not a guess, may change anything.
+    if (m_round.inPlay() != wasInPlay) {
+        return BoardAreas::everything();
+    }
+    switch (m_round.lastGuess()) {
+    case Round::GuessEffect::AlreadyTried:
+        return BoardArea::Lamps;
+    case Round::GuessEffect::Hit:
+        return BoardArea::Cells | BoardArea::Counter | BoardArea::Keys | BoardArea::Lamps |
+               BoardArea::Turn | BoardArea::Status;
+    case Round::GuessEffect::Miss:
+        return BoardArea::Strikes | BoardArea::Figure | BoardArea::Keys | BoardArea::Lamps |
+               BoardArea::Turn | BoardArea::Status;
+    case Round::GuessEffect::None:
+        break;
+    }
+    return BoardAreas::everything();
+}
+
 GameStart BoardModel::keyTyped(WindowKey key, char32_t character) {
     if (!keyReachesBoard(key)) {
         return GameStart::Nothing;
@@ -210,6 +230,7 @@ GameStart BoardModel::keyTyped(WindowKey key, char32_t character) {
         character = composeDeadKey(m_deadKey, character);
     }
     m_deadKey = key == WindowKey::DeadKey ? character : 0;
+    m_changed = BoardAreas::everything();
     switch (key) {
     case WindowKey::Delete:
         m_round.takeBackStrike();
@@ -218,7 +239,9 @@ GameStart BoardModel::keyTyped(WindowKey key, char32_t character) {
         return playPressed();
     case WindowKey::Character:
         if (character != 0) {
+            const bool wasInPlay = m_round.inPlay();
             m_round.typeKey(character);
+            m_changed = guessAreas(wasInPlay);
         }
         break;
     case WindowKey::F2:

@@ -5,6 +5,7 @@
 #include "look/BoardLook.h"
 #include "look/Twips.h"
 #include "models/board/BoardAppearance.h"
+#include "models/board/BoardAreas.h"
 #include "models/board/HistoryPanelModel.h"
 #include "models/board/SessionPanelModel.h"
 #include "models/board/SidePanelModel.h"
@@ -97,6 +98,8 @@ public:
     // an open session panel lets through only F4, which closes it.
     bool keyReachesBoard(WindowKey key) const;
     GameStart keyTyped(WindowKey key, char32_t character = 0);
+    // What the last key changed on the board.
+    BoardAreas changedAreas() const { return m_changed; }
     // The JUGAR button.
     GameStart playPressed();
     void hoverKey(int key);
@@ -301,6 +304,7 @@ private:
     bool scoreCounting() const override { return m_scoring.counting(); }
 
     void sessionChanged(bool changed);
+    BoardAreas guessAreas(bool wasInPlay) const;
     void switchSurvival(bool on);
 
     SharedState& m_shared;
@@ -318,6 +322,7 @@ private:
     HistoryPanelModel m_history;
     ThemesPanelModel m_themesPanel;
     char32_t m_deadKey = 0;
+    BoardAreas m_changed = BoardAreas::everything();
     bool m_reopen = false;
     // The pulse's grey level, and whether it is on its way down.
     int m_pulseLevel = kPulseHigh;

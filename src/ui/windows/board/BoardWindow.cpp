@@ -294,6 +294,47 @@ void BoardWindow::sync() {
     followRestart();
 }
 
+void BoardWindow::sync(BoardAreas areas) {
+    if (areas.isEverything()) {
+        sync();
+        return;
+    }
+    const Round& round = m_model.round();
+    if (areas.has(BoardArea::Lamps)) {
+        paintPanels();
+    }
+    if (areas.has(BoardArea::Status)) {
+        m_statusLabel->setText(qs(round.status()));
+        setSpokenName(m_statusLabel, qs(spokenStatus(round.status())));
+    }
+    if (areas.has(BoardArea::Cells)) {
+        m_phrase->sync();
+    }
+    if (areas.has(BoardArea::Counter)) {
+        syncCounter();
+    }
+    if (areas.has(BoardArea::Keys)) {
+        m_keyboard->sync();
+    }
+    if (areas.has(BoardArea::Strikes)) {
+        m_strikes->sync();
+    }
+    if (areas.has(BoardArea::Figure)) {
+        m_gallows->sync();
+    }
+    if (areas.has(BoardArea::Turn)) {
+        m_scorePanel->sync();
+    }
+    syncTimers();
+}
+
+void BoardWindow::syncCounter() {
+    const Round& round = m_model.round();
+    m_counterLabel->setText(qs(round.board().counterText()));
+    setSpokenName(m_counterLabel, qs(spokenCounter(round.board())));
+    m_counterLabel->setVisible(round.counterVisible());
+}
+
 void BoardWindow::syncView() {
     const Round& round = m_model.round();
     paintPanels();
@@ -301,9 +342,7 @@ void BoardWindow::syncView() {
     m_statusLabel->setText(qs(round.status()));
     setSpokenName(m_statusLabel, qs(spokenStatus(round.status())));
     m_themeBox->sync();
-    m_counterLabel->setText(qs(round.board().counterText()));
-    setSpokenName(m_counterLabel, qs(spokenCounter(round.board())));
-    m_counterLabel->setVisible(round.counterVisible());
+    syncCounter();
     m_timeLabel->sync();
     m_lookUpLabel->sync();
     m_strikes->sync();
@@ -506,7 +545,7 @@ void BoardWindow::keyPressEvent(QKeyEvent* event) {
         return;
     }
     m_model.keyTyped(WindowKey::Character, text.front());
-    sync();
+    sync(m_model.changedAreas());
 }
 
 bool BoardWindow::eventFilter(QObject* watched, QEvent* event) {

@@ -78,6 +78,8 @@ public:
     // Brings every control in step with the model and starts or stops the
     // timers it asks for.
     void sync();
+    // Brings in step only the parts of the board the model says changed.
+    void sync(BoardAreas areas);
 
     // For the tests: the controls a player sees.
     QLabel* statusLabel() const { return m_statusLabel; }
@@ -149,6 +151,7 @@ private:
     void paintPanels();
     void paintLampPanels(const LampColours& lamp, Rgb score);
     void syncView();
+    void syncCounter();
     void syncTimers();
     void fitFrame();
     // The board as it stands, painted at once: what a message box shows

@@ -25,7 +25,8 @@ constexpr double kWideKeyFontPoints = 10;
 } // namespace
 
 KeyboardView::KeyboardView(BoardModel& model, std::function<void()> changed, QWidget* parent)
-    : QWidget(parent), m_model(model), m_changed(std::move(changed)) {
+    : QWidget(parent), m_model(model), m_changed(std::move(changed)),
+      m_keyFont(Fonts::display(kKeyFontPoints)), m_wideKeyFont(Fonts::display(kWideKeyFontPoints)) {
     setMouseTracking(true);
     setGeometry(px(kLeftTwips), px(kTopTwips), px(kWidthTwips), px(kHeightTwips));
     setAccessibleName(QStringLiteral("Teclado"));
@@ -44,13 +45,32 @@ void KeyboardView::press(int key) {
     m_changed();
 }
 
+KeyboardView::Face KeyboardView::faceOf(int key) const {
+    const Round& round = m_model.round();
+    const char32_t letter = keyLetter(key);
+    return Face{keyShown(key), keyUsable(key), letter != 0 && round.board().alreadyTried(letter),
+                m_model.keyFace(key),
+                key == kWriteKey ? round.writeKeyCaption() : std::u32string(keyCaption(key))};
+}
+
 void KeyboardView::sync() {
-    update();
+    // The digit panel coming or going changes the ground under the keys.
+    const bool digits = m_model.round().digitPanelVisible();
+    if (digits != m_digitsShown) {
+        m_digitsShown = digits;
+        update();
+    }
     QList<int> named, described, restated;
     for (int key = 0; key < kKeyCount; ++key) {
+        const auto index = static_cast<std::size_t>(key);
+        Face face = faceOf(key);
+        if (m_faces[index] == face) {
+            continue;
+        }
+        update(keyRect(key));
         Spoken now{qs(spokenKeyName(m_model.round(), key)),
-                   qs(spokenKeyDescription(m_model.round(), key)), keyShown(key), keyUsable(key)};
-        Spoken& before = m_spoken[static_cast<std::size_t>(key)];
+                   qs(spokenKeyDescription(m_model.round(), key)), face.shown, face.usable};
+        Spoken& before = m_spoken[index];
         const int child = KeyboardAccessible::childOfKey(key);
         if (now.name != before.name) {
             named.append(child);
@@ -62,6 +82,7 @@ void KeyboardView::sync() {
             restated.append(child);
         }
         before = std::move(now);
+        m_faces[index] = std::move(face);
     }
     announceChildren(this, named, QAccessible::NameChanged);
     announceChildren(this, described, QAccessible::DescriptionChanged);
@@ -113,17 +134,17 @@ bool KeyboardView::event(QEvent* event) {
     return true;
 }
 
-void KeyboardView::paintEvent(QPaintEvent*) {
+void KeyboardView::paintEvent(QPaintEvent* event) {
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
-    p.fillRect(rect(), qc(kKeyboardPanel));
+    p.fillRect(event->rect(), qc(kKeyboardPanel));
     if (m_model.round().digitPanelVisible()) {
         p.fillRect(QRect(px(kDigitsLeftTwips - kLeftTwips), 0, px(kDigitsWidthTwips),
                          px(kDigitsHeightTwips)),
                    qc(kKeyboardPanel));
     }
     for (int key = 0; key < kKeyCount; ++key) {
-        if (!keyShown(key)) {
+        if (!keyShown(key) || !event->rect().intersects(keyRect(key))) {
             continue;
         }
         const QRectF r = QRectF(keyRect(key)).adjusted(1.5, 1.5, -1.5, -1.5);
@@ -131,7 +152,7 @@ void KeyboardView::paintEvent(QPaintEvent*) {
         p.setPen(Qt::NoPen);
         p.setBrush(qc(look.face));
         p.drawRoundedRect(r, 5, 5);
-        p.setFont(Fonts::display(key >= 38 ? kWideKeyFontPoints : kKeyFontPoints));
+        p.setFont(key >= 38 ? m_wideKeyFont : m_keyFont);
         p.setPen(qc(look.caption));
         const std::u32string caption =
             key == kWriteKey ? m_model.round().writeKeyCaption() : std::u32string(keyCaption(key));

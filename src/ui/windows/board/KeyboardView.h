@@ -2,13 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "look/BoardLook.h"
 #include "round/Keyboard.h"
 
+#include <QFont>
 #include <QString>
 #include <QWidget>
 
 #include <array>
 #include <functional>
+#include <optional>
+#include <string>
 
 namespace quillora {
 
@@ -58,10 +62,27 @@ private:
         bool shown = false;
         bool usable = false;
     };
+    // What a key was last painted with, and what decides what it says: a
+    // key whose face is the same is neither painted nor read again.
+    struct Face {
+        bool shown = false;
+        bool usable = false;
+        bool tried = false;
+        KeyLook look;
+        std::u32string caption;
+        bool operator==(const Face&) const = default;
+    };
+    Face faceOf(int key) const;
 
     BoardModel& m_model;
     std::function<void()> m_changed;
     std::array<Spoken, kKeyCount> m_spoken{};
+    std::array<std::optional<Face>, kKeyCount> m_faces;
+    bool m_digitsShown = false;
+    // Built once: the database lookup behind a font is too dear for every key
+    // of every paint.
+    QFont m_keyFont;
+    QFont m_wideKeyFont;
 };
 
 } // namespace quillora

@@ -46,20 +46,42 @@ QRect PhraseView::cellRect(int cell) const {
     return QRect(px(kColumnPitch * column), px(kRowPitch * row), px(kCellSize), px(kCellSize));
 }
 
+PhraseView::Face PhraseView::faceOf(int cell) const {
+    return Face{m_model.round().board().cell(cell), m_model.appearance().cellLook(cell),
+                m_model.appearance().missColour()};
+}
+
+QRect PhraseView::paintedRect(int cell) const {
+    const int row = (cell - 1) / PhraseBoard::kColumns;
+    const int column = (cell - 1) % PhraseBoard::kColumns;
+    // The underline runs below the cell's box; antialiased edges spill a
+    // pixel round it.
+    return QRect(px(kColumnPitch * column), px(kRowPitch * row), px(kCellSize),
+                 px(kUnderlineBelowTop + 2 * kTwipsPerPixel))
+        .united(cellRect(cell))
+        .adjusted(-1, -1, 1, 1);
+}
+
 void PhraseView::sync() {
-    update();
     QList<int> changed;
     for (int i = 1; i <= PhraseBoard::kCells; ++i) {
-        QString name = qs(spokenCellName(m_model.round().board().cell(i)));
-        if (name != m_spoken[static_cast<std::size_t>(i - 1)]) {
-            m_spoken[static_cast<std::size_t>(i - 1)] = std::move(name);
+        const auto index = static_cast<std::size_t>(i - 1);
+        Face face = faceOf(i);
+        if (m_faces[index] == face) {
+            continue;
+        }
+        update(paintedRect(i));
+        QString name = qs(spokenCellName(face.cell));
+        if (name != m_spoken[index]) {
+            m_spoken[index] = std::move(name);
             changed.append(i - 1);
         }
+        m_faces[index] = face;
     }
     announceChildren(this, changed, QAccessible::NameChanged);
 }
 
-void PhraseView::paintEvent(QPaintEvent*) {
+void PhraseView::paintEvent(QPaintEvent* event) {
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
     p.setRenderHint(QPainter::TextAntialiasing);
@@ -70,6 +92,9 @@ void PhraseView::paintEvent(QPaintEvent*) {
     const PhraseBoard& board = m_model.round().board();
     const Rgb miss = m_model.appearance().missColour();
     for (int i = 1; i <= PhraseBoard::kCells; ++i) {
+        if (!event->rect().intersects(paintedRect(i))) {
+            continue;
+        }
         const PhraseBoard::Cell& cell = board.cell(i);
         const int row = (i - 1) / PhraseBoard::kColumns;
         const int column = (i - 1) % PhraseBoard::kColumns;

@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "look/BoardLook.h"
 #include "round/PhraseBoard.h"
 
 #include <QFont>
 #include <QWidget>
 
 #include <array>
+#include <optional>
 
 namespace quillora {
 
@@ -26,7 +28,8 @@ public:
     const BoardModel& model() const { return m_model; }
     // Cell 1..42 in this widget's pixels.
     QRect cellRect(int cell) const;
-    // Repaints, and tells a screen reader of every cell that reads anew.
+    // Repaints the cells whose face changed, and tells a screen reader of
+    // every cell that reads anew.
     void sync();
 
 protected:
@@ -34,10 +37,22 @@ protected:
 
 private:
     static QFont makeCellFont();
+    // What one cell was last painted with: a cell whose face is the same
+    // need not be painted again.
+    struct Face {
+        PhraseBoard::Cell cell;
+        CellLook look;
+        Rgb miss;
+        bool operator==(const Face&) const = default;
+    };
+    Face faceOf(int cell) const;
+    // The cell with its underline and the edges of its letter.
+    QRect paintedRect(int cell) const;
 
     const BoardModel& m_model;
     QFont m_cellFont = makeCellFont();
     std::array<QString, PhraseBoard::kCells> m_spoken;
+    std::array<std::optional<Face>, PhraseBoard::kCells> m_faces;
 };
 
 } // namespace quillora
