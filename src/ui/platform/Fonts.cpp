@@ -22,6 +22,15 @@ QString firstFamily(int id) {
     return families.isEmpty() ? QString() : families.front();
 }
 
+// Whether the system has a family. QFontInfo would quietly answer some other
+// family, so the database is asked, once: its list is long, and the board
+// wants its fonts every time it paints. A font installed while the game runs
+// counts from its next start, which the font notice's restart gives.
+bool installed(const QString& family) {
+    static const QStringList families = QFontDatabase::families();
+    return families.contains(family);
+}
+
 } // namespace
 
 void Fonts::registerEmbedded() {
@@ -29,27 +38,28 @@ void Fonts::registerEmbedded() {
         embeddedDisplay = firstFamily(
             QFontDatabase::addApplicationFont(QStringLiteral(":/fonts/Quicksand-Bold.ttf")));
     }
-    if (embeddedFace.isEmpty()) {
-        embeddedFace = firstFamily(
-            QFontDatabase::addApplicationFont(QStringLiteral(":/fonts/ComicNeue-Bold.otf")));
-    }
 }
 
 QString Fonts::displayFamily() {
-    // QFontInfo would quietly answer some other family, so ask the database.
-    if (QFontDatabase::families().contains(kPreferredDisplay)) {
+    if (installed(kPreferredDisplay)) {
         return kPreferredDisplay;
     }
     return embeddedDisplay.isEmpty() ? QFont().family() : embeddedDisplay;
 }
 
 bool Fonts::displayAvailable() {
-    return QFontDatabase::families().contains(kPreferredDisplay) || !embeddedDisplay.isEmpty();
+    return installed(kPreferredDisplay) || !embeddedDisplay.isEmpty();
 }
 
 QString Fonts::faceFamily() {
-    if (QFontDatabase::families().contains(kPreferredFace)) {
+    if (installed(kPreferredFace)) {
         return kPreferredFace;
+    }
+    // Only the hanged figure's face wears this font: it is loaded when the
+    // first board draws, not while the start screen waits for it.
+    if (embeddedFace.isEmpty()) {
+        embeddedFace = firstFamily(
+            QFontDatabase::addApplicationFont(QStringLiteral(":/fonts/ComicNeue-Bold.otf")));
     }
     return embeddedFace.isEmpty() ? QFont().family() : embeddedFace;
 }

@@ -12,7 +12,8 @@ namespace quillora {
 // ship inside the program stand in for them.
 class Fonts {
 public:
-    // Registers the embedded fonts once; call after the application exists.
+    // Registers the embedded display font once; call after the application
+    // exists. The figure's face font follows when it is first wanted.
     static void registerEmbedded();
     static QString displayFamily();
     // The board's font is there: installed, or the look-alike registered.
