@@ -64,8 +64,8 @@ protected:
         }
     }
     void openKeyboard() {
-        while (window->model().openTimerRunning()) {
-            window->model().tickOpen();
+        while (window->model().slide().opening()) {
+            window->model().slide().tickOpen();
         }
         window->sync();
     }

@@ -115,10 +115,10 @@ TEST_F(BoardModelTest, ALockedBoardOrAnOpenSessionPanelLetsNoShortcutThrough) {
 }
 
 TEST_F(BoardModelTest, TheWindowNeverRisesAboveSixtyTwips) {
-    EXPECT_EQ(BoardModel::keepTopOnScreen(-300), 60);
-    EXPECT_EQ(BoardModel::keepTopOnScreen(59), 60);
-    EXPECT_EQ(BoardModel::keepTopOnScreen(60), 60);
-    EXPECT_EQ(BoardModel::keepTopOnScreen(900), 900);
+    EXPECT_EQ(KeyboardSlide::keepTopOnScreen(-300), 60);
+    EXPECT_EQ(KeyboardSlide::keepTopOnScreen(59), 60);
+    EXPECT_EQ(KeyboardSlide::keepTopOnScreen(60), 60);
+    EXPECT_EQ(KeyboardSlide::keepTopOnScreen(900), 900);
 }
 
 TEST_F(BoardModelTest, KeyFacesFollowHoverPressAndRelease) {
@@ -147,16 +147,16 @@ TEST_F(BoardModelTest, KeyFacesFollowHoverPressAndRelease) {
 }
 
 TEST_F(BoardModelTest, KeyboardGrowsSixtyTwipsATickAndLampsFollowTheRound) {
-    model.openKeyboard();
+    model.slide().open();
     for (int tick = 1; tick < 18; ++tick) {
-        model.tickOpen();
+        model.slide().tickOpen();
     }
-    EXPECT_EQ(model.heightTwips(), BoardModel::kBaseHeightTwips + 17 * 60);
-    EXPECT_FALSE(model.keyboardShown());
-    model.tickOpen();
-    EXPECT_TRUE(model.keyboardShown());
-    EXPECT_FALSE(model.openTimerRunning());
-    EXPECT_EQ(model.heightTwips(), BoardModel::kBaseHeightTwips + 1080);
+    EXPECT_EQ(model.slide().heightTwips(), BoardModel::kBaseHeightTwips + 17 * 60);
+    EXPECT_FALSE(model.slide().shown());
+    model.slide().tickOpen();
+    EXPECT_TRUE(model.slide().shown());
+    EXPECT_FALSE(model.slide().opening());
+    EXPECT_EQ(model.slide().heightTwips(), BoardModel::kBaseHeightTwips + 1080);
 
     start();
     model.keyTyped(Key::Character, U'z');
@@ -172,10 +172,11 @@ TEST_F(BoardModelTest, AKeptKeyboardIsThereAtOnceAndOnlyASlidingOneClimbs) {
     ASSERT_TRUE(saveSettings(shared, dialogs)); // the board takes it from the file
     BoardModel kept{shared, dialogs, random, desktop.lookUp};
     kept.load();
-    EXPECT_TRUE(kept.keyboardShown());
-    EXPECT_EQ(kept.heightTwips(), BoardModel::kBaseHeightTwips + BoardModel::kKeyboardExtraTwips);
-    EXPECT_EQ(kept.openingDropTwips(), 120);
-    EXPECT_FALSE(kept.topTimerRunning()) << "no climb on every opening of the board";
+    EXPECT_TRUE(kept.slide().shown());
+    EXPECT_EQ(kept.slide().heightTwips(),
+              BoardModel::kBaseHeightTwips + KeyboardSlide::kKeyboardExtraTwips);
+    EXPECT_EQ(kept.slide().openingDropTwips(), 120);
+    EXPECT_FALSE(kept.slide().climbing()) << "no climb on every opening of the board";
 
     // A keyboard that slides out while the option is on climbs 600 twips.
     shared.settings.keyboardKeptOpen = false;
@@ -183,13 +184,13 @@ TEST_F(BoardModelTest, AKeptKeyboardIsThereAtOnceAndOnlyASlidingOneClimbs) {
     BoardModel sliding{shared, dialogs, random, desktop.lookUp};
     sliding.load();
     shared.settings.keyboardKeptOpen = true;
-    sliding.openKeyboard();
-    while (sliding.openTimerRunning()) {
-        sliding.tickOpen();
+    sliding.slide().open();
+    while (sliding.slide().opening()) {
+        sliding.slide().tickOpen();
     }
     int climbed = 0;
-    while (sliding.topTimerRunning()) {
-        climbed += sliding.tickTop();
+    while (sliding.slide().climbing()) {
+        climbed += sliding.slide().tickClimb();
     }
     EXPECT_EQ(climbed, 600);
 }

@@ -94,7 +94,7 @@ TEST_F(BoardWindowTest, ClicksOnTheOnScreenKeyboardGuessAndOpenTheDigits) {
     startVaca();
     // The keyboard slides out on the board's own timer, run here without its wait.
     for (QTimer* timer : window->findChildren<QTimer*>()) {
-        if (timer->isActive() && timer->interval() == BoardModel::kOpenTickMs) {
+        if (timer->isActive() && timer->interval() == KeyboardSlide::kOpenTickMs) {
             timer->setInterval(0);
         }
     }

@@ -75,8 +75,7 @@ void BoardModel::load() {
     // A keyboard kept open is there at once; the climb that follows an
     // opening belongs to the keyboard sliding out, which it does not.
     if (m_shared.settings.keyboardKeptOpen) {
-        m_heightTwips = kBaseHeightTwips + kKeyboardExtraTwips;
-        m_keyboardShown = true;
+        m_slide.showAtOnce();
     }
 }
 
@@ -162,7 +161,7 @@ void BoardModel::phraseLaid() {
     m_appearance.applyLetterStyle();
     m_countdown.start(m_round.board().letterTotal(), m_shared.settings.countdown,
                       !m_scoring.severalPlayers());
-    openKeyboard();
+    m_slide.open();
     // With sounds off nothing waits for the opening sound: the score settles
     // at once.
     if (!m_shared.settings.sounds) {
@@ -526,35 +525,6 @@ void BoardModel::tickCountdown() {
 
 void BoardModel::tickScore() {
     m_scoring.tick(m_round.strikeCountForScore());
-}
-
-void BoardModel::openKeyboard() {
-    if (!m_keyboardShown) {
-        m_opening = true;
-    }
-}
-
-void BoardModel::tickOpen() {
-    if (!m_opening) {
-        return;
-    }
-    m_heightTwips += kOpenStepTwips;
-    if (m_heightTwips >= kBaseHeightTwips + kKeyboardExtraTwips) {
-        m_heightTwips = kBaseHeightTwips + kKeyboardExtraTwips;
-        m_keyboardShown = true;
-        m_opening = false;
-        if (m_shared.settings.keyboardKeptOpen) {
-            m_topSteps = kTopSteps;
-        }
-    }
-}
-
-int BoardModel::tickTop() {
-    if (m_topSteps == 0) {
-        return 0;
-    }
-    --m_topSteps;
-    return kTopStepTwips;
 }
 
 LampColours BoardModel::lampColours() const {

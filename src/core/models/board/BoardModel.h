@@ -7,6 +7,7 @@
 #include "models/board/BoardAppearance.h"
 #include "models/board/BoardAreas.h"
 #include "models/board/HistoryPanelModel.h"
+#include "models/board/KeyboardSlide.h"
 #include "models/board/SessionPanelModel.h"
 #include "models/board/SidePanelModel.h"
 #include "models/board/StatsPanelModel.h"
@@ -29,23 +30,15 @@ class WebLookUp;
 
 // The board window's own state beside the game: the score, the countdown,
 // the sessions and their panel, the keyboard's faces under the mouse, the strike-correction
-// label, the keyboard's opening and which of the window's timers run. The
+// label and which of the window's timers run. The
 // widget draws this and the round it holds.
 class BoardModel final : private RoundEvents {
 public:
     static constexpr int kWidthTwips = kBoardWidthTwips;
     static constexpr int kBaseHeightTwips = kBoardBaseHeightTwips;
-    static constexpr int kKeyboardExtraTwips = 1080;
-    static constexpr int kOpenStepTwips = 60;
-    static constexpr int kOpenTickMs = 10;
     static constexpr int kStatusTickMs = 500;
     static constexpr int kLampTickMs = 400;
     static constexpr int kScoreTickMs = 1;
-    static constexpr int kPermanentDropTwips = 120;
-    static constexpr int kTopStepTwips = 60;
-    static constexpr int kTopSteps = 10;
-    static constexpr int kTopCheckTickMs = 100;
-    static constexpr int kMinTopTwips = 60;
     static constexpr int kNamesDelayMs = 500;
     static constexpr int kPulseTickMs = 100;
     static constexpr int kGiftTickMs = 1;
@@ -246,10 +239,6 @@ public:
     int tickSound();
     void soundEnded(int number);
     void tickScore();
-    // The window's top, in twips, where it must be: never above the screen's edge.
-    static int keepTopOnScreen(int topTwips) {
-        return topTwips < kMinTopTwips ? kMinTopTwips : topTwips;
-    }
     bool scoreTimerRunning() const { return m_scoring.counting(); }
     // One second of countdown mode gone.
     void tickCountdown();
@@ -258,20 +247,9 @@ public:
     // White while time is plenty, the game colour when it runs short.
     Rgb countdownColour() const { return m_countdown.urgent() ? gameColour() : kWhite; }
 
-    // --- the keyboard's opening ---------------------------------------------------------
-    void openKeyboard();
-    void tickOpen();
-    bool openTimerRunning() const { return m_opening; }
-    bool keyboardShown() const { return m_keyboardShown; }
-    // With the keyboard kept open the board opens a little lower, and once
-    // its keyboard is out it climbs back up in steps.
-    int openingDropTwips() const {
-        return m_shared.settings.keyboardKeptOpen ? kPermanentDropTwips : 0;
-    }
-    bool topTimerRunning() const { return m_topSteps > 0; }
-    // One step up, in twips.
-    int tickTop();
-    int heightTwips() const { return m_heightTwips; }
+    // The keyboard sliding out, and the window's height and climb with it.
+    KeyboardSlide& slide() { return m_slide; }
+    const KeyboardSlide& slide() const { return m_slide; }
 
     // --- colours ----------------------------------------------------------------------
     LampColours lampColours() const;
@@ -337,14 +315,11 @@ private:
     int m_pressedKey = -1;
     std::string m_correctionCaption;
     std::string m_correctionTooltip = " Octavo Strike. ";
-    bool m_opening = false;
-    bool m_keyboardShown = false;
-    int m_heightTwips = kBaseHeightTwips;
     bool m_restart = false;
     bool m_toMenu = false;
-    int m_topSteps = 0;
     PlayerLabel m_player;
     BoardAppearance m_appearance{m_shared};
+    KeyboardSlide m_slide{m_shared.settings};
 };
 
 } // namespace quillora

@@ -144,16 +144,16 @@ void BoardWindow::buildTimers() {
         m_statsPanel->sync();
         syncTimers();
     });
-    m_keyboardOpenTimer = timer(BoardModel::kOpenTickMs, [this] {
-        m_model.tickOpen();
+    m_keyboardOpenTimer = timer(KeyboardSlide::kOpenTickMs, [this] {
+        m_model.slide().tickOpen();
         sync();
     });
-    m_climbTimer = timer(BoardModel::kOpenTickMs, [this] {
-        move(x(), y() - px(m_model.tickTop()));
+    m_climbTimer = timer(KeyboardSlide::kOpenTickMs, [this] {
+        move(x(), y() - px(m_model.slide().tickClimb()));
         syncTimers();
     });
-    m_topCheckTimer = timer(BoardModel::kTopCheckTickMs, [this] {
-        const int top = px(BoardModel::keepTopOnScreen(y() * kTwipsPerPixel));
+    m_topCheckTimer = timer(KeyboardSlide::kTopCheckTickMs, [this] {
+        const int top = px(KeyboardSlide::keepTopOnScreen(y() * kTwipsPerPixel));
         if (top != y()) {
             move(x(), top);
         }
@@ -362,7 +362,7 @@ void BoardWindow::syncView() {
     m_soundButton->sync();
     m_background->sync();
 
-    m_keyboard->setVisible(m_model.keyboardShown());
+    m_keyboard->setVisible(m_model.slide().shown());
     m_keyboard->sync();
     m_phrase->sync();
     m_gallows->sync();
@@ -376,7 +376,7 @@ void BoardWindow::fitFrame() {
     // keep their places inside.
     const QSize frame = isWindow() && m_shownOnce ? frameGeometry().size() - size() : QSize();
     const QSize client(px(BoardModel::kWidthTwips) - frame.width(),
-                       px(m_model.heightTwips()) - frame.height());
+                       px(m_model.slide().heightTwips()) - frame.height());
     // Checked ten times a second: a size that stands costs nothing.
     if (client != size() || minimumSize() != maximumSize()) {
         setFixedSize(client);
@@ -436,8 +436,8 @@ void BoardWindow::syncTimers() {
     follow(m_statusDotsTimer, m_model.round().statusTimerRunning());
     follow(m_lampTimer, m_model.round().lampTimerRunning());
     follow(m_soundTimer, m_model.round().pendingSound().timerRunning());
-    follow(m_keyboardOpenTimer, m_model.openTimerRunning());
-    follow(m_climbTimer, m_model.topTimerRunning() && m_shownOnce);
+    follow(m_keyboardOpenTimer, m_model.slide().opening());
+    follow(m_climbTimer, m_model.slide().climbing() && m_shownOnce);
     follow(m_scoreTimer, m_model.scoreTimerRunning());
     follow(m_countdownTimer, m_model.countdownTimerRunning());
     follow(m_sessionSlideTimer, m_model.panel().animating());

@@ -143,8 +143,8 @@ private:
     // From the board's top left corner to the centre of the menu it stands
     // over: the middle of the board before the keyboard lowered it.
     QPoint menuOffset() const {
-        return QPoint(px(BoardModel::kWidthTwips) / 2,
-                      px(BoardModel::kBaseHeightTwips) / 2 - px(m_model.openingDropTwips()));
+        return QPoint(px(BoardModel::kWidthTwips) / 2, px(BoardModel::kBaseHeightTwips) / 2 -
+                                                           px(m_model.slide().openingDropTwips()));
     }
     void buildControls();
     void buildTimers();
