@@ -32,7 +32,7 @@ TEST_F(Survival, TheLastPointsLostLeaveNoPointsAndJugarRefuses) {
     countScore();
     EXPECT_EQ(model.scoring().scoreLabel(), "Sin puntos");
     EXPECT_TRUE(model.againShown());
-    EXPECT_TRUE(model.pulseTimerRunning());
+    EXPECT_TRUE(model.scorePulse().running());
 
     model.clearBoard();
     EXPECT_EQ(model.playPressed(), GameStart::Nothing);
@@ -55,20 +55,20 @@ TEST_F(Survival, TheTransferDrainsTheNormalScoreTenThenOneAtATime) {
     shared.normalPoints = 2500;
     shared.current().stats.countWin(300, 2, false);
     shared.current().stats.countLoss(8, true);
-    ASSERT_TRUE(model.giftOffered());
-    model.startGift();
+    ASSERT_TRUE(model.scoring().giftOffered());
+    model.scoring().startGift();
     EXPECT_EQ(shared.survivalPoints, 2500);
     for (bool survival : {false, true}) {
         const UserStats::Counters& c = shared.current().stats.of(survival);
         EXPECT_EQ(c.games + c.errors + c.best + c.worst, 0) << "both records start afresh";
     }
-    EXPECT_FALSE(model.giftOffered()) << "one transfer at a time";
+    EXPECT_FALSE(model.scoring().giftOffered()) << "one transfer at a time";
     EXPECT_FALSE(model.scoring().playEnabled()) << "JUGAR waits from the start";
 
     std::vector<double> steps;
     double before = shared.normalPoints;
-    while (model.giftTimerRunning()) {
-        model.tickGift();
+    while (model.scoring().gifting()) {
+        model.scoring().tickGift();
         if (shared.normalPoints != before) {
             steps.push_back(before - shared.normalPoints);
             EXPECT_FALSE(model.scoring().playEnabled());
@@ -83,7 +83,7 @@ TEST_F(Survival, TheTransferDrainsTheNormalScoreTenThenOneAtATime) {
 
     // With survival points left there is nothing to offer.
     shared.normalPoints = 100;
-    EXPECT_FALSE(model.giftOffered());
+    EXPECT_FALSE(model.scoring().giftOffered());
 }
 
 TEST_F(Survival, SwitchingSavesReopensAndIsToldOnce) {
@@ -120,12 +120,12 @@ TEST_F(Survival, TheScorePulsesAtFiveHundredOrLess) {
          std::vector<std::pair<double, bool>>{{501, false}, {500, true}, {0, true}}) {
         shared.survivalPoints = points;
         model.scoring().showAccount();
-        EXPECT_EQ(model.pulseTimerRunning(), pulses) << points;
+        EXPECT_EQ(model.scorePulse().running(), pulses) << points;
     }
     std::vector<int> levels;
     for (int tick = 0; tick < 40; ++tick) {
-        model.tickPulse();
-        levels.push_back(model.scoreTextColour().red);
+        model.scorePulse().tick();
+        levels.push_back(model.scorePulse().textColour().red);
     }
     EXPECT_EQ(*std::min_element(levels.begin(), levels.end()), 70);
     EXPECT_EQ(*std::max_element(levels.begin(), levels.end()), 250);

@@ -420,22 +420,6 @@ void BoardModel::tickAnnounce() {
                                 "el score para tener puntos en supervivencia.");
 }
 
-void BoardModel::tickPulse() {
-    m_pulseLevel += m_pulseFalling ? -kPulseStep : kPulseStep;
-    if (m_pulseLevel <= kPulseLow) {
-        m_pulseFalling = false;
-    } else if (m_pulseLevel >= kPulseHigh) {
-        m_pulseFalling = true;
-    }
-}
-
-Rgb BoardModel::scoreTextColour() const {
-    if (!pulseTimerRunning()) {
-        return kNearWhite;
-    }
-    return Rgb{m_pulseLevel, m_pulseLevel, m_pulseLevel};
-}
-
 // --- sessions --------------------------------------------------------------------------
 
 void BoardModel::toggleSessionPanel() {

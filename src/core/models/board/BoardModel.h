@@ -8,6 +8,7 @@
 #include "models/board/BoardAreas.h"
 #include "models/board/HistoryPanelModel.h"
 #include "models/board/KeyboardSlide.h"
+#include "models/board/ScorePulse.h"
 #include "models/board/SessionPanelModel.h"
 #include "models/board/SidePanelModel.h"
 #include "models/board/StatsPanelModel.h"
@@ -40,7 +41,6 @@ public:
     static constexpr int kLampTickMs = 400;
     static constexpr int kScoreTickMs = 1;
     static constexpr int kNamesDelayMs = 500;
-    static constexpr int kPulseTickMs = 100;
     static constexpr int kGiftTickMs = 1;
 
     BoardModel(SharedState& shared, Dialogs& dialogs, Random& random, WebLookUp& lookUp,
@@ -130,20 +130,13 @@ public:
     bool reopenRequested() const { return m_reopen; }
     // Once the window's top is checked, the switch of mode is told once.
     void tickAnnounce();
+    // The score's text while survival points run low.
+    ScorePulse& scorePulse() { return m_pulse; }
+    const ScorePulse& scorePulse() const { return m_pulse; }
     // "Reiniciar" and "Consigue puntos", shown while survival has no points.
     bool againShown() const { return m_scoring.noPoints(); }
     void againRestart() { restartNow(); }
     void againGetPoints() { leaveSurvival(); }
-    // The score's menu and its transfer, drained a tick at a time.
-    bool giftOffered() const { return m_scoring.giftOffered(); }
-    void startGift() { m_scoring.startGift(); }
-    void tickGift() { m_scoring.tickGift(); }
-    bool giftTimerRunning() const { return m_scoring.gifting(); }
-    // The score label pulses while survival points run low.
-    bool pulseTimerRunning() const { return m_scoring.pulseWanted() || m_scoring.noPoints(); }
-    void tickPulse();
-    // The score label's text colour.
-    Rgb scoreTextColour() const;
 
     // --- side panels --------------------------------------------------------------
     SidePanelModel& side() { return m_side; }
@@ -302,12 +295,6 @@ private:
     char32_t m_deadKey = 0;
     BoardAreas m_changed = BoardAreas::everything();
     bool m_reopen = false;
-    // The pulse's grey level, and whether it is on its way down.
-    int m_pulseLevel = kPulseHigh;
-    bool m_pulseFalling = true;
-    static constexpr int kPulseHigh = 250;
-    static constexpr int kPulseLow = 70;
-    static constexpr int kPulseStep = 10;
     bool m_loadFailed = false;
     Random& m_random;
     TipModel m_tip{m_random};
@@ -319,6 +306,7 @@ private:
     bool m_toMenu = false;
     PlayerLabel m_player;
     BoardAppearance m_appearance{m_shared};
+    ScorePulse m_pulse{m_scoring};
     KeyboardSlide m_slide{m_shared.settings};
 };
 

@@ -164,14 +164,14 @@ void BoardWindow::buildTimers() {
         m_model.tickAnnounce();
     });
     m_topCheckTimer->start();
-    m_pulseTimer = timer(BoardModel::kPulseTickMs, [this] {
-        m_model.tickPulse();
+    m_pulseTimer = timer(ScorePulse::kTickMs, [this] {
+        m_model.scorePulse().tick();
         m_scorePanel->syncScore();
     });
     m_giftTimer = timer(BoardModel::kGiftTickMs, [this] {
-        m_model.tickGift();
+        m_model.scoring().tickGift();
         m_scorePanel->syncScore();
-        if (!m_model.giftTimerRunning()) {
+        if (!m_model.scoring().gifting()) {
             sync();
         }
     });
@@ -442,8 +442,8 @@ void BoardWindow::syncTimers() {
     follow(m_countdownTimer, m_model.countdownTimerRunning());
     follow(m_sessionSlideTimer, m_model.panel().animating());
     follow(m_sessionListTimer, m_model.panel().listSliding());
-    follow(m_pulseTimer, m_model.pulseTimerRunning());
-    follow(m_giftTimer, m_model.giftTimerRunning());
+    follow(m_pulseTimer, m_model.scorePulse().running());
+    follow(m_giftTimer, m_model.scoring().gifting());
     follow(m_statsTimer, m_model.stats().animating());
 }
 

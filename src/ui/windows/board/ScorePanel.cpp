@@ -83,7 +83,7 @@ void ScorePanel::syncScore() {
     m_scoreLabel->setText(qs(m_model.scoring().scoreLabel()));
     // The pulse recolours the points ten times a second: a palette, not a
     // style sheet, so only the label repaints.
-    const QColor colour = qc(m_model.scoreTextColour());
+    const QColor colour = qc(m_model.scorePulse().textColour());
     if (m_scoreLabel->palette().color(QPalette::WindowText) != colour) {
         QPalette text = m_scoreLabel->palette();
         text.setColor(QPalette::WindowText, colour);
@@ -97,14 +97,14 @@ void ScorePanel::syncPlayer() {
 }
 
 QMenu* ScorePanel::buildScoreMenu() {
-    if (!m_model.giftOffered()) {
+    if (!m_model.scoring().giftOffered()) {
         return nullptr;
     }
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     connect(menu->addAction(QStringLiteral("Pasar puntos a supervivencia")), &QAction::triggered,
             this, [this] {
-                m_model.startGift();
+                m_model.scoring().startGift();
                 m_changed();
             });
     return menu;
