@@ -146,7 +146,14 @@ void BoardWindow::buildTimers() {
     });
     m_keyboardOpenTimer = timer(KeyboardSlide::kOpenTickMs, [this] {
         m_model.slide().tickOpen();
-        sync();
+        // While the keyboard slides, only the window's height moves; the
+        // board comes in step once the keyboard is out.
+        if (m_model.slide().opening()) {
+            fitFrame();
+            syncTimers();
+        } else {
+            sync();
+        }
     });
     m_climbTimer = timer(KeyboardSlide::kOpenTickMs, [this] {
         move(x(), y() - px(m_model.slide().tickClimb()));
