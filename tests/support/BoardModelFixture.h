@@ -24,7 +24,7 @@ protected:
 
     // A game from the menu, `letters` typed on the board, its points counted out.
     void play(const std::string& phrase, std::u32string_view letters) {
-        model.clearBoard();
+        model.commands().clearBoard();
         model.round().startPhrase(phrase, 1, "ANIMAL");
         for (const char32_t c : letters) {
             model.keyTyped(BoardModel::WindowKey::Character, c);
@@ -37,7 +37,7 @@ protected:
         }
     }
     void countScore() {
-        while (model.scoreTimerRunning()) {
+        while (model.scoring().counting()) {
             model.tickScore();
         }
     }

@@ -107,7 +107,7 @@ int main(int argc, char** argv) {
     long wins = 0, losses = 0, switches = 0;
     for (long game = 1; game <= games; ++game) {
         Round& round = board->round();
-        while (board->scoreTimerRunning()) {
+        while (board->scoring().counting()) {
             board->tickScore();
         }
         round.clearBoard();
@@ -142,9 +142,9 @@ int main(int argc, char** argv) {
         if (coin(0.01)) {
             std::string shown;
             if (coin(0.3) && usersInUse(shared) < kSessionSlots) {
-                board->addSession("Soak " + std::to_string(game), shown);
+                board->sessions().add("Soak " + std::to_string(game), shown);
             } else {
-                board->switchSession(pick(4));
+                board->sessions().switchTo(pick(4));
             }
             ++switches;
             board = std::make_unique<BoardModel>(shared, dialogs, random, lookUp);

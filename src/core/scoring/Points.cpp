@@ -85,6 +85,10 @@ bool Scoring::pointsCount() const {
     return m_shared.settings.pointsSystem && !m_shared.multiplayer && m_shared.playerCount <= 1;
 }
 
+bool Scoring::smallPlayEnabled() const {
+    return m_playEnabled && !m_shared.locked;
+}
+
 bool Scoring::severalPlayers() const {
     return m_shared.multiplayer || m_shared.playerCount > 1;
 }

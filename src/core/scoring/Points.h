@@ -79,6 +79,11 @@ public:
     std::string scoreText() const;
     bool counting() const { return m_counting; }
     bool playEnabled() const { return m_playEnabled; }
+    // The small JUGAR button works like the big one, but not behind a lock.
+    bool smallPlayEnabled() const;
+    // In a game with friends, or without points, the JUGAR panel and the
+    // theme move to their compact places beside the board.
+    bool compactLayout() const { return !pointsCount(); }
     bool pulseWanted() const { return m_pulse; }
     bool survivalEmpty() const;
 

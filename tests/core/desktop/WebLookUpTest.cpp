@@ -78,21 +78,21 @@ class BoardLookUp : public BoardModelFixture {};
 TEST_F(BoardLookUp, TheEndedGameIsLookedUpInSmallLettersWhereTheOptionSays) {
     play("EL OSO PANDA", U"elospand");
     ASSERT_TRUE(model.round().lookUpVisible());
-    model.lookUpAnswer();
+    model.lookUps().lookUpAnswer();
     shared.settings.useEncyclopedia = true;
-    model.lookUpAnswer();
+    model.lookUps().lookUpAnswer();
     ASSERT_EQ(desktop.web.opened.size(), 2U);
     EXPECT_EQ(desktop.web.opened[0].rfind("https://www.bing.com/search?q=el%20oso%20panda&", 0),
               0U);
     EXPECT_EQ(desktop.web.opened[1], "https://es.wikipedia.org/wiki/el%20oso%20panda");
 
     // The history's entry, as chosen there.
-    ASSERT_TRUE(model.history().chooseForLookUp(0));
+    ASSERT_TRUE(model.panels().history().chooseForLookUp(0));
     desktop.network.alive = false;
-    model.lookUpHistoryEntry();
+    model.lookUps().lookUpHistoryEntry();
     EXPECT_EQ(desktop.web.opened.size(), 2U);
     desktop.network.alive = true;
-    model.lookUpHistoryEntry();
+    model.lookUps().lookUpHistoryEntry();
     EXPECT_EQ(desktop.web.opened.back(), "https://es.wikipedia.org/wiki/el%20oso%20panda");
 
     // F1 opens the help even behind a dead network.

@@ -23,22 +23,22 @@ protected:
 
 TEST_F(BoardModelTest, QuitLabelOffersTheCorrectionAndDeleteUsesIt) {
     start();
-    model.hoverCorrection();
-    EXPECT_EQ(model.correctionCaption(), "");
+    model.keyFaces().hoverCorrection();
+    EXPECT_EQ(model.keyFaces().correctionCaption(), "");
     model.keyTyped(Key::Character, U'b');
-    model.hoverCorrection();
-    EXPECT_EQ(model.correctionCaption(), "<");
-    EXPECT_EQ(model.correctionTooltip(), " Borrar un strike. ");
-    model.restoreFaces();
-    EXPECT_EQ(model.correctionCaption(), "");
-    EXPECT_EQ(model.correctionTooltip(), " Octavo Strike. ");
+    model.keyFaces().hoverCorrection();
+    EXPECT_EQ(model.keyFaces().correctionCaption(), "<");
+    EXPECT_EQ(model.keyFaces().correctionTooltip(), " Borrar un strike. ");
+    model.keyFaces().restore();
+    EXPECT_EQ(model.keyFaces().correctionCaption(), "");
+    EXPECT_EQ(model.keyFaces().correctionTooltip(), " Octavo Strike. ");
 
     dialogs.answer({true});
     model.keyTyped(Key::Delete);
     EXPECT_EQ(model.round().state().strikeCount, 0);
     model.keyTyped(Key::Character, U'd');
-    model.hoverCorrection();
-    EXPECT_EQ(model.correctionCaption(), "") << "one correction a game";
+    model.keyFaces().hoverCorrection();
+    EXPECT_EQ(model.keyFaces().correctionCaption(), "") << "one correction a game";
 }
 
 // The window repaints only what the model says a letter changed: a wrong
@@ -95,8 +95,8 @@ TEST_F(BoardModelTest, WhatADeadKeyComposesIsJudgedLikeWhatIsTyped) {
 
 TEST_F(BoardModelTest, ALockedBoardOrAnOpenSessionPanelLetsNoShortcutThrough) {
     start();
-    model.toggleSessionPanel();
-    ASSERT_TRUE(model.panel().shown());
+    model.sessions().togglePanel();
+    ASSERT_TRUE(model.sessions().panel().shown());
     for (Key key : {Key::Character, Key::Delete, Key::Enter, Key::F2, Key::F3, Key::ToggleAuto,
                     Key::ToggleSounds, Key::BackToMenu, Key::Names, Key::MenuKey}) {
         EXPECT_FALSE(model.keyReachesBoard(key)) << static_cast<int>(key);
@@ -108,10 +108,10 @@ TEST_F(BoardModelTest, ALockedBoardOrAnOpenSessionPanelLetsNoShortcutThrough) {
     EXPECT_EQ(shared.settings.sounds, sounds);
     EXPECT_TRUE(model.round().board().triedLetters().empty());
 
-    model.keyEntered("clave");
+    model.sessions().keyEntered("clave");
     ASSERT_TRUE(shared.locked);
     EXPECT_FALSE(model.keyReachesBoard(Key::F4)) << "behind the lock only the key box works";
-    EXPECT_FALSE(model.smallPlayEnabled());
+    EXPECT_FALSE(model.scoring().smallPlayEnabled());
 }
 
 TEST_F(BoardModelTest, TheWindowNeverRisesAboveSixtyTwips) {
@@ -124,26 +124,26 @@ TEST_F(BoardModelTest, TheWindowNeverRisesAboveSixtyTwips) {
 TEST_F(BoardModelTest, KeyFacesFollowHoverPressAndRelease) {
     start();
     const Palette& p = shared.palette;
-    model.hoverKey(1);
-    EXPECT_EQ(model.keyFace(1).face, p.redLamp);
-    EXPECT_EQ(model.keyFace(1).caption, kNearWhite);
-    model.hoverKey(2);
-    EXPECT_EQ(model.keyFace(2).face, p.gameColour);
-    EXPECT_EQ(model.keyFace(1).face, kKeyGrey);
+    model.keyFaces().hover(1);
+    EXPECT_EQ(model.keyFaces().face(1).face, p.redLamp);
+    EXPECT_EQ(model.keyFaces().face(1).caption, kNearWhite);
+    model.keyFaces().hover(2);
+    EXPECT_EQ(model.keyFaces().face(2).face, p.gameColour);
+    EXPECT_EQ(model.keyFaces().face(1).face, kKeyGrey);
 
-    model.pressKey(3);
-    model.hoverKey(4);
-    EXPECT_EQ(model.hoveredKey(), 2) << "no hover while a key is held";
-    EXPECT_EQ(model.keyFace(3).face, p.greenLamp);
-    EXPECT_EQ(model.keyFace(3).caption, (Rgb{0, 130, 0}));
-    model.releaseMouse(4);
+    model.keyFaces().press(3);
+    model.keyFaces().hover(4);
+    EXPECT_EQ(model.keyFaces().hovered(), 2) << "no hover while a key is held";
+    EXPECT_EQ(model.keyFaces().face(3).face, p.greenLamp);
+    EXPECT_EQ(model.keyFaces().face(3).caption, (Rgb{0, 130, 0}));
+    model.keyFaces().release(4);
     EXPECT_TRUE(model.round().board().triedLetters().empty()) << "released off the key";
 
-    model.pressKey(3);
-    model.releaseMouse(3);
+    model.keyFaces().press(3);
+    model.keyFaces().release(3);
     EXPECT_EQ(model.round().board().triedLetters(), U"C");
-    EXPECT_EQ(model.keyFace(3).face, kWhite);
-    EXPECT_EQ(model.keyFace(3).caption, kBlack);
+    EXPECT_EQ(model.keyFaces().face(3).face, kWhite);
+    EXPECT_EQ(model.keyFaces().face(3).caption, kBlack);
 }
 
 TEST_F(BoardModelTest, KeyboardGrowsSixtyTwipsATickAndLampsFollowTheRound) {
@@ -160,11 +160,13 @@ TEST_F(BoardModelTest, KeyboardGrowsSixtyTwipsATickAndLampsFollowTheRound) {
 
     start();
     model.keyTyped(Key::Character, U'z');
-    EXPECT_EQ(model.lampColours().light, kRedLamp);
-    EXPECT_EQ(model.lampColours().dark, (Rgb{194, 37, 37}));
+    EXPECT_EQ(model.appearance().lampColours(model.round().lamp()).light, kRedLamp);
+    EXPECT_EQ(model.appearance().lampColours(model.round().lamp()).dark, (Rgb{194, 37, 37}));
     model.round().tickLamp();
-    EXPECT_EQ(model.lampColours().light, model.gameColour());
-    EXPECT_EQ(model.lampColours().dark, model.shade());
+    EXPECT_EQ(model.appearance().lampColours(model.round().lamp()).light,
+              model.appearance().gameColour());
+    EXPECT_EQ(model.appearance().lampColours(model.round().lamp()).dark,
+              model.appearance().shade());
 }
 
 TEST_F(BoardModelTest, AKeptKeyboardIsThereAtOnceAndOnlyASlidingOneClimbs) {
@@ -198,28 +200,28 @@ TEST_F(BoardModelTest, AKeptKeyboardIsThereAtOnceAndOnlyASlidingOneClimbs) {
 TEST_F(BoardModelTest, OnlyTheLastRequestPlaysAndANewGameCountsItsScoreAfterItsSound) {
     shared.settings.sounds = true;
     start();
-    EXPECT_FALSE(model.scoreTimerRunning()) << "the score waits for the opening sound";
+    EXPECT_FALSE(model.scoring().counting()) << "the score waits for the opening sound";
     // A letter typed before the tick replaces the opening sound.
     model.keyTyped(Key::Character, U'c');
     EXPECT_TRUE(model.round().pendingSound().timerRunning());
-    EXPECT_EQ(model.tickSound(), 6);
-    EXPECT_EQ(model.tickSound(), 0) << "a played sound is gone";
+    EXPECT_EQ(model.round().pendingSound().tick(), 6);
+    EXPECT_EQ(model.round().pendingSound().tick(), 0) << "a played sound is gone";
     EXPECT_FALSE(model.round().pendingSound().timerRunning());
 
     start();
-    EXPECT_EQ(model.tickSound(), 2);
-    EXPECT_FALSE(model.scoreTimerRunning());
+    EXPECT_EQ(model.round().pendingSound().tick(), 2);
+    EXPECT_FALSE(model.scoring().counting());
     model.soundEnded(6);
-    EXPECT_FALSE(model.scoreTimerRunning()) << "only the opening sound lets the score go";
+    EXPECT_FALSE(model.scoring().counting()) << "only the opening sound lets the score go";
     model.soundEnded(2);
-    EXPECT_TRUE(model.scoreTimerRunning());
+    EXPECT_TRUE(model.scoring().counting());
 
     // With sounds off a request is kept but nothing is armed, and the
     // score counts at once.
     countScore();
     shared.settings.sounds = false;
     start();
-    EXPECT_TRUE(model.scoreTimerRunning());
+    EXPECT_TRUE(model.scoring().counting());
     EXPECT_EQ(model.round().pendingSound().number(), 2);
     EXPECT_FALSE(model.round().pendingSound().timerRunning());
 }
@@ -230,13 +232,13 @@ TEST_F(BoardModelTest, ADroppedPictureIsShownNotStoredAndALockRefusesIt) {
     model.load();
     EXPECT_EQ(model.appearance().shownPicture(), "/home/ana/Imágenes/playa.jpg");
 
-    model.dropFiles({"/tmp/notas.txt", "/tmp/Monte.PNG"});
+    model.sessions().dropFiles({"/tmp/notas.txt", "/tmp/Monte.PNG"});
     EXPECT_EQ(model.appearance().shownPicture(), "/tmp/Monte.PNG");
     EXPECT_EQ(shared.settings.backgroundPicture, "/home/ana/Imágenes/playa.jpg");
     EXPECT_EQ(shared.currentSlot, 0) << "a missing text file adds no user";
 
     shared.locked = true;
-    model.dropFiles({"/tmp/otra.gif"});
+    model.sessions().dropFiles({"/tmp/otra.gif"});
     EXPECT_EQ(model.appearance().shownPicture(), "/tmp/Monte.PNG");
 }
 

@@ -388,7 +388,7 @@ TEST_F(DesignModelTest, TheFolderAndTheNameMeetWithOneSeparator) {
 
 TEST_F(DesignModelTest, APictureDroppedBeforeOpeningIsTheWindowsToKeepOrDrop) {
     givenPlaya({"/descargas/luna.png"});
-    model.dropFiles({"/descargas/luna.png"});
+    model.sessions().dropFiles({"/descargas/luna.png"});
     DesignModel& window = open();
     EXPECT_EQ(window.picture(), "/descargas/luna.png");
     EXPECT_EQ(window.address(), "/descargas/luna.png");
@@ -402,18 +402,18 @@ TEST_F(DesignModelTest, WhileOpenADropOnTheBoardIsHandedToTheWindow) {
     givenPlaya({"/descargas/luna.png"});
     DesignModel& window = open();
 
-    model.dropFiles({"/descargas/rota.jpg"});
+    model.sessions().dropFiles({"/descargas/rota.jpg"});
     EXPECT_TRUE(window.listRefused());
     EXPECT_EQ(model.appearance().shownPicture(), "/fotos/playa.jpg")
         << "the board waits for the window";
-    model.dropFiles({"/descargas/luna.png"});
+    model.sessions().dropFiles({"/descargas/luna.png"});
     EXPECT_EQ(model.appearance().shownPicture(), "/descargas/luna.png");
     EXPECT_EQ(window.address(), "/descargas/luna.png");
     EXPECT_EQ(window.preview(), "/descargas/luna.png");
 
     // Closed, the board takes its drops itself again.
     window.close();
-    model.dropFiles({"/descargas/rota.jpg"});
+    model.sessions().dropFiles({"/descargas/rota.jpg"});
     EXPECT_EQ(model.appearance().shownPicture(), "/descargas/rota.jpg");
 }
 

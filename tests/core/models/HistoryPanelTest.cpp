@@ -38,7 +38,7 @@ protected:
     Entries reopened() {
         BoardModel board{shared, dialogs, random, desktop.lookUp};
         board.load();
-        return board.history().entries();
+        return board.panels().history().entries();
     }
 };
 
@@ -48,7 +48,7 @@ TEST_F(HistoryPanelTest, EveryEndedGameIsRecordedOnceInOrderAndABoardRebuildsThe
     shared.multiplayer = true;
     round("PERRO", true); // without points too
     EXPECT_EQ(shared.history, "CASA\r\nLA VACA\r\nPERRO");
-    EXPECT_EQ(model.history().entries(), (Entries{"CASA", "LA VACA", "PERRO"}));
+    EXPECT_EQ(model.panels().history().entries(), (Entries{"CASA", "LA VACA", "PERRO"}));
     EXPECT_EQ(reopened(), (Entries{"CASA", "LA VACA", "PERRO"}));
     EXPECT_EQ(reopened(), (Entries{"CASA", "LA VACA", "PERRO"})) << "each phrase once, always";
 
@@ -60,12 +60,12 @@ TEST_F(HistoryPanelTest, ClearingAsksFirstAndAnEmptiedListStaysEmptyThroughSwitc
     round("CASA", true);
     round("PERRO", true);
     dialogs.answer({false});
-    model.history().askToClear();
+    model.panels().history().askToClear();
     EXPECT_EQ(dialogs.shown.back().text, "¿Quiere borrar la lista de forma completa?");
-    EXPECT_EQ(model.history().entries().size(), 2U) << "No keeps the list";
+    EXPECT_EQ(model.panels().history().entries().size(), 2U) << "No keeps the list";
     dialogs.answer({true});
-    model.history().askToClear();
-    EXPECT_TRUE(model.history().entries().empty());
+    model.panels().history().askToClear();
+    EXPECT_TRUE(model.panels().history().entries().empty());
     EXPECT_EQ(shared.history, "");
 
     Sessions sessions{shared, dialogs, random};
@@ -83,40 +83,40 @@ TEST_F(HistoryPanelTest, ClearingAsksFirstAndAnEmptiedListStaysEmptyThroughSwitc
 
 TEST_F(HistoryPanelTest, ASelectedEntryIsLookedUpInSmallLetters) {
     shared.history = "ÁRBOL DE NAVIDAD\r\nAÑO 2000";
-    model.history().load();
-    EXPECT_FALSE(model.history().chooseForLookUp(-1)) << "no entry selected, no menu";
-    EXPECT_FALSE(model.history().chooseForLookUp(2));
-    ASSERT_TRUE(model.history().chooseForLookUp(1));
-    EXPECT_EQ(model.history().lookUpText(), "año 2000");
-    ASSERT_TRUE(model.history().chooseForLookUp(0));
-    EXPECT_EQ(model.history().lookUpText(), "árbol de navidad");
+    model.panels().history().load();
+    EXPECT_FALSE(model.panels().history().chooseForLookUp(-1)) << "no entry selected, no menu";
+    EXPECT_FALSE(model.panels().history().chooseForLookUp(2));
+    ASSERT_TRUE(model.panels().history().chooseForLookUp(1));
+    EXPECT_EQ(model.panels().history().lookUpText(), "año 2000");
+    ASSERT_TRUE(model.panels().history().chooseForLookUp(0));
+    EXPECT_EQ(model.panels().history().lookUpText(), "árbol de navidad");
 }
 
 TEST_F(HistoryPanelTest, HistoryAndThemesTakeTurnsBesideTheBoard) {
-    model.openStats();
-    ASSERT_TRUE(model.stats().shown());
+    model.panels().openStats();
+    ASSERT_TRUE(model.panels().stats().shown());
     model.keyTyped(Key::History);
-    EXPECT_EQ(model.side().content(), Content::History);
-    while (model.stats().animating()) {
-        model.stats().tick();
+    EXPECT_EQ(model.panels().side().content(), Content::History);
+    while (model.panels().stats().animating()) {
+        model.panels().stats().tick();
     }
-    EXPECT_FALSE(model.stats().shown()) << "the history rolls the statistics up";
+    EXPECT_FALSE(model.panels().stats().shown()) << "the history rolls the statistics up";
 
     shared.current().selectedThemes[30] = shared.current().selectedThemes[2] = true;
-    model.openThemesPanel();
-    EXPECT_EQ(model.side().content(), Content::Themes) << "one panel at a time";
-    EXPECT_EQ(model.themesPanel().names(),
+    model.panels().openThemes();
+    EXPECT_EQ(model.panels().side().content(), Content::Themes) << "one panel at a time";
+    EXPECT_EQ(model.panels().themes().names(),
               (Entries{std::string(ThemeCatalogue::storedThemeName(2)),
                        std::string(ThemeCatalogue::storedThemeName(30))}));
     model.keyTyped(Key::History);
-    EXPECT_EQ(model.side().content(), Content::History);
+    EXPECT_EQ(model.panels().side().content(), Content::History);
     model.keyTyped(Key::History);
-    EXPECT_FALSE(model.side().shown()) << "Ctrl+H again puts it away";
+    EXPECT_FALSE(model.panels().side().shown()) << "Ctrl+H again puts it away";
 
-    model.toggleHistory();
+    model.panels().toggleHistory();
     model.round().startPhrase("CASA", 1, "ANIMAL");
     model.round().toggleAnswerBox();
-    EXPECT_FALSE(model.side().shown()) << "the answer box takes the panel's place";
+    EXPECT_FALSE(model.panels().side().shown()) << "the answer box takes the panel's place";
 }
 
 } // namespace

@@ -167,7 +167,7 @@ TEST_F(TourTest, ATourWalksEveryThemeInOrderWrapsAndGivesTheSelectionBack) {
     EXPECT_EQ(model.round().gameTheme(), 1) << "after the fiftieth theme the first again";
     EXPECT_EQ(savedLine(9), "0") << "a tour is never saved as an automatic phrase";
 
-    model.toggleAutoPhrase();
+    model.commands().toggleAutoPhrase();
     EXPECT_EQ(shared.tourPosition, 0);
     EXPECT_FALSE(shared.settings.autoPhrase);
     EXPECT_TRUE(shared.current().selectedThemes[5] && shared.current().selectedThemes[9]);

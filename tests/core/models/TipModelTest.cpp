@@ -75,10 +75,10 @@ TEST_F(TipModelTest, AskingAgainRestartsAndAClickOrAStillBoardPutsItAway) {
     random.queue({0.3});
     tip.startTip();
     tip.tick();
-    model.toggleAnimation();
+    model.commands().toggleAnimation();
     EXPECT_FALSE(tip.shown());
     EXPECT_FALSE(tip.running());
-    model.toggleAnimation();
+    model.commands().toggleAnimation();
     EXPECT_FALSE(tip.shown()) << "it waits for the next tip";
 }
 

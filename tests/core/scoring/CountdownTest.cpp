@@ -17,7 +17,7 @@ protected:
     // A new game of `phrase` with the countdown option set to `mode`.
     void start(const std::string& phrase, int mode) {
         shared.settings.countdown = mode;
-        model.clearBoard();
+        model.commands().clearBoard();
         model.round().startPhrase(phrase, 1, "ANIMAL");
     }
     // Ticks the clock down to `seconds` left.
@@ -56,7 +56,7 @@ TEST_F(CountdownGame, OnlyOnePlayerInModeOneOrTwoGetsAClockOfSecondsPerLetter) {
         start(c.phrase, c.mode);
         EXPECT_EQ(model.scoring().title(), c.title);
         EXPECT_EQ(clock().visible(), c.seconds > 0);
-        EXPECT_EQ(model.countdownTimerRunning(), c.seconds > 0);
+        EXPECT_EQ(model.countdown().running(), c.seconds > 0);
         if (c.seconds > 0) {
             EXPECT_EQ(clock().text(), std::to_string(c.seconds));
         }
@@ -70,7 +70,8 @@ TEST_F(CountdownGame, WarnsOnceAtTenInTheGameColourThenTimeTakesEveryStrikeLeft)
     int warnings = 0;
     int lastSound = 0;
     while (clock().running()) {
-        EXPECT_EQ(model.countdownColour(), clock().seconds() <= 10 ? model.gameColour() : kWhite)
+        EXPECT_EQ(model.appearance().countdownColour(model.countdown().urgent()),
+                  clock().seconds() <= 10 ? model.appearance().gameColour() : kWhite)
             << clock().seconds();
         model.tickCountdown();
         if (clock().running() && model.round().pendingSound().number() == 1) {
@@ -79,7 +80,7 @@ TEST_F(CountdownGame, WarnsOnceAtTenInTheGameColourThenTimeTakesEveryStrikeLeft)
             EXPECT_TRUE(model.round().pendingSound().timerRunning());
         }
         lastSound = model.round().pendingSound().number();
-        model.tickSound();
+        model.round().pendingSound().tick();
         EXPECT_FALSE(st().over && clock().seconds() > 0) << "lost before the time was up";
     }
     EXPECT_EQ(warnings, 1);
@@ -128,7 +129,7 @@ TEST_F(CountdownGame, AWinAtOneSecondLeftStopsTheClockAndScoresAsUsual) {
     runTo(1);
     guess(U"SOL");
     EXPECT_EQ(model.round().status(), "¡VICTORIA!");
-    EXPECT_FALSE(clock().visible() || model.countdownTimerRunning());
+    EXPECT_FALSE(clock().visible() || model.countdown().running());
     model.tickCountdown();
     EXPECT_EQ(model.round().status(), "¡VICTORIA!");
     EXPECT_EQ(events.lost, 0);
@@ -146,14 +147,14 @@ TEST_F(CountdownGame, TheCorrectionQuestionHoldsTheClockAndOnlyARunningOneGoesOn
         dialogs.onAsk = [&] {
             const int before = clock().seconds();
             model.tickCountdown();
-            heldDuringQuestion = !model.countdownTimerRunning() && clock().seconds() == before;
+            heldDuringQuestion = !model.countdown().running() && clock().seconds() == before;
         };
         dialogs.answer({true});
         model.keyTyped(BoardModel::WindowKey::Delete);
         dialogs.onAsk = nullptr;
         ASSERT_EQ(st().strikeCount, 0);
         EXPECT_TRUE(heldDuringQuestion);
-        EXPECT_EQ(model.countdownTimerRunning(), mode > 0);
+        EXPECT_EQ(model.countdown().running(), mode > 0);
         EXPECT_EQ(clock().visible(), mode > 0);
     }
 }
@@ -161,8 +162,8 @@ TEST_F(CountdownGame, TheCorrectionQuestionHoldsTheClockAndOnlyARunningOneGoesOn
 TEST_F(CountdownGame, ANewGameStopsTheClockAndAChangedModeWaitsForTheNextGame) {
     start("SOL", 1);
     runTo(25);
-    model.clearBoard();
-    EXPECT_FALSE(clock().visible() || model.countdownTimerRunning());
+    model.commands().clearBoard();
+    EXPECT_FALSE(clock().visible() || model.countdown().running());
     model.round().startPhrase("SOL", 1, "ANIMAL");
     EXPECT_EQ(clock().text(), "30") << "the next game starts a full clock";
 

@@ -28,13 +28,13 @@ TEST_F(Survival, TheLastPointsLostLeaveNoPointsAndJugarRefuses) {
     model.scoring().showAccount();
     loseWithShown(4); // worth 600
     EXPECT_EQ(shared.survivalPoints, 0);
-    EXPECT_FALSE(model.againShown()) << "not while the score still counts";
+    EXPECT_FALSE(model.survival().againShown()) << "not while the score still counts";
     countScore();
     EXPECT_EQ(model.scoring().scoreLabel(), "Sin puntos");
-    EXPECT_TRUE(model.againShown());
+    EXPECT_TRUE(model.survival().againShown());
     EXPECT_TRUE(model.scorePulse().running());
 
-    model.clearBoard();
+    model.commands().clearBoard();
     EXPECT_EQ(model.playPressed(), GameStart::Nothing);
     ASSERT_FALSE(dialogs.shown.empty());
     EXPECT_EQ(dialogs.shown.back().text,
@@ -44,9 +44,9 @@ TEST_F(Survival, TheLastPointsLostLeaveNoPointsAndJugarRefuses) {
     EXPECT_EQ(model.playPressed(), GameStart::FriendWindow) << "friends play without points";
     shared.multiplayer = false;
 
-    model.againGetPoints();
+    model.survival().againGetPoints();
     EXPECT_FALSE(shared.settings.survival);
-    EXPECT_TRUE(model.reopenRequested());
+    EXPECT_TRUE(model.survival().reopenRequested());
 }
 
 TEST_F(Survival, TheTransferDrainsTheNormalScoreTenThenOneAtATime) {
@@ -90,10 +90,10 @@ TEST_F(Survival, SwitchingSavesReopensAndIsToldOnce) {
     shared.settings.survival = false;
     model.keyTyped(Key::F5);
     EXPECT_TRUE(dialogs.shown.empty()) << "F5 out of survival mode does nothing";
-    EXPECT_FALSE(model.reopenRequested());
+    EXPECT_FALSE(model.survival().reopenRequested());
 
-    model.toggleSurvival();
-    EXPECT_TRUE(model.reopenRequested());
+    model.survival().toggle();
+    EXPECT_TRUE(model.survival().reopenRequested());
     const auto saved = readConfigLines(shared.currentSession().filePath);
     ASSERT_TRUE(saved);
     EXPECT_EQ((*saved)[12], "1") << "line 13 keeps the mode";
@@ -101,8 +101,8 @@ TEST_F(Survival, SwitchingSavesReopensAndIsToldOnce) {
     BoardModel reopened{shared, dialogs, random, desktop.lookUp};
     reopened.load();
     EXPECT_EQ(reopened.windowTitle(), "Quillora Vesta | Supervivencia");
-    reopened.tickAnnounce();
-    reopened.tickAnnounce();
+    reopened.survival().tickAnnounce();
+    reopened.survival().tickAnnounce();
     ASSERT_EQ(dialogs.shown.size(), 1U);
     EXPECT_EQ(dialogs.shown.back().text, "El modo supervivencia se ha activado.");
 
@@ -112,7 +112,7 @@ TEST_F(Survival, SwitchingSavesReopensAndIsToldOnce) {
     reopened.keyTyped(Key::F5);
     EXPECT_EQ(dialogs.shown.back().text, "Está apunto de salirse del modo supervivencia.");
     EXPECT_FALSE(shared.settings.survival);
-    EXPECT_TRUE(reopened.reopenRequested());
+    EXPECT_TRUE(reopened.survival().reopenRequested());
 }
 
 TEST_F(Survival, TheScorePulsesAtFiveHundredOrLess) {

@@ -108,23 +108,23 @@ TEST_F(BoardStatistics, TheCountsStayWithTheirUserAcrossASwitchAndANewBoard) {
     play(U"cas");
     random.queue({0.5});
     std::string shown;
-    model.addSession("Ana", shown);
+    model.sessions().add("Ana", shown);
     ASSERT_EQ(shared.currentSlot, 1);
     play(U"bdefghij");
 
     BoardModel next{shared, dialogs, random, desktop.lookUp};
-    next.stats().open();
-    EXPECT_EQ(next.stats().value(StatsPanelModel::Games, false), "1");
-    EXPECT_EQ(next.stats().value(StatsPanelModel::Errors, false), "8");
-    EXPECT_EQ(next.stats().value(StatsPanelModel::Best, false), "0");
+    next.panels().stats().open();
+    EXPECT_EQ(next.panels().stats().value(StatsPanelModel::Games, false), "1");
+    EXPECT_EQ(next.panels().stats().value(StatsPanelModel::Errors, false), "8");
+    EXPECT_EQ(next.panels().stats().value(StatsPanelModel::Best, false), "0");
 
-    next.switchSession(0);
+    next.sessions().switchTo(0);
     ASSERT_EQ(shared.currentSlot, 0);
     BoardModel main{shared, dialogs, random, desktop.lookUp};
-    main.stats().open();
-    EXPECT_EQ(main.stats().value(StatsPanelModel::Games, false), "1");
-    EXPECT_EQ(main.stats().value(StatsPanelModel::Best, false), "400");
-    EXPECT_EQ(main.stats().value(StatsPanelModel::Errors, false), "0");
+    main.panels().stats().open();
+    EXPECT_EQ(main.panels().stats().value(StatsPanelModel::Games, false), "1");
+    EXPECT_EQ(main.panels().stats().value(StatsPanelModel::Best, false), "400");
+    EXPECT_EQ(main.panels().stats().value(StatsPanelModel::Errors, false), "0");
 }
 
 } // namespace

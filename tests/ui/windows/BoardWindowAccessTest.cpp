@@ -159,8 +159,8 @@ TEST_F(BoardAccess, TheKeyboardReachesTheMenuAndEveryFocusedControlShowsAMark) {
 
     // The session panel covers the board: Tab keeps to its boxes.
     QTest::keyClick(window.get(), Qt::Key_F4);
-    while (window->model().panel().animating()) {
-        window->model().panel().tick();
+    while (window->model().sessions().panel().animating()) {
+        window->model().sessions().panel().tick();
     }
     window->sync();
     QLineEdit* key = window->sessionPanel()->keyBox();

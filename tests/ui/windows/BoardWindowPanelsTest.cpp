@@ -51,7 +51,7 @@ TEST_F(BoardPanels, TheRestoreLabelBringsJugarBackAndStartsNothing) {
 TEST_F(BoardPanels, BehindTheSessionPanelAndTheLockNoShortcutActs) {
     const bool sounds = shared.settings.sounds;
     QTest::keyClick(window.get(), Qt::Key_F4);
-    ASSERT_TRUE(window->model().panel().shown());
+    ASSERT_TRUE(window->model().sessions().panel().shown());
     // Ctrl+J opens its window itself; the other keys go through the model.
     QTest::keyClick(window.get(), Qt::Key_J, Qt::ControlModifier);
     QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier);
@@ -66,7 +66,7 @@ TEST_F(BoardPanels, BehindTheSessionPanelAndTheLockNoShortcutActs) {
     QTest::keyClick(window.get(), Qt::Key_F4);
     QTest::keyClick(window.get(), Qt::Key_J, Qt::ControlModifier);
     QTest::keyClick(window.get(), Qt::Key_Return);
-    EXPECT_TRUE(window->model().panel().shown()) << "F4 does not close a locked panel";
+    EXPECT_TRUE(window->model().sessions().panel().shown()) << "F4 does not close a locked panel";
     EXPECT_EQ(window->namesWindow(), nullptr);
     EXPECT_EQ(window->themeWindow(), nullptr);
     EXPECT_FALSE(window->smallPlayButton()->isEnabled());
@@ -75,7 +75,7 @@ TEST_F(BoardPanels, BehindTheSessionPanelAndTheLockNoShortcutActs) {
     random.queue({0.1});
     ASSERT_TRUE(writeNewUserFile(folder / "ana.txt", "Ana", random));
     EXPECT_FALSE(drop(folder / "ana.txt"));
-    window->model().dropFiles({(folder / "ana.txt").string()});
+    window->model().sessions().dropFiles({(folder / "ana.txt").string()});
     EXPECT_EQ(shared.currentSlot, 0);
 }
 
@@ -119,7 +119,7 @@ TEST_F(BoardPanels, TheSmallJugarReadsNuevaPartidaAndComesBackAfterTheCount) {
     window->sync();
     EXPECT_FALSE(window->smallPlayButton()->isEnabled()) << "not while the points count";
     int ticks = 0;
-    while (window->model().scoreTimerRunning() && ticks++ < 1000) {
+    while (window->model().scoring().counting() && ticks++ < 1000) {
         window->model().tickScore();
     }
     window->sync();
@@ -199,8 +199,8 @@ TEST_F(BoardPanels, EstadisticasUnrollsTheCountsAndEscRollsThemUp) {
     shared.normalPoints = -800;
     StatsPanel* panel = window->statsPanel();
     auto settle = [this] {
-        while (window->model().stats().animating()) {
-            window->model().stats().tick();
+        while (window->model().panels().stats().animating()) {
+            window->model().panels().stats().tick();
         }
         window->sync();
     };
@@ -237,7 +237,7 @@ TEST_F(BoardPanels, EstadisticasUnrollsTheCountsAndEscRollsThemUp) {
     settle();
     EXPECT_FALSE(panel->isVisible());
 
-    window->model().openStats();
+    window->model().panels().openStats();
     settle();
     QTest::mouseClick(panel->closeLabel(), Qt::LeftButton);
     EXPECT_EQ(panel->closeLabel()->text(), " Cerrar ");

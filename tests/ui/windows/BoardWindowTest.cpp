@@ -150,7 +150,7 @@ TEST_F(BoardWindowTest, AWinCountsItsPointsUpAndSavesTheOptions) {
     type("vac");
     EXPECT_EQ(window->statusLabel()->text(), QStringLiteral("¡VICTORIA!"));
     EXPECT_EQ(window->windowTitle(), "Quillora Vesta | Puntos | +400");
-    for (int ticks = 0; window->model().scoreTimerRunning() && ticks < 1000; ++ticks) {
+    for (int ticks = 0; window->model().scoring().counting() && ticks < 1000; ++ticks) {
         window->model().tickScore();
     }
     window->sync();
@@ -189,9 +189,9 @@ TEST_F(BoardWindowTest, F3RestartsOnOkAndHandsOverOnceTheEventIsOver) {
     QTest::keyClick(window.get(), Qt::Key_F3);
     EXPECT_EQ(dialogs.shown.back().text, "Está apunto de reiniciar el juego, se borrará todo.");
     EXPECT_EQ(dialogs.shown.back().kind, Dialogs::Question::OkCancel);
-    EXPECT_FALSE(window->model().restartRequested());
+    EXPECT_FALSE(window->model().commands().restartRequested());
     QTest::keyClick(window.get(), Qt::Key_F3);
-    EXPECT_TRUE(window->model().restartRequested());
+    EXPECT_TRUE(window->model().commands().restartRequested());
     EXPECT_FALSE(restarted);
     QCoreApplication::processEvents();
     EXPECT_TRUE(restarted);
@@ -205,7 +205,7 @@ TEST_F(BoardWindowTest, ADroppedConfigurationFileBecomesASession) {
            "\r\n0\r\n0\r\nAna\r\n";
     ASSERT_TRUE(drop(file));
     EXPECT_EQ(shared.currentSession().displayName, "Ana");
-    EXPECT_TRUE(window->model().restartRequested());
+    EXPECT_TRUE(window->model().commands().restartRequested());
 }
 
 TEST_F(BoardWindowTest, OnlyTheCloseBoxEndsTheGame) {

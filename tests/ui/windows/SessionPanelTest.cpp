@@ -32,7 +32,7 @@ TEST(SessionPanelUserBox, TakesOnlyCharactersAConfigurationLineCanHold) {
     QWidget board;
     board.resize(800, 500);
     SessionPanel panel(
-        model, [] {}, &board);
+        model.sessions(), model.appearance(), [] {}, &board);
     board.show();
     panel.show();
     QLineEdit* box = panel.userBox();

@@ -150,7 +150,7 @@ TEST_F(ThemeLists, TheHistoryListKeepsEnterAndAltBackspaceAndGivesTheBoardTheRes
     QTest::keyClick(history, Qt::Key_Return);
     QTest::keyClick(history, Qt::Key_Backspace, Qt::AltModifier);
     EXPECT_EQ(window->themeWindow(), nullptr) << "Enter starts nothing from the history";
-    EXPECT_FALSE(window->model().menuRequested());
+    EXPECT_FALSE(window->model().commands().menuRequested());
     QTest::keyClick(history, Qt::Key_A, Qt::ControlModifier);
     EXPECT_TRUE(shared.settings.autoPhrase) << "Ctrl+A still works";
 
@@ -158,7 +158,7 @@ TEST_F(ThemeLists, TheHistoryListKeepsEnterAndAltBackspaceAndGivesTheBoardTheRes
     QMenu* search = window->historyPanel()->buildSearchMenu();
     ASSERT_NE(search, nullptr);
     EXPECT_EQ(search->title(), "Buscar");
-    EXPECT_EQ(window->model().history().lookUpText(), "árbol");
+    EXPECT_EQ(window->model().panels().history().lookUpText(), "árbol");
     QAction* lookUp = entryOf(search, QStringLiteral("¿Qué es eso?"));
     ASSERT_NE(lookUp, nullptr);
     lookUp->trigger();

@@ -28,6 +28,12 @@ public:
     const CellLook& phraseLabel() const { return m_phraseLabel; }
     Rgb gameColour() const { return m_shared.palette.gameColour; }
     Rgb shade() const { return shadeOf(m_shared.palette.gameColour); }
+    LampColours lampColours(Lamp lamp) const {
+        return quillora::lampColours(lamp, m_shared.palette);
+    }
+    // The countdown's figures: white while time is plenty, the game colour
+    // when it runs short.
+    Rgb countdownColour(bool urgent) const { return urgent ? gameColour() : kWhite; }
     bool pictureRealSize() const { return m_shared.settings.realSize; }
 
     // The stored picture, as the options hold it after a load.

@@ -2,13 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "models/board/BoardModel.h"
 
-#include "desktop/About.h"
-#include "desktop/WebLookUp.h"
-#include "look/Picture.h"
 #include "ports/Dialogs.h"
 #include "round/Keyboard.h"
 #include "storage/ConfigFile.h"
-#include "words/Text.h"
 
 #include <exception>
 
@@ -17,15 +13,14 @@ namespace quillora {
 namespace {
 constexpr int kSoundWarning = 1;
 constexpr int kSoundNewPhrase = 2;
-constexpr int kPlaying = 0;
 } // namespace
 
 BoardModel::BoardModel(SharedState& shared, Dialogs& dialogs, Random& random, WebLookUp& lookUp,
                        RoundEvents* events)
-    : m_shared(shared), m_dialogs(dialogs), m_lookUp(lookUp),
-      m_outer(events ? *events : m_noEvents), m_round(shared, dialogs, random, this),
-      m_scoring(shared, dialogs), m_sessions(shared, dialogs, random), m_panel(shared),
-      m_stats(shared), m_history(shared, dialogs), m_themesPanel(shared), m_random(random) {
+    : m_shared(shared), m_dialogs(dialogs), m_outer(events ? *events : m_noEvents),
+      m_random(random), m_round(shared, dialogs, random, this), m_scoring(shared, dialogs),
+      m_sessions(shared, dialogs, random, m_round, m_commands, m_appearance),
+      m_lookUps(shared, dialogs, lookUp, m_round, m_panels.history()) {
     // Scoring calls these only when points count. A loss is counted before
     // its points, under the same trap, so a full counter earns the gift.
     m_scoring.onWinStatistics = [this](int points) {
@@ -50,10 +45,10 @@ void BoardModel::load() {
     };
     step([this] {
         if (m_shared.locked) {
-            m_panel.openLocked();
+            m_sessions.panel().openLocked();
         }
     });
-    step([this] { m_history.load(); });
+    step([this] { m_panels.history().load(); });
     step([this] {
         clearForBoardLoad(m_shared);
         readSessionFile(m_shared, m_random);
@@ -71,7 +66,7 @@ void BoardModel::load() {
         m_shared.settings.autoPhrase = true;
         m_round.showTourMarker();
     }
-    step([this] { refreshPlayerLabel(); });
+    step([this] { m_turn.refresh(); });
     // A keyboard kept open is there at once; the climb that follows an
     // opening belongs to the keyboard sliding out, which it does not.
     if (m_shared.settings.keyboardKeptOpen) {
@@ -83,77 +78,26 @@ std::string BoardModel::windowTitle() const {
     return m_loadFailed ? m_scoring.title() + " | Error al cargar datos" : m_scoring.title();
 }
 
-void BoardModel::closeSidePanels() {
-    m_side.closeSidePanels();
-    m_stats.close();
-}
-
-void BoardModel::toggleHistory() {
-    if (m_side.showing(SidePanelModel::Content::History)) {
-        closeSidePanels();
-        return;
-    }
-    m_stats.close();
-    m_side.show(SidePanelModel::Content::History);
-}
-
-void BoardModel::openThemesPanel() {
-    m_themesPanel.fill();
-    m_side.show(SidePanelModel::Content::Themes);
-    saveSettings(m_shared, m_dialogs);
-}
-
 void BoardModel::correctionAsked(bool asking) {
     if (asking) {
         m_countdown.pause();
-        m_side.showEmpty();
+        m_panels.side().showEmpty();
     } else {
         m_countdown.resume();
-        m_side.closeSidePanels();
+        m_panels.side().closeSidePanels();
     }
     m_outer.correctionAsked(asking);
 }
 
 // --- round hand-overs ---------------------------------------------------------------
 
-void BoardModel::refreshPlayerLabel() {
-    m_player = quillora::playerLabelFor(m_shared, m_player.caption);
-}
-
-void BoardModel::hoverPlayer() {
-    if (!freeTurn()) {
-        refreshPlayerLabel();
-    }
-}
-
-void BoardModel::moveTurnForward() {
-    quillora::moveTurnForward(m_shared);
-    refreshPlayerLabel();
-}
-
-void BoardModel::moveTurnBack() {
-    quillora::moveTurnBack(m_shared);
-    refreshPlayerLabel();
-}
-
-void BoardModel::toggleFreeTurn() {
-    quillora::toggleFreeTurn(m_shared);
-    refreshPlayerLabel();
-}
-
-void BoardModel::namesClosed() {
-    refreshPlayerLabel();
-    saveSettings(m_shared, m_dialogs);
-}
-
 void BoardModel::friendPhrase(const std::string& phrase, const std::string& themeText) {
-    refreshPlayerLabel();
+    m_turn.refresh();
     m_round.startPhrase(phrase, 0, themeText);
 }
 
 void BoardModel::nextTurn() {
-    passTurn(m_shared);
-    refreshPlayerLabel();
+    m_turn.pass();
     m_outer.nextTurn();
 }
 
@@ -197,7 +141,7 @@ bool BoardModel::keyReachesBoard(WindowKey key) const {
     if (m_shared.locked) {
         return false;
     }
-    return !m_panel.shown() || key == WindowKey::F4;
+    return !m_sessions.panel().shown() || key == WindowKey::F4;
 }
 
 BoardAreas BoardModel::guessAreas(bool wasInPlay) const {
@@ -247,32 +191,32 @@ GameStart BoardModel::keyTyped(WindowKey key, char32_t character) {
         m_round.clearBoard();
         break;
     case WindowKey::F3:
-        askRestart();
+        m_commands.askRestart();
         break;
     case WindowKey::F4:
-        toggleSessionPanel();
+        m_sessions.togglePanel();
         break;
     case WindowKey::ToggleAuto:
         m_round.toggleAutoPhrase();
         break;
     case WindowKey::ToggleSounds:
-        toggleSounds();
+        m_commands.toggleSounds();
         break;
     case WindowKey::BackToMenu:
-        backToMenu();
+        m_commands.backToMenu();
         break;
     case WindowKey::Escape:
-        closeSidePanels();
+        m_panels.closeAll();
         break;
     case WindowKey::History:
-        toggleHistory();
+        m_panels.toggleHistory();
         break;
     // The windows and panels these open come with their own features.
     case WindowKey::F5:
-        askLeaveSurvival();
+        m_survival.askLeave();
         break;
     case WindowKey::F1:
-        openHelp();
+        m_lookUps.openHelp();
         break;
     case WindowKey::DeadKey:
     case WindowKey::MenuKey:
@@ -291,201 +235,17 @@ GameStart BoardModel::playPressed() {
     return m_round.pressPlay();
 }
 
-void BoardModel::hoverKey(int key) {
-    if (m_pressedKey >= 0) {
-        return;
-    }
-    m_hoveredKey = key;
-    restoreFaces();
-}
-
-void BoardModel::leaveKeys() {
-    if (m_pressedKey < 0) {
-        m_hoveredKey = -1;
-    }
-}
-
-void BoardModel::pressKey(int key) {
-    m_pressedKey = key;
-}
-
-void BoardModel::releaseMouse(int keyUnderMouse) {
-    const int pressed = m_pressedKey;
-    m_pressedKey = -1;
-    m_hoveredKey = keyUnderMouse;
-    restoreFaces();
-    if (pressed >= 0 && pressed == keyUnderMouse) {
-        // The clicked key returns to its resting face before it is guessed.
-        if (pressed <= 37) {
-            m_hoveredKey = -1;
-        }
-        m_round.clickKey(pressed);
-    }
-}
-
-KeyLook BoardModel::keyFace(int key) const {
-    return keyLook(key, key == m_hoveredKey, key == m_pressedKey, m_shared.palette);
-}
-
-void BoardModel::hoverCorrection() {
-    if (m_round.correctionOffered()) {
-        m_correctionCaption = "<";
-        m_correctionTooltip = " Borrar un strike. ";
-    }
-}
-
-void BoardModel::restoreFaces() {
-    m_correctionCaption.clear();
-    m_correctionTooltip = " Octavo Strike. ";
-}
-
 // --- menu entries ----------------------------------------------------------------------
 
-void BoardModel::toggleSounds() {
-    m_shared.settings.sounds = !m_shared.settings.sounds;
-    saveSettings(m_shared, m_dialogs);
-}
-
-void BoardModel::toggleAnimation() {
-    m_shared.settings.animated = !m_shared.settings.animated;
-    if (!m_shared.settings.animated) {
-        m_tip.stop();
-    }
-    saveSettings(m_shared, m_dialogs);
-}
-
-void BoardModel::backToMenu() {
-    if (m_round.backToMenu()) {
-        m_toMenu = true;
-    }
-}
-
-void BoardModel::hidePlayButton(bool hidden) {
-    m_shared.settings.playButtonHidden = hidden;
-    saveSettings(m_shared, m_dialogs);
-}
-
 GameStart BoardModel::backgroundClicked() {
-    closeSidePanels();
+    m_panels.closeAll();
     if (m_shared.settings.playButtonHidden) {
         return playPressed();
     }
     return GameStart::Nothing;
 }
 
-void BoardModel::askRestart() {
-    if (m_dialogs.okCancel("Está apunto de reiniciar el juego, se borrará todo.")) {
-        restartNow();
-    }
-}
-
-void BoardModel::restartNow() {
-    m_restart = true;
-    if (m_shared.sessionLoaded) {
-        m_shared.current().selectedThemes = {};
-    }
-}
-
-// --- survival mode ----------------------------------------------------------------------
-
-void BoardModel::toggleSurvival() {
-    switchSurvival(!m_shared.settings.survival);
-}
-
-void BoardModel::switchSurvival(bool on) {
-    m_shared.survivalAnnounce = true;
-    m_shared.settings.survival = on;
-    saveSettings(m_shared, m_dialogs);
-    m_reopen = true;
-}
-
-void BoardModel::askLeaveSurvival() {
-    if (!m_scoring.pointsCount() || !m_shared.settings.survival) {
-        return;
-    }
-    if (m_dialogs.okCancel("Está apunto de salirse del modo supervivencia.")) {
-        leaveSurvival();
-    }
-}
-
-void BoardModel::tickAnnounce() {
-    if (!m_shared.survivalAnnounce) {
-        return;
-    }
-    // Cleared first: the box's own event loop runs this timer again.
-    m_shared.survivalAnnounce = false;
-    m_dialogs.information(m_shared.settings.survival
-                              ? "El modo supervivencia se ha activado."
-                              : "El modo supervivencia se ha desactivado, haga clic derecho sobre "
-                                "el score para tener puntos en supervivencia.");
-}
-
-// --- sessions --------------------------------------------------------------------------
-
-void BoardModel::toggleSessionPanel() {
-    if (m_panel.shown() && m_shared.locked) {
-        return;
-    }
-    const bool playing = m_round.status().rfind("JUGANDO", kPlaying) == 0;
-    m_panel.toggleSessionPanel(static_cast<int>(m_sessions.entries().size()), playing);
-}
-
-void BoardModel::toggleSessionList() {
-    if (!m_panel.listShown() && m_round.state().manyErrors) {
-        m_dialogs.exclamation("No se puede cambiar de sesión, termine la partida.");
-        return;
-    }
-    m_panel.toggleList(static_cast<int>(m_sessions.entries().size()));
-}
-
-void BoardModel::sessionChanged(bool changed) {
-    if (changed) {
-        restartNow();
-    }
-}
-
-void BoardModel::addSession(const std::string& typedName, std::string& shownName) {
-    shownName = typedName;
-    sessionChanged(m_sessions.add(typedName, m_round.state().manyErrors, shownName));
-}
-
-void BoardModel::switchSession(int slot) {
-    sessionChanged(m_sessions.switchTo(slot, m_round.state().manyErrors));
-}
-
-void BoardModel::deleteSession() {
-    sessionChanged(m_sessions.deleteCurrent());
-}
-
-void BoardModel::dropFiles(const std::vector<std::string>& paths) {
-    // A user brought in by a dropped file would walk past the lock.
-    if (!dropsAccepted()) {
-        return;
-    }
-    // A picture becomes the background at once; the design window decides
-    // whether it is kept.
-    std::vector<std::string> others;
-    for (const std::string& path : paths) {
-        if (isPictureName(path)) {
-            m_appearance.dropPicture(path);
-        } else {
-            others.push_back(path);
-        }
-    }
-    if (!others.empty()) {
-        sessionChanged(m_sessions.addFromFiles(others, m_round.state().manyErrors));
-    }
-}
-
-void BoardModel::keyEntered(const std::string& typed) {
-    m_panel.enterKey(typed);
-}
-
 // --- timers ----------------------------------------------------------------------------
-
-int BoardModel::tickSound() {
-    return m_round.pendingSound().tick();
-}
 
 void BoardModel::soundEnded(int number) {
     // The score of a new game counts once its opening sound is over.
@@ -505,31 +265,6 @@ void BoardModel::tickCountdown() {
     case Countdown::Tick::Nothing:
         break;
     }
-}
-
-void BoardModel::tickScore() {
-    m_scoring.tick(m_round.strikeCountForScore());
-}
-
-LampColours BoardModel::lampColours() const {
-    return quillora::lampColours(m_round.lamp(), m_shared.palette);
-}
-
-void BoardModel::lookUpAnswer() {
-    m_lookUp.openLookUp(lowerCase(toUtf8(m_round.board().answerText())),
-                        m_shared.settings.useEncyclopedia);
-}
-
-void BoardModel::lookUpHistoryEntry() {
-    m_lookUp.openLookUp(m_history.lookUpText(), m_shared.settings.useEncyclopedia);
-}
-
-void BoardModel::openHelp() {
-    m_lookUp.openHelp();
-}
-
-void BoardModel::showAbout() {
-    quillora::showAbout(m_dialogs);
 }
 
 } // namespace quillora

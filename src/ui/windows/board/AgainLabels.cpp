@@ -3,7 +3,7 @@
 #include "windows/board/AgainLabels.h"
 
 #include "look/Twips.h"
-#include "models/board/BoardModel.h"
+#include "models/board/SurvivalSwitch.h"
 #include "platform/Fonts.h"
 #include "windows/board/BoardAccessible.h"
 
@@ -32,8 +32,8 @@ QLabel* makeLabel(const QString& text, int left, int width, QWidget* board) {
 
 } // namespace
 
-AgainLabels::AgainLabels(BoardModel& model, std::function<void()> changed, QWidget* board)
-    : QObject(board), m_model(model), m_changed(std::move(changed)) {
+AgainLabels::AgainLabels(SurvivalSwitch& survival, std::function<void()> changed, QWidget* board)
+    : QObject(board), m_survival(survival), m_changed(std::move(changed)) {
     m_restart = makeLabel(QStringLiteral("Reiniciar"), kRestartLeft, kRestartWidth, board);
     m_getPoints =
         makeLabel(QStringLiteral("Consigue puntos"), kGetPointsLeft, kGetPointsWidth, board);
@@ -50,7 +50,7 @@ void AgainLabels::paint(const QString& gameColour) {
 }
 
 void AgainLabels::sync() {
-    const bool shown = m_model.againShown();
+    const bool shown = m_survival.againShown();
     m_restart->setVisible(shown);
     m_getPoints->setVisible(shown);
     if (shown) {
@@ -69,9 +69,9 @@ bool AgainLabels::eventFilter(QObject* watched, QEvent* event) {
     }
     if (event->type() == QEvent::MouseButtonRelease) {
         if (watched == m_restart) {
-            m_model.againRestart();
+            m_survival.againRestart();
         } else {
-            m_model.againGetPoints();
+            m_survival.againGetPoints();
         }
         m_changed();
     }

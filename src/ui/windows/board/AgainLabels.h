@@ -11,13 +11,13 @@ class QWidget;
 
 namespace quillora {
 
-class BoardModel;
+class SurvivalSwitch;
 
 // The two labels of survival mode without points: "Reiniciar"
 // starts the game over, "Consigue puntos" goes back to normal play.
 class AgainLabels final : public QObject {
 public:
-    AgainLabels(BoardModel& model, std::function<void()> changed, QWidget* board);
+    AgainLabels(SurvivalSwitch& survival, std::function<void()> changed, QWidget* board);
 
     void sync();
     void paint(const QString& gameColour);
@@ -29,7 +29,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    BoardModel& m_model;
+    SurvivalSwitch& m_survival;
     std::function<void()> m_changed;
     QLabel* m_restart = nullptr;
     QLabel* m_getPoints = nullptr;

@@ -3,9 +3,9 @@
 #include "windows/board/AnswerPanel.h"
 
 #include "look/Twips.h"
-#include "models/board/BoardModel.h"
 #include "platform/Fonts.h"
 #include "round/Keyboard.h"
+#include "round/Round.h"
 #include "windows/QtColour.h"
 #include "windows/TypedTextFilter.h"
 #include "windows/board/BoardAccessible.h"
@@ -21,9 +21,9 @@ namespace {
 constexpr int kLeft = 3000, kTop = 4290, kWidth = 8295, kHeight = 540;
 } // namespace
 
-AnswerPanel::AnswerPanel(BoardModel& model, std::function<void()> changed,
+AnswerPanel::AnswerPanel(Round& round, std::function<void()> changed,
                          std::function<bool(QKeyEvent*)> shortcut, QWidget* board)
-    : QWidget(board), m_model(model), m_changed(std::move(changed)),
+    : QWidget(board), m_round(round), m_changed(std::move(changed)),
       m_shortcut(std::move(shortcut)) {
     setObjectName(QStringLiteral("answerFrame"));
     setGeometry(px(kLeft), px(kTop), px(kWidth), px(kHeight));
@@ -44,8 +44,8 @@ AnswerPanel::AnswerPanel(BoardModel& model, std::function<void()> changed,
     });
     m_wordBox->installEventFilter(this);
     connect(m_wordBox, &QLineEdit::textChanged, this, [this](const QString& text) {
-        m_model.round().setAnswerBoxText(text.toStdString());
-        m_okButton->setEnabled(m_model.round().answerOkEnabled());
+        m_round.setAnswerBoxText(text.toStdString());
+        m_okButton->setEnabled(m_round.answerOkEnabled());
     });
     m_okButton = new QPushButton(QStringLiteral("OK"), this);
     m_okButton->setGeometry(px(7470), px(60), px(765), px(420));
@@ -63,7 +63,7 @@ void AnswerPanel::paint(const QString& gameColour) {
 }
 
 void AnswerPanel::sync() {
-    const Round& round = m_model.round();
+    const Round& round = m_round;
     const bool wasOpen = isVisible();
     setVisible(round.answerBoxOpen());
     const QString boxText = qs(round.answerBoxText());
@@ -79,10 +79,10 @@ void AnswerPanel::sync() {
 }
 
 void AnswerPanel::okPressed() {
-    m_model.round().setAnswerBoxText(m_wordBox->text().toStdString());
-    const bool answered = m_model.round().submitAnswer();
+    m_round.setAnswerBoxText(m_wordBox->text().toStdString());
+    const bool answered = m_round.submitAnswer();
     m_changed();
-    if (!answered && m_model.round().answerBoxOpen()) {
+    if (!answered && m_round.answerBoxOpen()) {
         m_wordBox->setFocus();
         m_wordBox->end(false);
     }
@@ -103,7 +103,7 @@ bool AnswerPanel::eventFilter(QObject* watched, QEvent* event) {
         return true;
     }
     if (key->text() == QStringLiteral("!")) {
-        m_model.round().toggleAnswerBox();
+        m_round.toggleAnswerBox();
         m_changed();
         return true;
     }

@@ -3,9 +3,9 @@
 #include "windows/board/AutoMarker.h"
 
 #include "look/Twips.h"
-#include "models/board/BoardModel.h"
 #include "models/board/BoardSpeech.h"
 #include "platform/Fonts.h"
+#include "round/Round.h"
 #include "windows/QtColour.h"
 #include "windows/board/BoardAccessible.h"
 
@@ -15,8 +15,8 @@ namespace {
 constexpr int kLeft = 2610, kTop = 345, kSize = 330;
 } // namespace
 
-AutoMarker::AutoMarker(BoardModel& model, std::function<void()> changed, QWidget* board)
-    : QLabel(board), m_model(model), m_changed(std::move(changed)) {
+AutoMarker::AutoMarker(Round& round, std::function<void()> changed, QWidget* board)
+    : QLabel(board), m_round(round), m_changed(std::move(changed)) {
     setGeometry(px(kLeft), px(kTop), px(kSize), px(kSize));
     setAlignment(Qt::AlignCenter);
     setFont(Fonts::display(9));
@@ -27,7 +27,7 @@ AutoMarker::AutoMarker(BoardModel& model, std::function<void()> changed, QWidget
 }
 
 void AutoMarker::sync() {
-    const Round& round = m_model.round();
+    const Round& round = m_round;
     setVisible(round.autoMarkerVisible());
     setText(qs(round.autoMarkerCaption()));
     setToolTip(qs(round.autoMarkerTooltip()));
@@ -40,7 +40,7 @@ void AutoMarker::mousePressEvent(QMouseEvent*) {
 }
 
 void AutoMarker::mouseReleaseEvent(QMouseEvent*) {
-    m_model.toggleAutoPhrase();
+    m_round.toggleAutoPhrase();
     m_changed();
 }
 

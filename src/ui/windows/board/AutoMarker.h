@@ -8,13 +8,13 @@
 
 namespace quillora {
 
-class BoardModel;
+class Round;
 
 // The automatic-phrase marker: "A", or "T" while a
 // thematic tour runs; a click switches the automatic phrase off or on.
 class AutoMarker final : public QLabel {
 public:
-    AutoMarker(BoardModel& model, std::function<void()> changed, QWidget* board);
+    AutoMarker(Round& round, std::function<void()> changed, QWidget* board);
 
     void sync();
 
@@ -23,7 +23,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    BoardModel& m_model;
+    Round& m_round;
     std::function<void()> m_changed;
 };
 

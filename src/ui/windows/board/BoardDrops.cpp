@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/board/BoardDrops.h"
 
-#include "models/board/BoardModel.h"
+#include "models/board/BoardSessions.h"
 
 #include <QDragEnterEvent>
 #include <QDropEvent>
@@ -14,8 +14,8 @@
 
 namespace quillora {
 
-BoardDrops::BoardDrops(BoardModel& model, QWidget* board, std::function<void()> dropped)
-    : QObject(board), m_model(model), m_dropped(std::move(dropped)) {
+BoardDrops::BoardDrops(BoardSessions& sessions, QWidget* board, std::function<void()> dropped)
+    : QObject(board), m_sessions(sessions), m_dropped(std::move(dropped)) {
     board->setAcceptDrops(true);
     board->installEventFilter(this);
 }
@@ -23,7 +23,7 @@ BoardDrops::BoardDrops(BoardModel& model, QWidget* board, std::function<void()> 
 bool BoardDrops::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::DragEnter) {
         auto* enter = static_cast<QDragEnterEvent*>(event);
-        if (enter->mimeData()->hasUrls() && m_model.dropsAccepted()) {
+        if (enter->mimeData()->hasUrls() && m_sessions.dropsAccepted()) {
             enter->acceptProposedAction();
         } else {
             enter->ignore();
@@ -39,7 +39,7 @@ bool BoardDrops::eventFilter(QObject* watched, QEvent* event) {
             }
         }
         drop->acceptProposedAction();
-        m_model.dropFiles(paths);
+        m_sessions.dropFiles(paths);
         m_dropped();
         return true;
     }

@@ -8,20 +8,20 @@
 
 namespace quillora {
 
-class BoardModel;
+class BoardSessions;
 
 // Files dropped on the board: pictures for its background, configuration
 // files for new users. The model decides what each file is; a locked board
 // takes none.
 class BoardDrops final : public QObject {
 public:
-    BoardDrops(BoardModel& model, QWidget* board, std::function<void()> dropped);
+    BoardDrops(BoardSessions& sessions, QWidget* board, std::function<void()> dropped);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    BoardModel& m_model;
+    BoardSessions& m_sessions;
     std::function<void()> m_dropped;
 };
 

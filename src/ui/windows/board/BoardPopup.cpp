@@ -31,30 +31,32 @@ QMenu* buildBoardPopup(BoardModel& model, QWidget* board, const std::function<vo
         a->setChecked(on);
     };
     entry(
-        "Nuevo partida", [&model] { model.clearBoard(); }, round.newGameEnabled());
+        "Nuevo partida", [&model] { model.commands().clearBoard(); }, round.newGameEnabled());
     menu->addSeparator();
-    entry("Reiniciar", [&model] { model.restartNow(); });
-    entry("Bloquear", [&model] { model.toggleSessionPanel(); });
-    if (model.scoring().pointsCount()) {
+    entry("Reiniciar", [&model] { model.commands().restartNow(); });
+    entry("Bloquear", [&model] { model.sessions().togglePanel(); });
+    if (model.survival().entryShown()) {
         entry(settings.survival ? "Modo normal" : "Modo supervivencia",
-              [&model] { model.toggleSurvival(); });
-        entry("Estadísticas", [&model] { model.openStats(); });
+              [&model] { model.survival().toggle(); });
+        entry("Estadísticas", [&model] { model.panels().openStats(); });
     }
-    if (model.deleteShown()) {
-        entry("Eliminar sesión", [&model] { model.deleteSession(); });
+    if (model.sessions().deleteShown()) {
+        entry("Eliminar sesión", [&model] { model.sessions().deleteCurrent(); });
     }
-    entry("Volver al menú", [&model] { model.backToMenu(); });
+    entry("Volver al menú", [&model] { model.commands().backToMenu(); });
     menu->addSeparator();
-    check(entry("Mostrar sonidos", [&model] { model.toggleSounds(); }), settings.sounds);
-    check(entry("Frase automática", [&model] { model.toggleAutoPhrase(); }), settings.autoPhrase);
-    check(entry("Estado animado", [&model] { model.toggleAnimation(); }), settings.animated);
+    check(entry("Mostrar sonidos", [&model] { model.commands().toggleSounds(); }), settings.sounds);
+    check(entry("Frase automática", [&model] { model.commands().toggleAutoPhrase(); }),
+          settings.autoPhrase);
+    check(entry("Estado animado", [&model] { model.commands().toggleAnimation(); }),
+          settings.animated);
     menu->addSeparator();
     entry("Editar jugadores", names);
-    entry("Historial", [&model] { model.toggleHistory(); });
+    entry("Historial", [&model] { model.panels().toggleHistory(); });
     entry("Cambiar diseño", design, model.designOffered());
     menu->addSeparator();
-    entry("Ayuda", [&model] { model.openHelp(); });
-    entry("Acerca", [&model] { model.showAbout(); });
+    entry("Ayuda", [&model] { model.lookUps().openHelp(); });
+    entry("Acerca", [&model] { model.lookUps().showAbout(); });
     menu->addSeparator();
     entry("Salir", quit);
     return menu;

@@ -63,12 +63,14 @@ constexpr int kCounterLeft = 10200, kCounterTop = 1050, kCounterWidth = 1095, kC
 BoardWindow::BoardWindow(SharedState& shared, Dialogs& dialogs, Random& random, SoundPlayer& sounds,
                          WebLookUp& lookUp, QWidget* parent)
     : QWidget(parent), m_boardDialogs(dialogs, [this] { drawNow(); }),
-      m_model(shared, m_boardDialogs, random, lookUp), m_design(m_model, this, [this] { sync(); }),
+      m_model(shared, m_boardDialogs, random, lookUp),
+      m_design(m_model.appearance(), m_model.round(), shared, m_boardDialogs, this,
+               [this] { sync(); }),
       m_sounds(sounds) {
     setWindowTitle(QString::fromUtf8(kAppTitle.data(), static_cast<int>(kAppTitle.size())));
     setFocusPolicy(Qt::StrongFocus);
     setAutoFillBackground(true);
-    new BoardDrops(m_model, this, [this] {
+    new BoardDrops(m_model.sessions(), this, [this] {
         sync();
         m_design.sync();
     });
@@ -125,22 +127,22 @@ void BoardWindow::buildTimers() {
     m_scoreTimer = timer(BoardModel::kScoreTickMs, [this] {
         m_model.tickScore();
         m_scorePanel->syncScore();
-        if (!m_model.scoreTimerRunning()) {
+        if (!m_model.scoring().counting()) {
             sync();
         }
         syncTimers();
     });
     // The session panel's slide and its list's drop share the 10 ms beat.
     m_sessionSlideTimer = timer(SessionPanelModel::kTickMs, [this] {
-        m_model.panel().tick();
+        m_model.sessions().panel().tick();
         sync();
     });
     m_sessionListTimer = timer(SessionPanelModel::kTickMs, [this] {
-        m_model.panel().tickList();
+        m_model.sessions().panel().tickList();
         sync();
     });
     m_statsTimer = timer(StatsPanelModel::kTickMs, [this] {
-        m_model.stats().tick();
+        m_model.panels().stats().tick();
         m_statsPanel->sync();
         syncTimers();
     });
@@ -168,7 +170,7 @@ void BoardWindow::buildTimers() {
         // Once the top is right and the news told, the watch rests until
         // the window moves again.
         m_topCheckTimer->stop();
-        m_model.tickAnnounce();
+        m_model.survival().tickAnnounce();
     });
     m_topCheckTimer->start();
     m_pulseTimer = timer(ScorePulse::kTickMs, [this] {
@@ -184,7 +186,7 @@ void BoardWindow::buildTimers() {
     });
     // A game with friends starts with their names.
     m_namesTimer = timer(BoardModel::kNamesDelayMs, [this] {
-        if (m_model.namesAtStart()) {
+        if (m_model.turn().namesAtStart()) {
             openPlayersWindow();
         }
     });
@@ -196,20 +198,23 @@ void BoardWindow::buildControls() {
     auto changed = [this] { sync(); };
     m_background = new BackgroundView(m_model.appearance(), this);
     m_gallows = new GallowsView(m_model.round().figure(), this);
-    m_phrase = new PhraseView(m_model, this);
+    m_phrase = new PhraseView(m_model.round(), m_model.appearance(), this);
     m_design.keepInSight(m_phrase);
-    m_sidePanel = new SidePanel(m_model.side(), this);
-    m_statsPanel = new StatsPanel(m_model.stats(), changed, this);
+    SidePanels& panels = m_model.panels();
+    m_sidePanel = new SidePanel(panels.side(), this);
+    m_statsPanel = new StatsPanel(panels.stats(), changed, this);
     auto keys = [this](QKeyEvent* key) { return boardKey(key); };
-    m_historyPanel = new HistoryPanel(m_model, changed, keys, this);
-    m_themesPanel = new ThemesPanel(m_model, changed, keys, this);
+    m_historyPanel = new HistoryPanel(panels, m_model.lookUps(), changed, keys, this);
+    m_themesPanel = new ThemesPanel(panels, changed, keys, this);
 
     m_statusLabel = new RoundedLabel(this);
     m_statusLabel->setGeometry(twipRect(kStatusLeft, kStatusTop, kStatusWidth, kStatusHeight));
     m_statusLabel->setAlignment(Qt::AlignCenter);
     m_statusLabel->setFont(Fonts::display(18));
 
-    m_themeBox = new ThemeBox(m_model, changed, this);
+    Round& round = m_model.round();
+    Scoring& scoring = m_model.scoring();
+    m_themeBox = new ThemeBox(round, scoring, panels, m_model.tip(), changed, this);
 
     m_counterLabel = new QLabel(QStringLiteral("XX/YY"), this);
     m_counterLabel->setGeometry(twipRect(kCounterLeft, kCounterTop, kCounterWidth, kCounterHeight));
@@ -217,37 +222,41 @@ void BoardWindow::buildControls() {
     m_counterLabel->setFont(Fonts::display(12));
     m_counterLabel->setToolTip(QStringLiteral(" Letras reveladas. "));
     m_counterLabel->installEventFilter(this);
-    m_timeLabel = new CountdownLabel(m_model, this);
+    m_timeLabel = new CountdownLabel(m_model.countdown(), m_model.appearance(), this);
 
-    m_strikes = new StrikeStrip(m_model, changed, this);
+    m_strikes = new StrikeStrip(round, m_model.keyFaces(), panels, changed, this);
     m_tipStrip = new TipStrip(m_model.tip(), this);
+    const Settings& settings = m_model.shared().settings;
     m_playPanel = new PlayPanel(
-        m_model, changed, [this] { playPressed(); }, this);
+        round, scoring, m_model.commands(), settings, changed, [this] { playPressed(); }, this);
 
     // The small twin of JUGAR: it plays too, and keys typed on it are guesses.
     m_smallPlayButton = new SmallPlayButton(
-        m_model, [this] { playPressed(); }, this);
+        round, scoring, settings, [this] { playPressed(); }, this);
 
-    m_lookUpLabel = new LookUpLabel(m_model, this);
+    m_lookUpLabel = new LookUpLabel(round, m_model.lookUps(), this);
 
     m_answerPanel = new AnswerPanel(
-        m_model, changed, [this](QKeyEvent* key) { return windowShortcut(key); }, this);
-    m_keyboard = new KeyboardView(m_model, changed, this);
+        round, changed, [this](QKeyEvent* key) { return windowShortcut(key); }, this);
+    m_keyboard = new KeyboardView(round, m_model.keyFaces(), changed, this);
     m_scorePanel = new ScorePanel(
-        m_model, changed, [this] { openPlayersWindow(); }, this);
+        scoring, m_model.scorePulse(), m_model.turn(), panels, changed,
+        [this] { openPlayersWindow(); }, this);
 
-    m_autoMarker = new AutoMarker(m_model, changed, this);
+    m_autoMarker = new AutoMarker(round, changed, this);
 
-    m_soundButton = new SoundButton(m_model, changed, this);
+    m_soundButton =
+        new SoundButton(m_model.commands(), m_model.keyFaces(), settings, changed, this);
 
-    m_again = new AgainLabels(m_model, changed, this);
-    m_sessionPanel = new SessionPanel(m_model, changed, this);
+    m_again = new AgainLabels(m_model.survival(), changed, this);
+    m_sessionPanel = new SessionPanel(m_model.sessions(), m_model.appearance(), changed, this);
 }
 
 void BoardWindow::paintPanels() {
-    const LampColours lamp = m_model.lampColours();
-    const Rgb game = m_model.gameColour();
-    const Rgb shade = m_model.shade();
+    const BoardAppearance& look = m_model.appearance();
+    const LampColours lamp = look.lampColours(m_model.round().lamp());
+    const Rgb game = look.gameColour();
+    const Rgb shade = look.shade();
     const Rgb score = m_model.round().deathColours() ? kRedLamp : lamp.light;
     // Style sheets are costly to apply, and the lamps flash after every
     // letter: only the panels whose colour changed are painted again.
@@ -404,7 +413,7 @@ void BoardWindow::placeOver(QPoint menuCentre) {
 }
 
 void BoardWindow::followRestart() {
-    if (m_model.reopenRequested() && !m_restarting) {
+    if (m_model.survival().reopenRequested() && !m_restarting) {
         m_restarting = true;
         const QPoint at = pos();
         QTimer::singleShot(0, this, [this, at] {
@@ -416,8 +425,8 @@ void BoardWindow::followRestart() {
         });
         return;
     }
-    const bool toMenu = m_model.menuRequested();
-    if ((!toMenu && !m_model.restartRequested()) || m_restarting) {
+    const bool toMenu = m_model.commands().menuRequested();
+    if ((!toMenu && !m_model.commands().restartRequested()) || m_restarting) {
         return;
     }
     // The board goes away for the menu or a new start; whoever opened it
@@ -445,17 +454,17 @@ void BoardWindow::syncTimers() {
     follow(m_soundTimer, m_model.round().pendingSound().timerRunning());
     follow(m_keyboardOpenTimer, m_model.slide().opening());
     follow(m_climbTimer, m_model.slide().climbing() && m_shownOnce);
-    follow(m_scoreTimer, m_model.scoreTimerRunning());
-    follow(m_countdownTimer, m_model.countdownTimerRunning());
-    follow(m_sessionSlideTimer, m_model.panel().animating());
-    follow(m_sessionListTimer, m_model.panel().listSliding());
+    follow(m_scoreTimer, m_model.scoring().counting());
+    follow(m_countdownTimer, m_model.countdown().running());
+    follow(m_sessionSlideTimer, m_model.sessions().panel().animating());
+    follow(m_sessionListTimer, m_model.sessions().panel().listSliding());
     follow(m_pulseTimer, m_model.scorePulse().running());
     follow(m_giftTimer, m_model.scoring().gifting());
-    follow(m_statsTimer, m_model.stats().animating());
+    follow(m_statsTimer, m_model.panels().stats().animating());
 }
 
 void BoardWindow::playSound() {
-    const int number = m_model.tickSound();
+    const int number = m_model.round().pendingSound().tick();
     if (number == 0) {
         return;
     }
@@ -495,7 +504,7 @@ void BoardWindow::handleStart(GameStart start) {
         m_friendWindow->open();
     } else if (start == GameStart::ThemeWindow && !m_themeWindow) {
         m_themeWindow = new ThemeWindow(
-            m_model, [this] { sync(); }, this);
+            m_model.round(), m_model.shared(), m_boardDialogs, [this] { sync(); }, this);
         opened(m_themeWindow, m_themeWindow);
         m_themeWindow->open();
     }
@@ -558,14 +567,14 @@ void BoardWindow::keyPressEvent(QKeyEvent* event) {
 bool BoardWindow::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::MouseButtonRelease && watched->isWidgetType() &&
         (watched == this || isAncestorOf(static_cast<QWidget*>(watched)))) {
-        m_model.restoreFaces();
+        m_model.keyFaces().restore();
         m_strikes->sync();
         m_keyboard->update();
     }
     // The counter, like the score and the strikes, only puts the side
     // panels away.
     if (watched == m_counterLabel && event->type() == QEvent::MouseButtonPress) {
-        m_model.closeSidePanels();
+        m_model.panels().closeAll();
         sync();
         return true;
     }
@@ -588,7 +597,7 @@ void BoardWindow::openPlayersWindow() {
         return;
     }
     m_namesWindow = new PlayersWindow(m_model.shared(), [this] {
-        m_model.namesClosed();
+        m_model.turn().namesClosed();
         show();
         activateWindow();
         sync();
@@ -602,7 +611,7 @@ void BoardWindow::openPlayersWindow() {
 }
 
 void BoardWindow::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton && !m_model.panel().shown()) {
+    if (event->button() == Qt::LeftButton && !m_model.sessions().panel().shown()) {
         handleStart(m_model.backgroundClicked());
         return;
     }
@@ -633,7 +642,7 @@ void BoardWindow::closeEvent(QCloseEvent* event) {
 }
 
 void BoardWindow::contextMenuEvent(QContextMenuEvent* event) {
-    if (m_model.panel().shown()) {
+    if (m_model.sessions().panel().shown()) {
         return;
     }
     buildPopup()->popup(event->globalPos());

@@ -3,8 +3,9 @@
 #include "windows/board/CountdownLabel.h"
 
 #include "look/Twips.h"
-#include "models/board/BoardModel.h"
+#include "models/board/BoardAppearance.h"
 #include "platform/Fonts.h"
+#include "scoring/Countdown.h"
 #include "windows/QtColour.h"
 
 namespace quillora {
@@ -14,8 +15,9 @@ namespace {
 constexpr int kLeft = 9240, kTop = 1050, kWidth = 900, kHeight = 360;
 } // namespace
 
-CountdownLabel::CountdownLabel(const BoardModel& model, QWidget* board)
-    : QLabel(board), m_model(model) {
+CountdownLabel::CountdownLabel(const Countdown& countdown, const BoardAppearance& look,
+                               QWidget* board)
+    : QLabel(board), m_countdown(countdown), m_look(look) {
     setGeometry(px(kLeft), px(kTop), px(kWidth), px(kHeight));
     setAlignment(Qt::AlignCenter);
     setFont(Fonts::display(12));
@@ -24,12 +26,13 @@ CountdownLabel::CountdownLabel(const BoardModel& model, QWidget* board)
 }
 
 void CountdownLabel::sync() {
-    setVisible(m_model.countdown().visible());
-    setText(qs(m_model.countdown().text()));
+    setVisible(m_countdown.visible());
+    setText(qs(m_countdown.text()));
     // A dark ground, so that both the white and the game colour read on it.
-    const QString style = QStringLiteral("color: %1; background: %2; border-radius: %3px;")
-                              .arg(css(m_model.countdownColour()), css(kKeyboardPanel))
-                              .arg(px(90));
+    const QString style =
+        QStringLiteral("color: %1; background: %2; border-radius: %3px;")
+            .arg(css(m_look.countdownColour(m_countdown.urgent())), css(kKeyboardPanel))
+            .arg(px(90));
     if (style != styleSheet()) {
         setStyleSheet(style);
     }

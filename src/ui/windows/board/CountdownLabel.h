@@ -6,18 +6,20 @@
 
 namespace quillora {
 
-class BoardModel;
+class BoardAppearance;
+class Countdown;
 
 // The seconds left in countdown mode, beside the letters counter;
 // hidden while no clock runs.
 class CountdownLabel final : public QLabel {
 public:
-    CountdownLabel(const BoardModel& model, QWidget* board);
+    CountdownLabel(const Countdown& countdown, const BoardAppearance& look, QWidget* board);
 
     void sync();
 
 private:
-    const BoardModel& m_model;
+    const Countdown& m_countdown;
+    const BoardAppearance& m_look;
 };
 
 } // namespace quillora

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/board/DesignLink.h"
 
-#include "models/board/BoardModel.h"
+#include "models/board/BoardAppearance.h"
+#include "round/Round.h"
 
 #include <QDir>
 #include <QGuiApplication>
@@ -56,22 +57,26 @@ QPoint placeBeside(const QRect& board, const QRect& phrase, QSize size) {
 
 } // namespace
 
-DesignLink::DesignLink(BoardModel& model, QWidget* board, std::function<void()> boardChanged)
-    : m_model(model), m_board(board), m_boardChanged(std::move(boardChanged)) {}
+DesignLink::DesignLink(BoardAppearance& look, const Round& round, SharedState& shared,
+                       Dialogs& dialogs, QWidget* board, std::function<void()> boardChanged)
+    : m_look(look), m_round(round), m_shared(shared), m_dialogs(dialogs), m_board(board),
+      m_boardChanged(std::move(boardChanged)) {}
 
 DesignLink::~DesignLink() {
     delete m_window.data();
 }
 
 void DesignLink::openDesign() {
-    if (!m_model.designOffered()) {
+    // After a death the missed letters keep their colour until the next
+    // game, so the design, which repaints the cells, waits for it.
+    if (!m_round.designEnabled()) {
         return;
     }
     if (!m_window) {
-        m_window = new DesignWindow(
-            m_model.appearance(), m_model.shared(), m_model.dialogs(), m_boardChanged,
-            QStandardPaths::writableLocation(QStandardPaths::PicturesLocation), QDir::homePath(),
-            m_board);
+        m_window =
+            new DesignWindow(m_look, m_shared, m_dialogs, m_boardChanged,
+                             QStandardPaths::writableLocation(QStandardPaths::PicturesLocation),
+                             QDir::homePath(), m_board);
         m_window->setAttribute(Qt::WA_DeleteOnClose);
         // The frame the window system adds is not known before the window
         // shows: the board's own frame is a fair guess.

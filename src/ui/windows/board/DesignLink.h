@@ -10,13 +10,17 @@
 
 namespace quillora {
 
-class BoardModel;
+class BoardAppearance;
+class Dialogs;
+class Round;
+struct SharedState;
 
 // The board's side of the design window: it opens one over the board, and
 // closes it before the board's model goes, since the window works on it.
 class DesignLink {
 public:
-    DesignLink(BoardModel& model, QWidget* board, std::function<void()> boardChanged);
+    DesignLink(BoardAppearance& look, const Round& round, SharedState& shared, Dialogs& dialogs,
+               QWidget* board, std::function<void()> boardChanged);
     ~DesignLink();
     DesignLink(const DesignLink&) = delete;
     DesignLink& operator=(const DesignLink&) = delete;
@@ -32,7 +36,10 @@ public:
     DesignWindow* window() const { return m_window; }
 
 private:
-    BoardModel& m_model;
+    BoardAppearance& m_look;
+    const Round& m_round;
+    SharedState& m_shared;
+    Dialogs& m_dialogs;
     QWidget* m_board;
     std::function<void()> m_boardChanged;
     QWidget* m_phrase = nullptr;

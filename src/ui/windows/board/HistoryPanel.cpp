@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/board/HistoryPanel.h"
 
-#include "models/board/BoardModel.h"
+#include "models/board/BoardLookUps.h"
+#include "models/board/SidePanels.h"
 
 #include <QKeyEvent>
 #include <QListWidget>
@@ -20,19 +21,19 @@ bool listOwns(const QKeyEvent& key) {
 }
 } // namespace
 
-HistoryPanel::HistoryPanel(BoardModel& model, std::function<void()> changed,
+HistoryPanel::HistoryPanel(SidePanels& panels, BoardLookUps& lookUps, std::function<void()> changed,
                            std::function<bool(QKeyEvent*)> boardKeys, QWidget* board)
     : SideListPanel(
           QStringLiteral("historyFrame"), QStringLiteral("Historial de frases y palabras:"),
-          [&model, changed] {
-              model.closeSidePanels();
+          [&panels, changed] {
+              panels.closeAll();
               changed();
           },
           [boardKeys](QKeyEvent* key) { return listOwns(*key) || boardKeys(key); }, board),
-      m_model(model), m_changed(std::move(changed)) {
+      m_panels(panels), m_lookUps(lookUps), m_changed(std::move(changed)) {
     list()->setSelectionMode(QAbstractItemView::SingleSelection);
     connect(list(), &QListWidget::itemDoubleClicked, this, [this] {
-        m_model.history().askToClear();
+        m_panels.history().askToClear();
         m_changed();
     });
     list()->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -44,18 +45,19 @@ HistoryPanel::HistoryPanel(BoardModel& model, std::function<void()> changed,
 }
 
 void HistoryPanel::sync() {
-    present(m_model.side().showing(SidePanelModel::Content::History), m_model.history().entries());
+    present(m_panels.side().showing(SidePanelModel::Content::History),
+            m_panels.history().entries());
 }
 
 QMenu* HistoryPanel::buildSearchMenu() {
     const QList<QListWidgetItem*> selected = list()->selectedItems();
-    if (selected.isEmpty() || !m_model.history().chooseForLookUp(list()->row(selected.front()))) {
+    if (selected.isEmpty() || !m_panels.history().chooseForLookUp(list()->row(selected.front()))) {
         return nullptr;
     }
     auto* menu = new QMenu(QStringLiteral("Buscar"), this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     connect(menu->addAction(QStringLiteral("¿Qué es eso?")), &QAction::triggered, this,
-            [this] { m_model.lookUpHistoryEntry(); });
+            [this] { m_lookUps.lookUpHistoryEntry(); });
     return menu;
 }
 

@@ -8,14 +8,15 @@ class QMenu;
 
 namespace quillora {
 
-class BoardModel;
+class BoardLookUps;
+class SidePanels;
 
 // "Historial de frases y palabras:": the phrases of this session, newest
 // last. A double click offers to empty it; the right button on an entry
 // offers to look it up.
 class HistoryPanel final : public SideListPanel {
 public:
-    HistoryPanel(BoardModel& model, std::function<void()> changed,
+    HistoryPanel(SidePanels& panels, BoardLookUps& lookUps, std::function<void()> changed,
                  std::function<bool(QKeyEvent*)> boardKeys, QWidget* board);
 
     void sync();
@@ -23,7 +24,8 @@ public:
     QMenu* buildSearchMenu();
 
 private:
-    BoardModel& m_model;
+    SidePanels& m_panels;
+    BoardLookUps& m_lookUps;
     std::function<void()> m_changed;
 };
 

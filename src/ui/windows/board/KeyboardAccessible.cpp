@@ -66,7 +66,7 @@ private:
     QString name() const override { return qs(spokenKeyName(round(), m_part)); }
     QString description() const override { return qs(spokenKeyDescription(round(), m_part)); }
     QRect partRect() const override { return m_view->keyRect(m_part); }
-    const Round& round() const { return m_view->model().round(); }
+    const Round& round() const { return m_view->round(); }
 };
 
 } // namespace

@@ -3,9 +3,10 @@
 #include "windows/board/KeyboardView.h"
 
 #include "look/Twips.h"
-#include "models/board/BoardModel.h"
 #include "models/board/BoardSpeech.h"
+#include "models/board/KeyFaces.h"
 #include "platform/Fonts.h"
+#include "round/Round.h"
 #include "windows/QtColour.h"
 #include "windows/board/BoardAccessible.h"
 #include "windows/board/KeyboardAccessible.h"
@@ -24,8 +25,9 @@ constexpr double kWideKeyFontPoints = 10;
 
 } // namespace
 
-KeyboardView::KeyboardView(BoardModel& model, std::function<void()> changed, QWidget* parent)
-    : QWidget(parent), m_model(model), m_changed(std::move(changed)),
+KeyboardView::KeyboardView(const Round& round, KeyFaces& faces, std::function<void()> changed,
+                           QWidget* parent)
+    : QWidget(parent), m_round(round), m_mouse(faces), m_changed(std::move(changed)),
       m_keyFont(Fonts::display(kKeyFontPoints)), m_wideKeyFont(Fonts::display(kWideKeyFontPoints)) {
     setMouseTracking(true);
     setGeometry(px(kLeftTwips), px(kTopTwips), px(kWidthTwips), px(kHeightTwips));
@@ -33,29 +35,29 @@ KeyboardView::KeyboardView(BoardModel& model, std::function<void()> changed, QWi
 }
 
 bool KeyboardView::keyUsable(int key) const {
-    const Round& round = m_model.round();
+    const Round& round = m_round;
     const char32_t letter = keyLetter(key);
     return round.inPlay() && (letter == 0 || !round.board().alreadyTried(letter));
 }
 
 void KeyboardView::press(int key) {
-    m_model.pressKey(key);
-    m_model.releaseMouse(key);
-    m_model.leaveKeys();
+    m_mouse.press(key);
+    m_mouse.release(key);
+    m_mouse.leave();
     m_changed();
 }
 
 KeyboardView::Face KeyboardView::faceOf(int key) const {
-    const Round& round = m_model.round();
+    const Round& round = m_round;
     const char32_t letter = keyLetter(key);
     return Face{keyShown(key), keyUsable(key), letter != 0 && round.board().alreadyTried(letter),
-                m_model.keyFace(key),
+                m_mouse.face(key),
                 key == kWriteKey ? round.writeKeyCaption() : std::u32string(keyCaption(key))};
 }
 
 void KeyboardView::sync() {
     // The digit panel coming or going changes the ground under the keys.
-    const bool digits = m_model.round().digitPanelVisible();
+    const bool digits = m_round.digitPanelVisible();
     if (digits != m_digitsShown) {
         m_digitsShown = digits;
         update();
@@ -68,8 +70,8 @@ void KeyboardView::sync() {
             continue;
         }
         update(keyRect(key));
-        Spoken now{qs(spokenKeyName(m_model.round(), key)),
-                   qs(spokenKeyDescription(m_model.round(), key)), face.shown, face.usable};
+        Spoken now{qs(spokenKeyName(m_round, key)), qs(spokenKeyDescription(m_round, key)),
+                   face.shown, face.usable};
         Spoken& before = m_spoken[index];
         const int child = KeyboardAccessible::childOfKey(key);
         if (now.name != before.name) {
@@ -90,7 +92,7 @@ void KeyboardView::sync() {
 }
 
 bool KeyboardView::keyShown(int key) const {
-    const Round& round = m_model.round();
+    const Round& round = m_round;
     const bool digits = round.digitPanelVisible();
     const KeyPlace place = keyPlace(key);
     if (place.panel == KeyPanel::Digits) {
@@ -138,7 +140,7 @@ void KeyboardView::paintEvent(QPaintEvent* event) {
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
     p.fillRect(event->rect(), qc(kKeyboardPanel));
-    if (m_model.round().digitPanelVisible()) {
+    if (m_round.digitPanelVisible()) {
         p.fillRect(QRect(px(kDigitsLeftTwips - kLeftTwips), 0, px(kDigitsWidthTwips),
                          px(kDigitsHeightTwips)),
                    qc(kKeyboardPanel));
@@ -148,14 +150,14 @@ void KeyboardView::paintEvent(QPaintEvent* event) {
             continue;
         }
         const QRectF r = QRectF(keyRect(key)).adjusted(1.5, 1.5, -1.5, -1.5);
-        const KeyLook look = m_model.keyFace(key);
+        const KeyLook look = m_mouse.face(key);
         p.setPen(Qt::NoPen);
         p.setBrush(qc(look.face));
         p.drawRoundedRect(r, 5, 5);
         p.setFont(key >= 38 ? m_wideKeyFont : m_keyFont);
         p.setPen(qc(look.caption));
         const std::u32string caption =
-            key == kWriteKey ? m_model.round().writeKeyCaption() : std::u32string(keyCaption(key));
+            key == kWriteKey ? m_round.writeKeyCaption() : std::u32string(keyCaption(key));
         p.drawText(r, Qt::AlignCenter, QString::fromStdU32String(caption));
     }
 }
@@ -163,9 +165,9 @@ void KeyboardView::paintEvent(QPaintEvent* event) {
 void KeyboardView::mouseMoveEvent(QMouseEvent* event) {
     const int key = keyAt(event->position().toPoint());
     if (key >= 0) {
-        m_model.hoverKey(key);
+        m_mouse.hover(key);
     } else {
-        m_model.leaveKeys();
+        m_mouse.leave();
     }
     m_changed();
 }
@@ -177,7 +179,7 @@ void KeyboardView::mousePressEvent(QMouseEvent* event) {
     }
     const int key = keyAt(event->position().toPoint());
     if (key >= 0) {
-        m_model.pressKey(key);
+        m_mouse.press(key);
         m_changed();
     }
 }
@@ -187,12 +189,12 @@ void KeyboardView::mouseReleaseEvent(QMouseEvent* event) {
         QWidget::mouseReleaseEvent(event);
         return;
     }
-    m_model.releaseMouse(keyAt(event->position().toPoint()));
+    m_mouse.release(keyAt(event->position().toPoint()));
     m_changed();
 }
 
 void KeyboardView::leaveEvent(QEvent*) {
-    m_model.leaveKeys();
+    m_mouse.leave();
     m_changed();
 }
 

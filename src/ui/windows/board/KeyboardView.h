@@ -16,13 +16,15 @@
 
 namespace quillora {
 
-class BoardModel;
+class KeyFaces;
+class Round;
 
 // The on-screen keyboard and its digit panel. Mouse moves, presses and
 // releases go to the model, which decides the faces and what a click does.
 class KeyboardView final : public QWidget {
 public:
-    KeyboardView(BoardModel& model, std::function<void()> changed, QWidget* parent);
+    KeyboardView(const Round& round, KeyFaces& faces, std::function<void()> changed,
+                 QWidget* parent);
 
     static constexpr int kLeftTwips = 120;
     static constexpr int kTopTwips = 4920;
@@ -40,7 +42,7 @@ public:
     // anything now.
     bool keyShown(int key) const;
     bool keyUsable(int key) const;
-    const BoardModel& model() const { return m_model; }
+    const Round& round() const { return m_round; }
     // A whole click on the key, as a screen reader asks for one.
     void press(int key);
     // Repaints, and tells a screen reader of every key that changed.
@@ -74,7 +76,8 @@ private:
     };
     Face faceOf(int key) const;
 
-    BoardModel& m_model;
+    const Round& m_round;
+    KeyFaces& m_mouse;
     std::function<void()> m_changed;
     std::array<Spoken, kKeyCount> m_spoken{};
     std::array<std::optional<Face>, kKeyCount> m_faces;

@@ -3,8 +3,9 @@
 #include "windows/board/LookUpLabel.h"
 
 #include "look/Twips.h"
-#include "models/board/BoardModel.h"
+#include "models/board/BoardLookUps.h"
 #include "platform/Fonts.h"
+#include "round/Round.h"
 #include "windows/board/BoardAccessible.h"
 
 #include <QMouseEvent>
@@ -15,8 +16,8 @@ namespace {
 constexpr int kLeft = 240, kTop = 4380, kWidth = 2520, kHeight = 360;
 } // namespace
 
-LookUpLabel::LookUpLabel(BoardModel& model, QWidget* board)
-    : QLabel(QStringLiteral("¿Qué es eso?"), board), m_model(model) {
+LookUpLabel::LookUpLabel(const Round& round, BoardLookUps& lookUps, QWidget* board)
+    : QLabel(QStringLiteral("¿Qué es eso?"), board), m_round(round), m_lookUps(lookUps) {
     setGeometry(px(kLeft), px(kTop), px(kWidth), px(kHeight));
     setAlignment(Qt::AlignCenter);
     setFont(Fonts::display(10));
@@ -25,7 +26,7 @@ LookUpLabel::LookUpLabel(BoardModel& model, QWidget* board)
 }
 
 void LookUpLabel::sync() {
-    setVisible(m_model.round().lookUpVisible());
+    setVisible(m_round.lookUpVisible());
 }
 
 void LookUpLabel::paint(const QString& shade) {
@@ -35,7 +36,7 @@ void LookUpLabel::paint(const QString& shade) {
 
 void LookUpLabel::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton) {
-        m_model.lookUpAnswer();
+        m_lookUps.lookUpAnswer();
     }
     event->accept();
 }

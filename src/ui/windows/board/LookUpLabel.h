@@ -6,13 +6,14 @@
 
 namespace quillora {
 
-class BoardModel;
+class BoardLookUps;
+class Round;
 
 // "¿Qué es eso?", under the board once a game is over: a click
 // looks the phrase just played up on the web.
 class LookUpLabel final : public QLabel {
 public:
-    LookUpLabel(BoardModel& model, QWidget* board);
+    LookUpLabel(const Round& round, BoardLookUps& lookUps, QWidget* board);
 
     void sync();
     // Underlined in the shade of the game colour, like a link.
@@ -22,7 +23,8 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
-    BoardModel& m_model;
+    const Round& m_round;
+    BoardLookUps& m_lookUps;
 };
 
 } // namespace quillora

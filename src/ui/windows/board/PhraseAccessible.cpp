@@ -44,7 +44,7 @@ private:
     QString name() const override { return qs(spokenCellName(board().cell(m_part))); }
     QString description() const override { return qs(spokenCellDescription(board(), m_part)); }
     QRect partRect() const override { return m_view->cellRect(m_part); }
-    const PhraseBoard& board() const { return m_view->model().round().board(); }
+    const PhraseBoard& board() const { return m_view->round().board(); }
 };
 
 } // namespace

@@ -3,9 +3,10 @@
 #include "windows/board/PhraseView.h"
 
 #include "look/Twips.h"
-#include "models/board/BoardModel.h"
+#include "models/board/BoardAppearance.h"
 #include "models/board/BoardSpeech.h"
 #include "platform/Fonts.h"
+#include "round/Round.h"
 #include "windows/QtColour.h"
 #include "windows/board/BoardAccessible.h"
 
@@ -24,7 +25,8 @@ constexpr double kCellFontPoints = 20.25;
 
 } // namespace
 
-PhraseView::PhraseView(const BoardModel& model, QWidget* parent) : QWidget(parent), m_model(model) {
+PhraseView::PhraseView(const Round& round, const BoardAppearance& look, QWidget* parent)
+    : QWidget(parent), m_round(round), m_look(look) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAccessibleName(QStringLiteral("Frase"));
     const int width = kColumnPitch * (PhraseBoard::kColumns - 1) + kCellSize;
@@ -47,8 +49,7 @@ QRect PhraseView::cellRect(int cell) const {
 }
 
 PhraseView::Face PhraseView::faceOf(int cell) const {
-    return Face{m_model.round().board().cell(cell), m_model.appearance().cellLook(cell),
-                m_model.appearance().missColour()};
+    return Face{m_round.board().cell(cell), m_look.cellLook(cell), m_look.missColour()};
 }
 
 QRect PhraseView::paintedRect(int cell) const {
@@ -89,8 +90,8 @@ void PhraseView::paintEvent(QPaintEvent* event) {
 
     p.setFont(m_cellFont);
 
-    const PhraseBoard& board = m_model.round().board();
-    const Rgb miss = m_model.appearance().missColour();
+    const PhraseBoard& board = m_round.board();
+    const Rgb miss = m_look.missColour();
     for (int i = 1; i <= PhraseBoard::kCells; ++i) {
         if (!event->rect().intersects(paintedRect(i))) {
             continue;
@@ -99,7 +100,7 @@ void PhraseView::paintEvent(QPaintEvent* event) {
         const int row = (i - 1) / PhraseBoard::kColumns;
         const int column = (i - 1) % PhraseBoard::kColumns;
         const QRectF box(kColumnPitch * column, kRowPitch * row, kCellSize, kCellSize);
-        const CellLook look = m_model.appearance().cellLook(i);
+        const CellLook look = m_look.cellLook(i);
         if (cell.revealed || cell.missed) {
             if (look.filled) {
                 p.fillRect(box, qc(look.background));

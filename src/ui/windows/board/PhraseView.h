@@ -13,19 +13,20 @@
 
 namespace quillora {
 
-class BoardModel;
+class BoardAppearance;
+class Round;
 
 // The 42 letter cells with their underlines, in the letter style in use.
 class PhraseView final : public QWidget {
 public:
-    PhraseView(const BoardModel& model, QWidget* parent);
+    PhraseView(const Round& round, const BoardAppearance& look, QWidget* parent);
 
     static constexpr int kLeftTwips = 3000;
     static constexpr int kTopTwips = 1440;
 
     // The face the cells' letters are painted in.
     const QFont& cellFont() const { return m_cellFont; }
-    const BoardModel& model() const { return m_model; }
+    const Round& round() const { return m_round; }
     // Cell 1..42 in this widget's pixels.
     QRect cellRect(int cell) const;
     // Repaints the cells whose face changed, and tells a screen reader of
@@ -49,7 +50,8 @@ private:
     // The cell with its underline and the edges of its letter.
     QRect paintedRect(int cell) const;
 
-    const BoardModel& m_model;
+    const Round& m_round;
+    const BoardAppearance& m_look;
     QFont m_cellFont = makeCellFont();
     std::array<QString, PhraseBoard::kCells> m_spoken;
     std::array<std::optional<Face>, PhraseBoard::kCells> m_faces;

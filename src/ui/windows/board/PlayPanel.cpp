@@ -3,8 +3,11 @@
 #include "windows/board/PlayPanel.h"
 
 #include "look/Twips.h"
-#include "models/board/BoardModel.h"
+#include "models/board/BoardCommands.h"
 #include "platform/Fonts.h"
+#include "round/Round.h"
+#include "scoring/Points.h"
+#include "state/Settings.h"
 #include "windows/QtColour.h"
 #include "windows/board/BoardAccessible.h"
 
@@ -22,9 +25,11 @@ constexpr int kLeft = 9000, kTop = 3570;
 constexpr int kCompactLeft = 9000, kCompactTop = 352;
 } // namespace
 
-PlayPanel::PlayPanel(BoardModel& model, std::function<void()> changed, std::function<void()> play,
-                     QWidget* board)
-    : QWidget(board), m_model(model), m_changed(std::move(changed)), m_play(std::move(play)) {
+PlayPanel::PlayPanel(const Round& round, const Scoring& scoring, BoardCommands& commands,
+                     const Settings& settings, std::function<void()> changed,
+                     std::function<void()> play, QWidget* board)
+    : QWidget(board), m_round(round), m_scoring(scoring), m_commands(commands),
+      m_settings(settings), m_changed(std::move(changed)), m_play(std::move(play)) {
     setGeometry(px(kLeft), px(kTop), px(kWidth), px(kHeight));
     setAccessibleRole(this, QAccessible::Grouping);
     setAccessibleName(QStringLiteral("JUGAR"));
@@ -52,11 +57,11 @@ void PlayPanel::paint(const QString& buttonStyle, const QString& restoreStyle) {
 }
 
 void PlayPanel::sync() {
-    const bool compact = m_model.compactLayout();
+    const bool compact = m_scoring.compactLayout();
     move(px(compact ? kCompactLeft : kLeft), px(compact ? kCompactTop : kTop));
-    m_gameButton->setText(qs(m_model.round().playCaption()));
-    m_gameButton->setEnabled(m_model.scoring().playEnabled());
-    const bool hidden = m_model.shared().settings.playButtonHidden;
+    m_gameButton->setText(qs(m_round.playCaption()));
+    m_gameButton->setEnabled(m_scoring.playEnabled());
+    const bool hidden = m_settings.playButtonHidden;
     m_gameButton->setVisible(!hidden);
     m_restoreLabel->setVisible(hidden);
     m_restoreLabel->setToolTip(hidden ? QStringLiteral(" Regresar botón JUGAR. ") : QString());
@@ -67,14 +72,14 @@ QMenu* PlayPanel::buildPlayMenu() {
     menu->setAttribute(Qt::WA_DeleteOnClose);
     QAction* autoPhrase = menu->addAction(QStringLiteral("Frase automática"));
     autoPhrase->setCheckable(true);
-    autoPhrase->setChecked(m_model.shared().settings.autoPhrase);
+    autoPhrase->setChecked(m_settings.autoPhrase);
     connect(autoPhrase, &QAction::triggered, this, [this] {
-        m_model.toggleAutoPhrase();
+        m_commands.toggleAutoPhrase();
         m_changed();
     });
     connect(menu->addAction(QStringLiteral("Desaparecer botón")), &QAction::triggered, this,
             [this] {
-                m_model.hidePlayButton(true);
+                m_commands.hidePlayButton(true);
                 m_changed();
             });
     return menu;
@@ -91,7 +96,7 @@ bool PlayPanel::eventFilter(QObject* watched, QEvent* event) {
     }
     if (event->type() == QEvent::MouseButtonRelease &&
         static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
-        m_model.hidePlayButton(false);
+        m_commands.hidePlayButton(false);
         m_changed();
         return true;
     }

@@ -12,13 +12,17 @@ class QPushButton;
 
 namespace quillora {
 
-class BoardModel;
+class BoardCommands;
+class Round;
+class Scoring;
+struct Settings;
 
 // The JUGAR panel: the big button, which reads "NUEVA PARTIDA" once a game
 // is laid, and the label that brings it back after "Desaparecer botón".
 class PlayPanel final : public QWidget {
 public:
-    PlayPanel(BoardModel& model, std::function<void()> changed, std::function<void()> play,
+    PlayPanel(const Round& round, const Scoring& scoring, BoardCommands& commands,
+              const Settings& settings, std::function<void()> changed, std::function<void()> play,
               QWidget* board);
 
     void sync();
@@ -33,7 +37,10 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    BoardModel& m_model;
+    const Round& m_round;
+    const Scoring& m_scoring;
+    BoardCommands& m_commands;
+    const Settings& m_settings;
     std::function<void()> m_changed;
     std::function<void()> m_play;
     QPushButton* m_gameButton = nullptr;

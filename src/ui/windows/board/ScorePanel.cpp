@@ -3,8 +3,11 @@
 #include "windows/board/ScorePanel.h"
 
 #include "look/Twips.h"
-#include "models/board/BoardModel.h"
+#include "models/board/PlayersTurn.h"
+#include "models/board/ScorePulse.h"
+#include "models/board/SidePanels.h"
 #include "platform/Fonts.h"
+#include "scoring/Points.h"
 #include "windows/QtColour.h"
 #include "windows/RoundedLabel.h"
 #include "windows/board/BoardAccessible.h"
@@ -21,9 +24,11 @@ constexpr int kLeft = 120, kTop = 60, kWidth = 2415, kHeight = 720;
 constexpr int kCaptionHeight = 210;
 } // namespace
 
-ScorePanel::ScorePanel(BoardModel& model, std::function<void()> changed,
+ScorePanel::ScorePanel(Scoring& scoring, const ScorePulse& pulse, PlayersTurn& turn,
+                       SidePanels& panels, std::function<void()> changed,
                        std::function<void()> names, QWidget* board)
-    : QWidget(board), m_model(model), m_changed(std::move(changed)), m_names(std::move(names)) {
+    : QWidget(board), m_scoring(scoring), m_pulse(pulse), m_turn(turn), m_panels(panels),
+      m_changed(std::move(changed)), m_names(std::move(names)) {
     setGeometry(px(kLeft), px(kTop), px(kWidth), px(kHeight));
     setAccessibleRole(this, QAccessible::Grouping);
     setAccessibleName(QStringLiteral("Marcador"));
@@ -72,7 +77,7 @@ void ScorePanel::paint(const QColor& scoreColour, const QColor& playerColour) {
 }
 
 void ScorePanel::sync() {
-    const bool points = m_model.scoring().pointsCount();
+    const bool points = m_scoring.pointsCount();
     m_scoreFrame->setVisible(points);
     m_playerFrame->setVisible(!points);
     syncPlayer();
@@ -80,10 +85,10 @@ void ScorePanel::sync() {
 }
 
 void ScorePanel::syncScore() {
-    m_scoreLabel->setText(qs(m_model.scoring().scoreLabel()));
+    m_scoreLabel->setText(qs(m_scoring.scoreLabel()));
     // The pulse recolours the points ten times a second: a palette, not a
     // style sheet, so only the label repaints.
-    const QColor colour = qc(m_model.scorePulse().textColour());
+    const QColor colour = qc(m_pulse.textColour());
     if (m_scoreLabel->palette().color(QPalette::WindowText) != colour) {
         QPalette text = m_scoreLabel->palette();
         text.setColor(QPalette::WindowText, colour);
@@ -92,19 +97,19 @@ void ScorePanel::syncScore() {
 }
 
 void ScorePanel::syncPlayer() {
-    m_player1Label->setText(qs(m_model.playerLabel().caption));
-    m_player1Label->setToolTip(qs(m_model.playerLabel().tooltip));
+    m_player1Label->setText(qs(m_turn.label().caption));
+    m_player1Label->setToolTip(qs(m_turn.label().tooltip));
 }
 
 QMenu* ScorePanel::buildScoreMenu() {
-    if (!m_model.scoring().giftOffered()) {
+    if (!m_scoring.giftOffered()) {
         return nullptr;
     }
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     connect(menu->addAction(QStringLiteral("Pasar puntos a supervivencia")), &QAction::triggered,
             this, [this] {
-                m_model.scoring().startGift();
+                m_scoring.startGift();
                 m_changed();
             });
     return menu;
@@ -115,22 +120,22 @@ QMenu* ScorePanel::buildTurnMenu() {
     menu->setAttribute(Qt::WA_DeleteOnClose);
     QAction* free = menu->addAction(QStringLiteral("Turno libre"));
     free->setCheckable(true);
-    free->setChecked(m_model.freeTurn());
+    free->setChecked(m_turn.freeTurn());
     connect(free, &QAction::triggered, this, [this] {
-        m_model.toggleFreeTurn();
+        m_turn.toggleFreeTurn();
         m_changed();
     });
     menu->addSeparator();
     QAction* forward = menu->addAction(QStringLiteral("Adelantar"));
     QAction* back = menu->addAction(QStringLiteral("Atrasar"));
-    forward->setEnabled(m_model.turnMovesEnabled());
-    back->setEnabled(m_model.turnMovesEnabled());
+    forward->setEnabled(m_turn.movesEnabled());
+    back->setEnabled(m_turn.movesEnabled());
     connect(forward, &QAction::triggered, this, [this] {
-        m_model.moveTurnForward();
+        m_turn.moveForward();
         m_changed();
     });
     connect(back, &QAction::triggered, this, [this] {
-        m_model.moveTurnBack();
+        m_turn.moveBack();
         m_changed();
     });
     return menu;
@@ -138,7 +143,7 @@ QMenu* ScorePanel::buildTurnMenu() {
 
 void ScorePanel::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton) {
-        m_model.closeSidePanels();
+        m_panels.closeAll();
         m_changed();
     }
     event->accept();
@@ -149,7 +154,7 @@ bool ScorePanel::eventFilter(QObject* watched, QEvent* event) {
         return QWidget::eventFilter(watched, event);
     }
     if (event->type() == QEvent::MouseMove || event->type() == QEvent::Enter) {
-        m_model.hoverPlayer();
+        m_turn.hover();
         syncPlayer();
     } else if (event->type() == QEvent::MouseButtonDblClick) {
         m_names();

@@ -14,15 +14,18 @@ class QMenu;
 
 namespace quillora {
 
-class BoardModel;
+class PlayersTurn;
+class ScorePulse;
+class Scoring;
+class SidePanels;
 
 // The top left corner of the board: the points of a player who plays alone,
 // or whose turn it is when friends play.
 class ScorePanel final : public QWidget {
 public:
     // `names` opens the players window (a double click on the player).
-    ScorePanel(BoardModel& model, std::function<void()> changed, std::function<void()> names,
-               QWidget* board);
+    ScorePanel(Scoring& scoring, const ScorePulse& pulse, PlayersTurn& turn, SidePanels& panels,
+               std::function<void()> changed, std::function<void()> names, QWidget* board);
 
     void sync();
     // The score's own sync, for its 1 ms counter.
@@ -46,7 +49,10 @@ protected:
 private:
     void syncPlayer();
 
-    BoardModel& m_model;
+    Scoring& m_scoring;
+    const ScorePulse& m_pulse;
+    PlayersTurn& m_turn;
+    SidePanels& m_panels;
     std::function<void()> m_changed;
     std::function<void()> m_names;
     RoundedLabel* m_scoreFrame = nullptr;

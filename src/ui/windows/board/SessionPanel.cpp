@@ -3,7 +3,8 @@
 #include "windows/board/SessionPanel.h"
 
 #include "look/Twips.h"
-#include "models/board/BoardModel.h"
+#include "models/board/BoardAppearance.h"
+#include "models/board/BoardSessions.h"
 #include "platform/Fonts.h"
 #include "storage/ConfigFile.h"
 #include "windows/QtColour.h"
@@ -47,8 +48,9 @@ public:
 
 } // namespace
 
-SessionPanel::SessionPanel(BoardModel& model, std::function<void()> changed, QWidget* board)
-    : QWidget(board), m_model(model), m_changed(std::move(changed)) {
+SessionPanel::SessionPanel(BoardSessions& sessions, const BoardAppearance& look,
+                           std::function<void()> changed, QWidget* board)
+    : QWidget(board), m_sessions(sessions), m_look(look), m_changed(std::move(changed)) {
     setAttribute(Qt::WA_StyledBackground);
     setObjectName(QStringLiteral("sessionFrame"));
     setFocusPolicy(Qt::StrongFocus);
@@ -69,7 +71,7 @@ SessionPanel::SessionPanel(BoardModel& model, std::function<void()> changed, QWi
         QAction* add = menu.addAction(QStringLiteral("+ Agregar sesión"));
         if (menu.exec(m_userLabel->mapToGlobal(at)) == add) {
             std::string shown;
-            m_model.addSession(m_userBox->text().toStdString(), shown);
+            m_sessions.add(m_userBox->text().toStdString(), shown);
             m_userBox->setText(qs(shown));
             m_changed();
         }
@@ -88,7 +90,7 @@ SessionPanel::SessionPanel(BoardModel& model, std::function<void()> changed, QWi
     m_sessionsList->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_sessionsList->setAccessibleName(QStringLiteral("Sesiones"));
     connect(m_sessionsList, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
-        m_model.switchSession(item->data(Qt::UserRole).toInt());
+        m_sessions.switchTo(item->data(Qt::UserRole).toInt());
         m_changed();
     });
 
@@ -132,24 +134,24 @@ SessionPanel::SessionPanel(BoardModel& model, std::function<void()> changed, QWi
 }
 
 QLineEdit* SessionPanel::activeKeyBox() const {
-    return m_model.panel().secondBoxShown() ? m_key2Box : m_keyBox;
+    return m_sessions.panel().secondBoxShown() ? m_key2Box : m_keyBox;
 }
 
 void SessionPanel::enter() {
-    const SessionPanelModel& panel = m_model.panel();
+    const SessionPanelModel& panel = m_sessions.panel();
     if (panel.wrongShown()) {
         return;
     }
     QLineEdit* box = activeKeyBox();
-    m_model.keyEntered(box->text().toStdString());
+    m_sessions.keyEntered(box->text().toStdString());
     box->clear();
-    if (m_model.panel().wrongShown()) {
+    if (m_sessions.panel().wrongShown()) {
         box->setEchoMode(QLineEdit::Normal);
         box->setStyleSheet(QStringLiteral("color: %1;").arg(css(kRedLamp)));
         box->setText(kWrongText);
         box->end(false);
         QTimer::singleShot(SessionPanelModel::kWrongMs, this, [this, box] {
-            m_model.panel().tickWrong();
+            m_sessions.panel().tickWrong();
             box->clear();
             box->setStyleSheet(QString());
             box->setEchoMode(QLineEdit::Password);
@@ -159,7 +161,7 @@ void SessionPanel::enter() {
 }
 
 void SessionPanel::sync() {
-    const SessionPanelModel& panel = m_model.panel();
+    const SessionPanelModel& panel = m_sessions.panel();
     const int boardWidth = parentWidget()->width();
     setGeometry(0, 0, boardWidth, px(panel.height()));
     setVisible(panel.shown());
@@ -168,7 +170,7 @@ void SessionPanel::sync() {
             "#sessionFrame { background: %1; } QLabel { color: white; }"
             "QListWidget { background: %2; color: white; }"
             "QPushButton { background: %2; color: white; border: none; border-radius: 6px; }")
-            .arg(css(m_model.gameColour()), css(m_model.shade())) +
+            .arg(css(m_look.gameColour()), css(m_look.shade())) +
         focusMarkStyle(QStringLiteral("QLineEdit")) +
         focusMarkStyle(QStringLiteral("QListWidget"), true) +
         focusMarkStyle(QStringLiteral("#sessionFrame"), true));
@@ -176,11 +178,11 @@ void SessionPanel::sync() {
         return;
     }
     raise();
-    m_userLabel->setText(qs(m_model.displayName() + " "));
+    m_userLabel->setText(qs(m_sessions.displayName() + " "));
     m_userBox->setVisible(panel.userBoxShown());
 
     m_sessionsList->clear();
-    for (const auto& entry : m_model.sessionEntries()) {
+    for (const auto& entry : m_sessions.entries()) {
         auto* item = new QListWidgetItem(qs(entry.name + " "), m_sessionsList);
         item->setData(Qt::UserRole, entry.slot);
         item->setSizeHint(QSize(px(5400), px(SessionPanelModel::kEntryHeight)));
@@ -207,12 +209,12 @@ void SessionPanel::sync() {
 bool SessionPanel::eventFilter(QObject* watched, QEvent* event) {
     if (watched == m_userLabel && event->type() == QEvent::MouseButtonPress &&
         static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
-        m_model.toggleSessionList();
+        m_sessions.toggleList();
         m_changed();
         return true;
     }
     if (watched == m_cancelLabel && event->type() == QEvent::MouseButtonRelease) {
-        m_model.panel().close();
+        m_sessions.panel().close();
         m_changed();
         return true;
     }
@@ -227,12 +229,12 @@ bool SessionPanel::eventFilter(QObject* watched, QEvent* event) {
             if (key->key() == Qt::Key_F4) {
                 return false; // the panel and the board deal with it
             }
-            if (m_model.panel().wrongShown()) {
+            if (m_sessions.panel().wrongShown()) {
                 return true;
             }
         }
-        if (m_model.panel().listShown() || m_model.panel().userBoxShown()) {
-            m_model.panel().hideListAndUserBox();
+        if (m_sessions.panel().listShown() || m_sessions.panel().userBoxShown()) {
+            m_sessions.panel().hideListAndUserBox();
             m_changed();
         }
     }
@@ -245,11 +247,11 @@ void SessionPanel::keyPressEvent(QKeyEvent* event) {
         return;
     }
     const QString text = event->text();
-    if (!text.isEmpty() && text.front().isPrint() && m_model.panel().keyFrameShown()) {
+    if (!text.isEmpty() && text.front().isPrint() && m_sessions.panel().keyFrameShown()) {
         QLineEdit* box = activeKeyBox();
         box->setFocus();
         box->insert(text);
-        m_model.panel().hideListAndUserBox();
+        m_sessions.panel().hideListAndUserBox();
         m_changed();
         return;
     }
@@ -278,7 +280,7 @@ void SessionPanel::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) {
         return;
     }
-    m_model.panel().hideListAndUserBox();
+    m_sessions.panel().hideListAndUserBox();
     m_changed();
 }
 

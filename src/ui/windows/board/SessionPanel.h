@@ -13,13 +13,15 @@ class QPushButton;
 
 namespace quillora {
 
-class BoardModel;
+class BoardAppearance;
+class BoardSessions;
 
 // The session panel drawn over the board: the user, the other sessions, and
 // the key that locks the board.
 class SessionPanel final : public QWidget {
 public:
-    SessionPanel(BoardModel& model, std::function<void()> changed, QWidget* board);
+    SessionPanel(BoardSessions& sessions, const BoardAppearance& look,
+                 std::function<void()> changed, QWidget* board);
 
     // Brings the panel in step with the model.
     void sync();
@@ -46,7 +48,8 @@ private:
     QLineEdit* activeKeyBox() const;
     void enter();
 
-    BoardModel& m_model;
+    BoardSessions& m_sessions;
+    const BoardAppearance& m_look;
     std::function<void()> m_changed;
     QLabel* m_userLabel = nullptr;
     QLineEdit* m_userBox = nullptr;

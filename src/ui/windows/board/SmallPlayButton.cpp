@@ -3,8 +3,10 @@
 #include "windows/board/SmallPlayButton.h"
 
 #include "look/Twips.h"
-#include "models/board/BoardModel.h"
 #include "platform/Fonts.h"
+#include "round/Round.h"
+#include "scoring/Points.h"
+#include "state/Settings.h"
 
 namespace quillora {
 
@@ -12,8 +14,11 @@ namespace {
 constexpr int kLeft = 2130, kTop = 3630, kWidth = 780, kHeight = 435;
 } // namespace
 
-SmallPlayButton::SmallPlayButton(BoardModel& model, std::function<void()> play, QWidget* board)
-    : QPushButton(QStringLiteral("JUGAR"), board), m_model(model) {
+SmallPlayButton::SmallPlayButton(const Round& round, const Scoring& scoring,
+                                 const Settings& settings, std::function<void()> play,
+                                 QWidget* board)
+    : QPushButton(QStringLiteral("JUGAR"), board), m_round(round), m_scoring(scoring),
+      m_settings(settings) {
     setGeometry(px(kLeft), px(kTop), px(kWidth), px(kHeight));
     setFont(Fonts::display(5));
     setCursor(Qt::PointingHandCursor);
@@ -22,9 +27,9 @@ SmallPlayButton::SmallPlayButton(BoardModel& model, std::function<void()> play, 
 }
 
 void SmallPlayButton::sync() {
-    setVisible(!m_model.shared().settings.playButtonHidden);
-    setText(QString::fromStdString(m_model.round().playCaption()));
-    setEnabled(m_model.smallPlayEnabled());
+    setVisible(!m_settings.playButtonHidden);
+    setText(QString::fromStdString(m_round.playCaption()));
+    setEnabled(m_scoring.smallPlayEnabled());
 }
 
 void SmallPlayButton::paint(const QString& game, const QString& disabled) {

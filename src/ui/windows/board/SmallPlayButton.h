@@ -8,19 +8,24 @@
 
 namespace quillora {
 
-class BoardModel;
+class Round;
+class Scoring;
+struct Settings;
 
 // The small twin of JUGAR: it plays too, and keys typed on it are
 // guesses; behind a lock it rests.
 class SmallPlayButton final : public QPushButton {
 public:
-    SmallPlayButton(BoardModel& model, std::function<void()> play, QWidget* board);
+    SmallPlayButton(const Round& round, const Scoring& scoring, const Settings& settings,
+                    std::function<void()> play, QWidget* board);
 
     void sync();
     void paint(const QString& game, const QString& disabled);
 
 private:
-    BoardModel& m_model;
+    const Round& m_round;
+    const Scoring& m_scoring;
+    const Settings& m_settings;
 };
 
 } // namespace quillora

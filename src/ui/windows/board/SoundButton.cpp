@@ -3,7 +3,9 @@
 #include "windows/board/SoundButton.h"
 
 #include "look/Twips.h"
-#include "models/board/BoardModel.h"
+#include "models/board/BoardCommands.h"
+#include "models/board/KeyFaces.h"
+#include "state/Settings.h"
 #include "windows/QtColour.h"
 #include "windows/board/BoardAccessible.h"
 
@@ -23,8 +25,10 @@ constexpr Rgb kSpeaker{60, 60, 60};
 
 } // namespace
 
-SoundButton::SoundButton(BoardModel& model, std::function<void()> changed, QWidget* board)
-    : QWidget(board), m_model(model), m_changed(std::move(changed)) {
+SoundButton::SoundButton(BoardCommands& commands, KeyFaces& faces, const Settings& settings,
+                         std::function<void()> changed, QWidget* board)
+    : QWidget(board), m_commands(commands), m_faces(faces), m_settings(settings),
+      m_changed(std::move(changed)) {
     setGeometry(px(kLeft), px(kTop), kPictureWidth + 2 * kMargin, kPictureHeight + 2 * kMargin);
     setCursor(Qt::PointingHandCursor);
     setMouseTracking(true);
@@ -32,7 +36,7 @@ SoundButton::SoundButton(BoardModel& model, std::function<void()> changed, QWidg
 }
 
 void SoundButton::sync() {
-    setToolTip(QString::fromUtf8(m_model.soundButtonTooltip()));
+    setToolTip(QString::fromUtf8(m_commands.soundButtonTooltip()));
     setSpokenName(this, toolTip().trimmed());
     update();
 }
@@ -76,8 +80,7 @@ void SoundButton::paintEvent(QPaintEvent*) {
     p.setPen(qc(kPictureButtonBack));
     p.setBrush(m_pressed ? QBrush(qc(kPictureButtonBack)) : QBrush(Qt::NoBrush));
     p.drawRect(frame);
-    paintPicture(p, QRectF(kMargin, kMargin, kPictureWidth, kPictureHeight),
-                 m_model.shared().settings.sounds);
+    paintPicture(p, QRectF(kMargin, kMargin, kPictureWidth, kPictureHeight), m_settings.sounds);
 }
 
 void SoundButton::mousePressEvent(QMouseEvent* event) {
@@ -96,17 +99,17 @@ void SoundButton::mouseReleaseEvent(QMouseEvent* event) {
     }
     m_pressed = false;
     if (rect().contains(event->position().toPoint())) {
-        m_model.toggleSounds();
+        m_commands.toggleSounds();
     }
     m_changed();
 }
 
 void SoundButton::mouseMoveEvent(QMouseEvent* event) {
     // Passing over the button puts the keyboard's hover faces back.
-    const bool highlighted = m_model.hoveredKey() >= 0 || !m_model.correctionCaption().empty();
+    const bool highlighted = m_faces.hovered() >= 0 || !m_faces.correctionCaption().empty();
     if (!(event->buttons() & Qt::LeftButton) && highlighted) {
-        m_model.restoreFaces();
-        m_model.leaveKeys();
+        m_faces.restore();
+        m_faces.leave();
         m_changed();
     }
 }

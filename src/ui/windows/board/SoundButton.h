@@ -8,13 +8,16 @@
 
 namespace quillora {
 
-class BoardModel;
+class BoardCommands;
+class KeyFaces;
+struct Settings;
 
 // The sound button: a loudspeaker that
 // sounds or is crossed out, drawn as lines so it stays sharp on any screen.
 class SoundButton final : public QWidget {
 public:
-    SoundButton(BoardModel& model, std::function<void()> changed, QWidget* board);
+    SoundButton(BoardCommands& commands, KeyFaces& faces, const Settings& settings,
+                std::function<void()> changed, QWidget* board);
 
     void sync();
     bool pressed() const { return m_pressed; }
@@ -29,7 +32,9 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
 
 private:
-    BoardModel& m_model;
+    BoardCommands& m_commands;
+    KeyFaces& m_faces;
+    const Settings& m_settings;
     std::function<void()> m_changed;
     bool m_pressed = false;
 };

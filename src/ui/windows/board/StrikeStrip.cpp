@@ -3,9 +3,11 @@
 #include "windows/board/StrikeStrip.h"
 
 #include "look/Twips.h"
-#include "models/board/BoardModel.h"
 #include "models/board/BoardSpeech.h"
+#include "models/board/KeyFaces.h"
+#include "models/board/SidePanels.h"
 #include "platform/Fonts.h"
+#include "round/Round.h"
 #include "windows/QtColour.h"
 #include "windows/RoundedLabel.h"
 #include "windows/board/BoardAccessible.h"
@@ -28,8 +30,10 @@ const std::array<const char*, RoundState::kSlots> kStrikeTips{
 
 } // namespace
 
-StrikeStrip::StrikeStrip(BoardModel& model, std::function<void()> changed, QWidget* board)
-    : QWidget(board), m_model(model), m_changed(std::move(changed)) {
+StrikeStrip::StrikeStrip(Round& round, KeyFaces& faces, SidePanels& panels,
+                         std::function<void()> changed, QWidget* board)
+    : QWidget(board), m_round(round), m_faces(faces), m_panels(panels),
+      m_changed(std::move(changed)) {
     setGeometry(px(kLeft - kMargin), px(kTop - kMargin), px(kPitch * 7 + kWidth + 2 * kMargin),
                 px(kHeight + 2 * kMargin));
     setAccessibleRole(this, QAccessible::Grouping);
@@ -79,21 +83,21 @@ void StrikeStrip::paintEvent(QPaintEvent*) {
 }
 
 void StrikeStrip::sync() {
-    const RoundState& state = m_model.round().state();
+    const RoundState& state = m_round.state();
     for (int slot = 1; slot <= RoundState::kSlots; ++slot) {
         strikeLabel(slot)->setText(qs(state.slot(slot)));
         setSpokenName(strikeLabel(slot), qs(spokenStrikeMark(state, slot)));
     }
     setSpokenName(this, qs(spokenStrikes(state)));
-    m_correctionLabel->setText(qs(m_model.correctionCaption()));
-    m_correctionLabel->setToolTip(qs(m_model.correctionTooltip()));
-    setAccessibleUnavailable(m_correctionLabel, !m_model.round().correctionOffered());
+    m_correctionLabel->setText(qs(m_faces.correctionCaption()));
+    m_correctionLabel->setToolTip(qs(m_faces.correctionTooltip()));
+    setAccessibleUnavailable(m_correctionLabel, !m_round.correctionOffered());
     m_correctionLabel->raise();
 }
 
 void StrikeStrip::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton) {
-        m_model.closeSidePanels();
+        m_panels.closeAll();
         m_changed();
     }
     event->accept();
@@ -106,7 +110,7 @@ bool StrikeStrip::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
     case QEvent::Enter:
     case QEvent::MouseMove:
-        m_model.hoverCorrection();
+        m_faces.hoverCorrection();
         sync();
         return false;
     case QEvent::MouseButtonPress:
@@ -114,8 +118,8 @@ bool StrikeStrip::eventFilter(QObject* watched, QEvent* event) {
         // its background.
         return true;
     case QEvent::MouseButtonRelease:
-        m_model.round().takeBackStrike();
-        m_model.restoreFaces();
+        m_round.takeBackStrike();
+        m_faces.restore();
         m_changed();
         return true;
     default:

@@ -16,13 +16,16 @@ class QColor;
 
 namespace quillora {
 
-class BoardModel;
+class KeyFaces;
+class Round;
+class SidePanels;
 
 // The eight strike marks under the phrase, and over the eighth the label
 // that offers to take a strike back.
 class StrikeStrip final : public QWidget {
 public:
-    StrikeStrip(BoardModel& model, std::function<void()> changed, QWidget* board);
+    StrikeStrip(Round& round, KeyFaces& faces, SidePanels& panels, std::function<void()> changed,
+                QWidget* board);
 
     void sync();
     // The strip's lines and marks take the lamp of the moment.
@@ -41,7 +44,9 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    BoardModel& m_model;
+    Round& m_round;
+    KeyFaces& m_faces;
+    SidePanels& m_panels;
     std::function<void()> m_changed;
     std::array<RoundedLabel*, RoundState::kSlots> m_strikeLabel{};
     QColor m_lines;

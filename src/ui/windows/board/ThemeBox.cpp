@@ -3,8 +3,11 @@
 #include "windows/board/ThemeBox.h"
 
 #include "look/Twips.h"
-#include "models/board/BoardModel.h"
+#include "models/board/SidePanels.h"
+#include "models/board/TipModel.h"
 #include "platform/Fonts.h"
+#include "round/Round.h"
+#include "scoring/Points.h"
 #include "windows/QtColour.h"
 #include "windows/board/BoardAccessible.h"
 
@@ -24,8 +27,10 @@ constexpr double kThemePoints = 11;
 constexpr int kSmallestPixels = 8;
 } // namespace
 
-ThemeBox::ThemeBox(BoardModel& model, std::function<void()> changed, QWidget* board)
-    : RoundedLabel(board), m_model(model), m_changed(std::move(changed)) {
+ThemeBox::ThemeBox(const Round& round, const Scoring& scoring, SidePanels& panels, TipModel& tip,
+                   std::function<void()> changed, QWidget* board)
+    : RoundedLabel(board), m_round(round), m_scoring(scoring), m_panels(panels), m_tip(tip),
+      m_changed(std::move(changed)) {
     setObjectName(QStringLiteral("shpTheme"));
     setAccessibleRole(this, QAccessible::Grouping);
     setAccessibleName(QStringLiteral("Tema"));
@@ -46,25 +51,25 @@ QMenu* ThemeBox::buildMenu() {
     menu->setAttribute(Qt::WA_DeleteOnClose);
     connect(menu->addAction(QStringLiteral("Temas seleccionados")), &QAction::triggered, this,
             [this] {
-                m_model.openThemesPanel();
+                m_panels.openThemes();
                 m_changed();
             });
     connect(menu->addAction(QStringLiteral("Dame un consejo")), &QAction::triggered, this, [this] {
-        m_model.tip().startTip();
+        m_tip.startTip();
         m_changed();
     });
     return menu;
 }
 
 void ThemeBox::sync() {
-    const bool compact = m_model.compactLayout();
+    const bool compact = m_scoring.compactLayout();
     const int width = compact ? kCompactWidth : kWidth;
     setGeometry(px(compact ? kCompactLeft : kLeft), px(compact ? kCompactTop : kTop), px(width),
                 px(kHeight));
     m_captionLabel->setGeometry(0, 0, px(width), px(kHeight));
     m_themeLabel->setGeometry(px(kLabelMargin), px(kLabelTop), px(width - 2 * kLabelMargin),
                               px(kHeight - kLabelTop - 30));
-    const QString theme = qs(m_model.round().themeLabel());
+    const QString theme = qs(m_round.themeLabel());
     if (theme == m_themeLabel->text() && width == m_fittedWidth) {
         return;
     }

@@ -11,12 +11,16 @@ class QMenu;
 
 namespace quillora {
 
-class BoardModel;
+class Round;
+class Scoring;
+class SidePanels;
+class TipModel;
 
 // The box that names the theme of the game.
 class ThemeBox final : public RoundedLabel {
 public:
-    ThemeBox(BoardModel& model, std::function<void()> changed, QWidget* board);
+    ThemeBox(const Round& round, const Scoring& scoring, SidePanels& panels, TipModel& tip,
+             std::function<void()> changed, QWidget* board);
 
     void sync();
 
@@ -25,7 +29,10 @@ public:
     QMenu* buildMenu();
 
 private:
-    BoardModel& m_model;
+    const Round& m_round;
+    const Scoring& m_scoring;
+    SidePanels& m_panels;
+    TipModel& m_tip;
     std::function<void()> m_changed;
     QLabel* m_captionLabel = nullptr;
     QLabel* m_themeLabel = nullptr;

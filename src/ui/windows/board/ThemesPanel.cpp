@@ -2,27 +2,27 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/board/ThemesPanel.h"
 
-#include "models/board/BoardModel.h"
+#include "models/board/SidePanels.h"
 
 #include <QListWidget>
 
 namespace quillora {
 
-ThemesPanel::ThemesPanel(BoardModel& model, std::function<void()> changed,
+ThemesPanel::ThemesPanel(SidePanels& panels, std::function<void()> changed,
                          std::function<bool(QKeyEvent*)> boardKeys, QWidget* board)
     : SideListPanel(
           QStringLiteral("themesFrame"), QStringLiteral("Temas seleccionados:"),
-          [&model, changed = std::move(changed)] {
-              model.closeSidePanels();
+          [&panels, changed = std::move(changed)] {
+              panels.closeAll();
               changed();
           },
           std::move(boardKeys), board),
-      m_model(model) {
+      m_panels(panels) {
     list()->setSelectionMode(QAbstractItemView::SingleSelection);
 }
 
 void ThemesPanel::sync() {
-    present(m_model.side().showing(SidePanelModel::Content::Themes), m_model.themesPanel().names());
+    present(m_panels.side().showing(SidePanelModel::Content::Themes), m_panels.themes().names());
 }
 
 } // namespace quillora

@@ -6,18 +6,18 @@
 
 namespace quillora {
 
-class BoardModel;
+class SidePanels;
 
 // "Temas seleccionados:": the themes the game draws from now, by name.
 class ThemesPanel final : public SideListPanel {
 public:
-    ThemesPanel(BoardModel& model, std::function<void()> changed,
+    ThemesPanel(SidePanels& panels, std::function<void()> changed,
                 std::function<bool(QKeyEvent*)> boardKeys, QWidget* board);
 
     void sync();
 
 private:
-    const BoardModel& m_model;
+    SidePanels& m_panels;
 };
 
 } // namespace quillora

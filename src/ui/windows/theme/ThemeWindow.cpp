@@ -3,8 +3,9 @@
 #include "windows/theme/ThemeWindow.h"
 
 #include "look/Twips.h"
-#include "models/board/BoardModel.h"
 #include "platform/Fonts.h"
+#include "round/Round.h"
+#include "state/SharedState.h"
 #include "windows/AccessibleControl.h"
 #include "windows/ButtonLike.h"
 #include "windows/FocusRing.h"
@@ -25,9 +26,11 @@ constexpr int kHeightTwips = 2160;
 
 } // namespace
 
-ThemeWindow::ThemeWindow(BoardModel& model, std::function<void()> changed, QWidget* board)
-    : QDialog(board), m_model(model), m_changed(std::move(changed)) {
-    const Palette& palette = model.shared().palette;
+ThemeWindow::ThemeWindow(Round& round, SharedState& shared, Dialogs& dialogs,
+                         std::function<void()> changed, QWidget* board)
+    : QDialog(board), m_round(round), m_shared(shared), m_dialogs(dialogs),
+      m_changed(std::move(changed)) {
+    const Palette& palette = shared.palette;
     setWindowTitle(QStringLiteral("EL TEMA ES:"));
     setModal(true);
     setFixedSize(px(kWidthTwips), px(kHeightTwips));
@@ -84,8 +87,8 @@ ThemeWindow::ThemeWindow(BoardModel& model, std::function<void()> changed, QWidg
     m_okButton->setFocus();
     new FocusRing(this);
 
-    m_model.round().prepareThemeWindow();
-    m_model.round().drawThemeAndPhrase();
+    m_round.prepareThemeWindow();
+    m_round.drawThemeAndPhrase();
     showDraw();
 
     if (board) {
@@ -110,12 +113,12 @@ void ThemeWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 void ThemeWindow::showDraw() {
-    m_themeLabel->setText(qs(m_model.round().themeWindowLabel()));
-    m_wordBox->setText(qs(m_model.round().drawnPhrase()));
+    m_themeLabel->setText(qs(m_round.themeWindowLabel()));
+    m_wordBox->setText(qs(m_round.drawnPhrase()));
 }
 
 void ThemeWindow::acceptPhrase() {
-    m_model.round().layDrawnPhrase();
+    m_round.layDrawnPhrase();
     m_finished = true;
     accept();
     if (m_changed) {
@@ -128,7 +131,7 @@ void ThemeWindow::openThemesList() {
         return;
     }
     m_list = new ThemesListWindow(
-        m_model.shared(), m_model.round(), m_model.dialogs(),
+        m_shared, m_round, m_dialogs,
         [this](ThemesListModel::Outcome outcome) {
             switch (outcome) {
             case ThemesListModel::Outcome::Accepted:

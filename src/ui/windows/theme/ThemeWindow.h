@@ -12,7 +12,9 @@ class QPushButton;
 
 namespace quillora {
 
-class BoardModel;
+class Dialogs;
+class Round;
+struct SharedState;
 class ThemesListWindow;
 
 // "EL TEMA ES:": the player who plays alone sees the theme of the drawn
@@ -21,7 +23,8 @@ class ThemeWindow final : public QDialog {
 public:
     // `changed` runs whenever the board has something new to show: a phrase
     // laid, or a tour started from the themes list.
-    ThemeWindow(BoardModel& model, std::function<void()> changed, QWidget* board);
+    ThemeWindow(Round& round, SharedState& shared, Dialogs& dialogs, std::function<void()> changed,
+                QWidget* board);
 
     QLabel* themeLabel() const { return m_themeLabel; }
     QPushButton* acceptButton() const { return m_okButton; }
@@ -38,7 +41,9 @@ private:
     void showDraw();
     void acceptPhrase();
 
-    BoardModel& m_model;
+    Round& m_round;
+    SharedState& m_shared;
+    Dialogs& m_dialogs;
     std::function<void()> m_changed;
     QLabel* m_themeLabel = nullptr;
     QPushButton* m_otherButton = nullptr;
