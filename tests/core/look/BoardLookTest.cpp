@@ -6,7 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <tuple>
+#include <utility>
 
 namespace quillora {
 namespace {
@@ -82,8 +84,19 @@ TEST(BoardLookTest, LightBlueBehindWhiteLinesOrWhiteLettersOutsideStyleThree) {
 
 TEST(BoardLookTest, LampsMissesAndKeysTakeTheirColours) {
     const Palette palette;
-    EXPECT_EQ(lampColours(Lamp::Yellow, palette).dark, (Rgb{220, 180, 0}));
-    EXPECT_EQ(lampColours(Lamp::Green, palette).dark, (Rgb{0, 130, 0}));
+    // Each lamp flashes its own colour, and its lines take a darker form of it.
+    for (const auto& [lamp, own] :
+         {std::pair{Lamp::Yellow, palette.yellowLamp}, std::pair{Lamp::Green, palette.greenLamp},
+          std::pair{Lamp::Red, palette.redLamp}}) {
+        const LampColours colours = lampColours(lamp, palette);
+        EXPECT_EQ(colours.light, own) << static_cast<int>(lamp);
+        const Rgb& light = colours.light;
+        const Rgb& dark = colours.dark;
+        EXPECT_TRUE(dark.red <= light.red && dark.green <= light.green && dark.blue <= light.blue &&
+                    dark != light)
+            << static_cast<int>(lamp);
+        EXPECT_GE(std::min({dark.red, dark.green, dark.blue}), 0) << static_cast<int>(lamp);
+    }
     EXPECT_EQ(missColour(style(2, false, false, false), palette), kNearWhite);
     EXPECT_EQ(missColour(style(3, false, false, false), palette), kRedLamp);
 

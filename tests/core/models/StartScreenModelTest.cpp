@@ -36,7 +36,6 @@ TEST(StartScreen, TheLineRunsSixtyFiveTicksThenShowsTheMenuOrOffersTheFont) {
     withoutFont.tick();
     EXPECT_EQ(withFont.outcome(), StartScreenModel::Outcome::ShowMenu);
     EXPECT_FALSE(withFont.timerRunning() || withoutFont.timerRunning());
-    EXPECT_EQ(withFont.lineLength(), 65 * 120);
     EXPECT_FALSE(withFont.noticeShown());
     EXPECT_TRUE(withoutFont.noticeShown());
     EXPECT_EQ(withoutFont.outcome(), StartScreenModel::Outcome::Waiting);

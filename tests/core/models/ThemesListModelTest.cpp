@@ -53,9 +53,12 @@ TEST_F(ListModelTest, OnlyTwoOrMoreMarkedThemesShowHighlightedAndAceptarFollowsT
     shared.current().selectedThemes[0] = true;
     open({7});
     EXPECT_FALSE(shared.current().selectedThemes[0]) << "entry 0 is cleared on opening";
-    ASSERT_EQ(list.rows(), 50);
-    EXPECT_EQ(list.names().front(), "ANIMAL");
-    EXPECT_EQ(list.names().back(), std::string(ThemeCatalogue::storedThemeName(50)));
+    ASSERT_EQ(list.rows(), ThemeCatalogue::kThemes);
+    for (int row = 0; row < list.rows(); ++row) {
+        EXPECT_EQ(list.names()[static_cast<std::size_t>(row)],
+                  ThemeCatalogue::storedThemeName(row + 1))
+            << "row " << row << " is theme " << row + 1;
+    }
     EXPECT_EQ(highlightedCount(), 0) << "a single theme is not shown as a choice";
     EXPECT_FALSE(list.acceptEnabled());
 
@@ -126,10 +129,18 @@ TEST_F(ListModelTest, OnlyAPressHeldUntilTheTickAcceptsAndPlays) {
 }
 
 TEST_F(ListModelTest, TheListOpensBesideThePhraseWindowButNotAboveTheScreensTop) {
-    EXPECT_EQ(ThemesListModel::placeLeft(3000), 4440);
-    EXPECT_EQ(ThemesListModel::placeTop(4000), 2080);
-    EXPECT_EQ(ThemesListModel::placeTop(1980), 60);
-    EXPECT_EQ(ThemesListModel::placeTop(500), 60);
+    EXPECT_GT(ThemesListModel::placeLeft(3000), 3000) << "right of the phrase window";
+    // Higher up than the phrase window and moving with it, until the top of
+    // the screen stops it.
+    constexpr int kMinTop = ThemesListModel::kMinTop;
+    for (int top = -300; top <= 6000; top += 15) {
+        const int placed = ThemesListModel::placeTop(top);
+        EXPECT_GE(placed, kMinTop) << top;
+        EXPECT_TRUE(placed < top || placed == kMinTop) << top;
+        const int next = ThemesListModel::placeTop(top + 15);
+        EXPECT_TRUE(next == placed + 15 || next == kMinTop) << top;
+    }
+    EXPECT_GT(ThemesListModel::placeTop(6000), kMinTop) << "a low window is not held back";
 }
 
 // --- the thematic tour --------------------------------------------------------------
@@ -158,7 +169,8 @@ TEST_F(TourTest, ATourWalksEveryThemeInOrderWrapsAndGivesTheSelectionBack) {
     EXPECT_EQ(model.round().autoMarkerCaption(), "T");
     EXPECT_EQ(model.round().autoMarkerTooltip(), " Desactivar el tour temático. ");
     EXPECT_FALSE(shared.current().selectedThemes[5]) << "the tour borrows the table";
-    EXPECT_EQ(model.round().themeLabel(), "ANIMAL") << "the first game starts at once";
+    EXPECT_EQ(model.round().themeLabel(), ThemeCatalogue::storedThemeName(1))
+        << "the first game starts at once";
 
     for (int expected = 1; expected <= 50; ++expected) {
         ASSERT_EQ(model.round().gameTheme(), expected);

@@ -84,13 +84,11 @@ TEST(PlayersTest, TwoPlayersTakeTurnsWriting) {
 TEST(NamesModelTest, ShowsThePlayersRowsAndGoesRoundThemOnEnter) {
     const PlayersModel four(players(4));
     EXPECT_TRUE(four.rowVisible(4) && !four.rowVisible(5));
-    EXPECT_EQ(four.extraHeightTwips(), 1800);
     EXPECT_EQ(four.enter(3).focusBox, 4);
     EXPECT_EQ(four.enter(4).focusBox, 1);
     EXPECT_FALSE(four.enter(4).close);
     const PlayersModel alone(players(1));
     EXPECT_EQ(alone.text(1), "Lucía");
-    EXPECT_EQ(alone.extraHeightTwips(), 0);
     EXPECT_TRUE(alone.enter(1).close);
 }
 

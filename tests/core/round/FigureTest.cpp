@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 namespace quillora {
 namespace {
 
@@ -27,28 +29,56 @@ TEST(FigureTest, ShowsExactlyThePartsOfTheStrikeCount) {
     }
 }
 
-TEST(FigureTest, TheHangedFigureDropsAndMunecoPutsItBack) {
+bool inside(const TwipBox& inner, const TwipBox& outer) {
+    return inner.left >= outer.left && inner.top >= outer.top &&
+           inner.left + inner.width <= outer.left + outer.width &&
+           inner.top + inner.height <= outer.top + outer.height;
+}
+
+TEST(FigureTest, TheHangedFigureDropsThroughTheTrapdoorOnceAndMunecoPutsItBack) {
     Figure figure;
-    const TwipLine leftArm = figure.line(P::LeftArm);
-    const TwipBox head = figure.headBox();
+    figure.draw(7);
+    const Figure standing = figure;
+    const int trapdoorTop = Figure::trapdoorBox().top;
+    for (const P leg : {P::LeftLeg, P::RightLeg}) {
+        EXPECT_EQ(standing.line(leg).y2, trapdoorTop) << "the feet stand on the trapdoor";
+    }
+    EXPECT_TRUE(inside(standing.faceBox(), standing.headBox()));
+
     figure.draw(8);
-    EXPECT_EQ(figure.line(P::Knot), (TwipLine{1740, 2160, 1860, 2160}));
-    EXPECT_EQ(figure.headBox(), (TwipBox{1440, 1560, 735, 615}));
-    EXPECT_EQ(figure.line(P::Body), (TwipLine{1800, 2160, 1800, 3000}));
-    EXPECT_EQ(figure.line(P::LeftArm), (TwipLine{1800, 2160, 1680, 3120}));
-    EXPECT_EQ(figure.line(P::RightArm), (TwipLine{1800, 2160, 1920, 3120}));
-    EXPECT_EQ(figure.line(P::LeftLeg), (TwipLine{1800, 2880, 1680, 4080}));
-    EXPECT_EQ(figure.line(P::RightLeg), (TwipLine{1800, 2880, 1920, 4080}));
-    EXPECT_EQ(figure.faceBox().top, 1740);
+    // Head, knot, body and legs drop together, the body still hanging from
+    // the knot, the feet now below the trapdoor.
+    const int drop = figure.headBox().top - standing.headBox().top;
+    EXPECT_GT(drop, 0);
+    for (const P part : {P::Knot, P::Body, P::LeftLeg, P::RightLeg}) {
+        EXPECT_EQ(figure.line(part).y1 - standing.line(part).y1, drop) << part;
+        EXPECT_EQ(figure.line(part).y2 - standing.line(part).y2, drop) << part;
+    }
+    EXPECT_EQ(figure.line(P::Body).y1, figure.line(P::Knot).y1);
+    EXPECT_GT(figure.line(P::LeftLeg).y2, trapdoorTop);
+    EXPECT_TRUE(inside(figure.faceBox(), figure.headBox()));
+    // The arms hang from the shoulders, closer to the body than before.
+    const int bodyX = figure.line(P::Body).x1;
+    for (const P arm : {P::LeftArm, P::RightArm}) {
+        EXPECT_EQ(figure.line(arm).y1, figure.line(P::Body).y1) << arm;
+        EXPECT_LT(std::abs(figure.line(arm).x2 - bodyX),
+                  std::abs(standing.line(arm).x2 - standing.line(P::Body).x1))
+            << arm;
+    }
 
     // Drawing the death again must not drop the figure a second time.
+    const Figure hanged = figure;
     figure.draw(8);
-    EXPECT_EQ(figure.headBox().top, 1560);
+    EXPECT_EQ(figure.headBox(), hanged.headBox());
+    EXPECT_EQ(figure.faceBox(), hanged.faceBox());
+    EXPECT_EQ(figure.line(P::LeftLeg), hanged.line(P::LeftLeg));
 
     figure.reset();
-    EXPECT_EQ(figure.line(P::LeftArm), leftArm);
-    EXPECT_EQ(figure.headBox(), head);
-    EXPECT_EQ(figure.faceBox(), (TwipBox{1650, 1560, 495, 375}));
+    for (const P part : {P::Knot, P::Body, P::LeftArm, P::RightArm, P::LeftLeg, P::RightLeg}) {
+        EXPECT_EQ(figure.line(part), standing.line(part)) << part;
+    }
+    EXPECT_EQ(figure.headBox(), standing.headBox());
+    EXPECT_EQ(figure.faceBox(), standing.faceBox());
     EXPECT_EQ(figure.faceText(), "- -");
     EXPECT_FALSE(figure.hanging());
     EXPECT_FALSE(figure.visible(P::Head));

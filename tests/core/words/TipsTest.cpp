@@ -10,6 +10,8 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <set>
+#include <string_view>
 
 namespace quillora {
 namespace {
@@ -75,7 +77,12 @@ TEST(Tips, TheNumberIsWorkedOutInSinglePrecision) {
     random.queue({0.0909, -0.5, std::numeric_limits<double>::quiet_NaN(), 0.99999});
     EXPECT_EQ(drawTipNumber(random), 10) << "each 0 is drawn again";
 
-    EXPECT_EQ(tipText(5), "Para jugar sin límites, juegue sin el modo supervivencia.");
+    std::set<std::string_view> drawable;
+    for (int n = 1; n < kTipCount; ++n) {
+        EXPECT_FALSE(tipText(n).empty()) << "tip " << n;
+        drawable.insert(tipText(n));
+    }
+    EXPECT_EQ(drawable.size(), std::size_t{kTipCount - 1}) << "no tip comes under two numbers";
     EXPECT_EQ(tipText(kTipCount), "");
     EXPECT_EQ(tipText(-1), "");
 }

@@ -36,7 +36,7 @@ TEST_F(BoardTips, TheThemeMenuRunsATipThroughTheStripAndAClickPutsItAway) {
     TipStrip* strip = window->tipStrip();
     QLabel* label = strip->tipLabel();
     EXPECT_TRUE(strip->isVisible()) << "an animated board opens with its hint";
-    EXPECT_EQ(label->text(), QStringLiteral("Haz clic derecho para abrir el menú principal."));
+    EXPECT_EQ(label->text(), QString::fromUtf8(TipModel::kStartText));
     EXPECT_FALSE(strip->tipTimer()->isActive()) << "the hint stands still";
 
     random.queue({0.5});

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "players/Players.h"
 #include "support/AccessibleTree.h"
 #include "support/BoardFixture.h"
 #include "support/Draws.h"
@@ -11,6 +12,8 @@
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QListWidget>
+
+#include <vector>
 
 namespace quillora {
 namespace {
@@ -139,6 +142,34 @@ TEST_F(PhraseWindows, TheFriendSeesHisPhraseWhileAScreenReaderHearsAPasswordBox)
     pressKey(Qt::Key_Return);
     EXPECT_EQ(window->themeLabel()->text(), "Frase de Ana");
     EXPECT_EQ(window->statusLabel()->text(), "JUGANDO...");
+}
+
+// However many play, the names window shows one row for each, every row
+// whole inside the window, none over another, and no room for one more.
+TEST(PlayersWindowRows, EachPlayerHasARowInsideTheWindowAndNoneOverlaps) {
+    for (int count = 1; count <= PlayersModel::kRows; ++count) {
+        SCOPED_TRACE(count);
+        SharedState shared;
+        setUpRoster(shared, count > 1, count);
+        PlayersWindow names(shared, [] {});
+        std::vector<QRect> shown;
+        for (int box = 1; box <= PlayersModel::kRows; ++box) {
+            QWidget* row = names.nameBox(box)->parentWidget();
+            if (!row->isVisibleTo(&names)) {
+                EXPECT_GT(box, count);
+                EXPECT_FALSE(names.rect().contains(row->geometry())) << "room left for row " << box;
+                continue;
+            }
+            EXPECT_TRUE(names.rect().contains(row->geometry())) << "row " << box;
+            EXPECT_TRUE(row->rect().contains(names.nameBox(box)->geometry())) << "row " << box;
+            EXPECT_TRUE(row->rect().contains(names.checkBox(box)->geometry())) << "row " << box;
+            for (const QRect& other : shown) {
+                EXPECT_FALSE(other.intersects(row->geometry())) << "row " << box;
+            }
+            shown.push_back(row->geometry());
+        }
+        EXPECT_EQ(shown.size(), static_cast<std::size_t>(count));
+    }
 }
 
 } // namespace
