@@ -5,7 +5,19 @@
 #include "models/start/StartScreenModel.h"
 #include "support/Fakes.h"
 #include "support/TempFolder.h"
+#include "windows/RoundedLabel.h"
+#include "windows/board/AgainLabels.h"
+#include "windows/board/AnswerPanel.h"
+#include "windows/board/AutoMarker.h"
+#include "windows/board/BackgroundView.h"
+#include "windows/board/BoardControls.h"
 #include "windows/board/BoardWindow.h"
+#include "windows/board/CountdownLabel.h"
+#include "windows/board/PlayPanel.h"
+#include "windows/board/ScorePanel.h"
+#include "windows/board/SmallPlayButton.h"
+#include "windows/board/StrikeStrip.h"
+#include "windows/board/ThemeBox.h"
 #include "windows/theme/ThemeWindow.h"
 
 #include <QDragEnterEvent>
@@ -97,7 +109,7 @@ protected:
     }
     // Windows closed with WA_DeleteOnClose are gone once their deletion runs.
     static void settle() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
-    QString strike(int slot) const { return window->strikeLabel(slot)->text(); }
+    QString strike(int slot) const { return window->controls().strikes->strikeLabel(slot)->text(); }
 
     TempFolder temp{"quillora-board"};
     const fs::path& folder = temp.path();

@@ -29,10 +29,10 @@ QString name(QAccessibleInterface* item) {
     return item ? item->text(QAccessible::Name) : QStringLiteral("<none>");
 }
 QAccessibleInterface* cell(BoardWindow& board, int index) {
-    return access(board.phraseView())->child(index - 1);
+    return access(board.controls().phrase)->child(index - 1);
 }
 QAccessibleInterface* key(BoardWindow& board, int index) {
-    return access(board.keyboard())->child(KeyboardAccessible::childOfKey(index));
+    return access(board.controls().keyboard)->child(KeyboardAccessible::childOfKey(index));
 }
 
 // Every interface under every window of the program, depth first.
@@ -66,7 +66,7 @@ QStringList textsOf(QAccessibleInterface* item) {
 TEST_F(BoardAccess, CellsKeysAndStrikesReadWhatTheBoardShows) {
     startVaca();
     openKeyboard();
-    QAccessibleInterface* phrase = access(window->phraseView());
+    QAccessibleInterface* phrase = access(window->controls().phrase);
     ASSERT_EQ(phrase->role(), QAccessible::Table);
     ASSERT_EQ(phrase->childCount(), 42);
     ASSERT_EQ(phrase->tableInterface()->cellAt(0, 1), cell(*window, 2));
@@ -86,11 +86,12 @@ TEST_F(BoardAccess, CellsKeysAndStrikesReadWhatTheBoardShows) {
     EXPECT_EQ(key(*window, 1)->text(QAccessible::Description), "probada: acierto");
     EXPECT_TRUE(key(*window, 1)->state().invisible) << "the board hides a tried key";
     EXPECT_EQ(key(*window, 25)->text(QAccessible::Description), "probada: fallo");
-    EXPECT_EQ(name(access(window->counterLabel())), "Letras reveladas: 2 de 4");
-    EXPECT_EQ(name(access(window->strikeLabel(1)->parentWidget())), "Strikes: 1 de 8");
-    EXPECT_EQ(name(access(window->strikeLabel(1))), "X");
-    EXPECT_EQ(name(access(window->strikeLabel(2))), QStringLiteral("vacío"));
-    EXPECT_EQ(window->statusLabel()->accessibleName(), "JUGANDO") << "no dots to announce";
+    EXPECT_EQ(name(access(window->controls().counterLabel)), "Letras reveladas: 2 de 4");
+    EXPECT_EQ(name(access(window->controls().strikes->strikeLabel(1)->parentWidget())),
+              "Strikes: 1 de 8");
+    EXPECT_EQ(name(access(window->controls().strikes->strikeLabel(1))), "X");
+    EXPECT_EQ(name(access(window->controls().strikes->strikeLabel(2))), QStringLiteral("vacío"));
+    EXPECT_EQ(window->controls().statusLabel->accessibleName(), "JUGANDO") << "no dots to announce";
 }
 
 TEST_F(BoardAccess, NoTextOfAnyWindowGivesTheHiddenPhraseAwayUntilTheGameEnds) {
@@ -116,14 +117,15 @@ TEST_F(BoardAccess, NoTextOfAnyWindowGivesTheHiddenPhraseAwayUntilTheGameEnds) {
     EXPECT_EQ(cells, 42) << "the walk reaches the phrase";
 
     type("bdefg");
-    ASSERT_EQ(window->statusLabel()->text(), QStringLiteral("¡MUERTO!"));
+    ASSERT_EQ(window->controls().statusLabel->text(), QStringLiteral("¡MUERTO!"));
     QStringList read;
     for (int i = 1; i <= 4; ++i) {
         read << name(cell(*window, i));
     }
     EXPECT_EQ(read.join(""), "VACA");
     EXPECT_EQ(cell(*window, 1)->text(QAccessible::Description), "fila 1, columna 1, no adivinada");
-    EXPECT_EQ(name(access(window->strikeLabel(1)->parentWidget())), "Strikes: 8 de 8");
+    EXPECT_EQ(name(access(window->controls().strikes->strikeLabel(1)->parentWidget())),
+              "Strikes: 8 de 8");
 }
 
 TEST_F(BoardAccess, TheKeyboardReachesTheMenuAndEveryFocusedControlShowsAMark) {
@@ -142,7 +144,7 @@ TEST_F(BoardAccess, TheKeyboardReachesTheMenuAndEveryFocusedControlShowsAMark) {
     startVaca();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     type("!");
-    QLineEdit* box = window->answerBox();
+    QLineEdit* box = window->controls().answerPanel->answerBox();
     ASSERT_TRUE(box->hasFocus());
     EXPECT_LT(edge(box), 60);
     window->setFocus();
@@ -150,7 +152,7 @@ TEST_F(BoardAccess, TheKeyboardReachesTheMenuAndEveryFocusedControlShowsAMark) {
     type("!");
 
     QTest::keyClick(window.get(), Qt::Key_H, Qt::ControlModifier);
-    QListWidget* history = window->historyPanel()->list();
+    QListWidget* history = window->controls().historyPanel->list();
     ASSERT_TRUE(history->hasFocus());
     EXPECT_LT(edge(history), 60);
     QTest::keyClick(history, Qt::Key_Escape);
@@ -163,12 +165,12 @@ TEST_F(BoardAccess, TheKeyboardReachesTheMenuAndEveryFocusedControlShowsAMark) {
         window->model().sessions().panel().tick();
     }
     window->sync();
-    QLineEdit* key = window->sessionPanel()->keyBox();
+    QLineEdit* key = window->controls().sessionPanel->keyBox();
     ASSERT_TRUE(key->hasFocus());
     EXPECT_LT(edge(key), 60);
     for (int tab = 0; tab < 3; ++tab) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        EXPECT_TRUE(window->sessionPanel()->isAncestorOf(QApplication::focusWidget()))
+        EXPECT_TRUE(window->controls().sessionPanel->isAncestorOf(QApplication::focusWidget()))
             << QApplication::focusWidget()->metaObject()->className();
     }
 }

@@ -45,7 +45,7 @@ protected:
 };
 
 TEST_F(BoardLooks, TheButtonTheMenuAndCtrlSEachToggleSoundsAndRewriteTheFile) {
-    SoundButton* button = window->soundButton();
+    SoundButton* button = window->controls().soundButton;
     const bool on = shared.settings.sounds;
     EXPECT_EQ(button->toolTip(), on ? " Ocultar Sonidos " : " Mostrar Sonidos ");
     EXPECT_EQ(soundsEntryChecked(), on);
@@ -97,7 +97,7 @@ TEST_F(BoardLooks, TheSoundTimerPlaysWhatTheGameAsksAndTheScoreWaitsForTheOpenin
 TEST_F(BoardLooks, TheStoredPictureFillsTheBoardStretchedOrAtItsRealSize) {
     const fs::path red = picture("fondo.png", QSize(40, 30), Qt::red);
     openWithPicture(red, false);
-    const BackgroundPicture& shown = window->backgroundPicture();
+    const BackgroundPicture& shown = window->controls().background->picture();
     ASSERT_TRUE(shown.shown());
     // Stretched over the whole board but its keyboard.
     const QSize board(px(BoardModel::kWidthTwips), px(BoardModel::kBaseHeightTwips));
@@ -106,21 +106,22 @@ TEST_F(BoardLooks, TheStoredPictureFillsTheBoardStretchedOrAtItsRealSize) {
         << "the picture is painted behind the board";
 
     openWithPicture(red, true);
-    EXPECT_EQ(window->backgroundPicture().pixmap().size(), QSize(40, 30));
+    EXPECT_EQ(window->controls().background->picture().pixmap().size(), QSize(40, 30));
 
     // A dropped picture shows at once; the stored one stays stored.
     const fs::path blue = picture("mar.bmp", QSize(8, 8), Qt::blue);
     ASSERT_TRUE(drop(blue));
-    EXPECT_EQ(window->backgroundPicture().pixmap().toImage().pixelColor(0, 0), QColor(Qt::blue));
+    EXPECT_EQ(window->controls().background->picture().pixmap().toImage().pixelColor(0, 0),
+              QColor(Qt::blue));
     EXPECT_EQ(shared.settings.backgroundPicture, red.string());
 
     // Anything that is not a picture leaves the board plain, and says nothing.
     std::ofstream(folder / "roto.jpg", std::ios::binary) << "no soy una foto";
     const std::size_t boxes = dialogs.shown.size();
     openWithPicture(folder / "roto.jpg", false);
-    EXPECT_FALSE(window->backgroundPicture().shown());
+    EXPECT_FALSE(window->controls().background->picture().shown());
     openWithPicture(folder / "no-existe.png", false);
-    EXPECT_FALSE(window->backgroundPicture().shown());
+    EXPECT_FALSE(window->controls().background->picture().shown());
     EXPECT_EQ(dialogs.shown.size(), boxes);
     EXPECT_EQ(window->windowTitle(), "Quillora Vesta | Puntos");
 }

@@ -34,18 +34,19 @@ void commit(QWidget* box, const QString& text) {
 }
 
 TEST_F(BoardPanels, TheRestoreLabelBringsJugarBackAndStartsNothing) {
-    QMenu* menu = window->buildPlayMenu();
+    QMenu* menu = window->controls().playPanel->buildPlayMenu();
     menu->actions().at(1)->trigger(); // "Desaparecer botón"
     delete menu;
-    ASSERT_TRUE(window->restoreLabel()->isVisible());
-    EXPECT_EQ(window->restoreLabel()->toolTip(), QStringLiteral(" Regresar botón JUGAR. "));
+    ASSERT_TRUE(window->controls().playPanel->restoreLabel()->isVisible());
+    EXPECT_EQ(window->controls().playPanel->restoreLabel()->toolTip(),
+              QStringLiteral(" Regresar botón JUGAR. "));
 
-    QTest::mouseClick(window->restoreLabel(), Qt::LeftButton);
-    EXPECT_TRUE(window->playButton()->isVisible());
-    EXPECT_TRUE(window->smallPlayButton()->isVisible());
+    QTest::mouseClick(window->controls().playPanel->restoreLabel(), Qt::LeftButton);
+    EXPECT_TRUE(window->controls().playPanel->playButton()->isVisible());
+    EXPECT_TRUE(window->controls().smallPlayButton->isVisible());
     EXPECT_FALSE(shared.settings.playButtonHidden);
     EXPECT_EQ(window->themeWindow(), nullptr) << "the click only restores";
-    EXPECT_EQ(window->statusLabel()->text(), "NUEVA PARTIDA");
+    EXPECT_EQ(window->controls().statusLabel->text(), "NUEVA PARTIDA");
 }
 
 TEST_F(BoardPanels, BehindTheSessionPanelAndTheLockNoShortcutActs) {
@@ -58,7 +59,7 @@ TEST_F(BoardPanels, BehindTheSessionPanelAndTheLockNoShortcutActs) {
     EXPECT_EQ(window->namesWindow(), nullptr);
     EXPECT_EQ(shared.settings.sounds, sounds);
 
-    QLineEdit* key = window->sessionPanel()->keyBox();
+    QLineEdit* key = window->controls().sessionPanel->keyBox();
     key->setFocus();
     QTest::keyClick(key, Qt::Key_Return); // an empty key locks too
     ASSERT_TRUE(shared.locked);
@@ -69,7 +70,7 @@ TEST_F(BoardPanels, BehindTheSessionPanelAndTheLockNoShortcutActs) {
     EXPECT_TRUE(window->model().sessions().panel().shown()) << "F4 does not close a locked panel";
     EXPECT_EQ(window->namesWindow(), nullptr);
     EXPECT_EQ(window->themeWindow(), nullptr);
-    EXPECT_FALSE(window->smallPlayButton()->isEnabled());
+    EXPECT_FALSE(window->controls().smallPlayButton->isEnabled());
 
     // Nor does a user dropped on the board, who would take its place.
     random.queue({0.1});
@@ -83,12 +84,12 @@ TEST_F(BoardPanels, TheBoardsShortcutsComeBeforeTheAnswerBox) {
     startVaca();
     type("z");
     type("!");
-    QLineEdit* box = window->answerBox();
+    QLineEdit* box = window->controls().answerPanel->answerBox();
     ASSERT_TRUE(box->isVisible());
     box->setFocus();
     QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
     EXPECT_TRUE(shared.settings.autoPhrase);
-    EXPECT_TRUE(window->autoMarker()->isVisible());
+    EXPECT_TRUE(window->controls().autoMarker->isVisible());
     dialogs.answer({false});
     QTest::keyClick(box, Qt::Key_Delete);
     ASSERT_FALSE(dialogs.shown.empty());
@@ -104,7 +105,7 @@ TEST_F(BoardPanels, OnlyWhatTheGameAcceptsIsComposed) {
     EXPECT_EQ(strike(1), "");
 
     type("!");
-    QLineEdit* box = window->answerBox();
+    QLineEdit* box = window->controls().answerPanel->answerBox();
     commit(box, QStringLiteral("h\u00FAa"));
     EXPECT_EQ(box->text(), "ha") << "an input method's accents stay out";
     commit(box, QStringLiteral("\u00F1"));
@@ -113,19 +114,19 @@ TEST_F(BoardPanels, OnlyWhatTheGameAcceptsIsComposed) {
 
 TEST_F(BoardPanels, TheSmallJugarReadsNuevaPartidaAndComesBackAfterTheCount) {
     startVaca();
-    EXPECT_EQ(window->smallPlayButton()->text(), "NUEVA PARTIDA");
+    EXPECT_EQ(window->controls().smallPlayButton->text(), "NUEVA PARTIDA");
     type("vac");
     window->model().tickScore();
     window->sync();
-    EXPECT_FALSE(window->smallPlayButton()->isEnabled()) << "not while the points count";
+    EXPECT_FALSE(window->controls().smallPlayButton->isEnabled()) << "not while the points count";
     int ticks = 0;
     while (window->model().scoring().counting() && ticks++ < 1000) {
         window->model().tickScore();
     }
     window->sync();
-    EXPECT_TRUE(window->smallPlayButton()->isEnabled());
-    QTest::mouseClick(window->smallPlayButton(), Qt::LeftButton);
-    EXPECT_EQ(window->smallPlayButton()->text(), "JUGAR");
+    EXPECT_TRUE(window->controls().smallPlayButton->isEnabled());
+    QTest::mouseClick(window->controls().smallPlayButton, Qt::LeftButton);
+    EXPECT_EQ(window->controls().smallPlayButton->text(), "JUGAR");
 }
 
 TEST_F(BoardPanels, ALostGameLeavesItsTitleWhenTheBoardIsCleared) {
@@ -137,23 +138,25 @@ TEST_F(BoardPanels, ALostGameLeavesItsTitleWhenTheBoardIsCleared) {
 }
 
 TEST_F(BoardPanels, WithoutPointsJugarAndTheThemeMoveBesideTheBoard) {
-    const QPoint normal = window->playButton()->mapTo(window.get(), QPoint());
-    const QPoint theme = window->themeLabel()->mapTo(window.get(), QPoint());
+    const QPoint normal = window->controls().playPanel->playButton()->mapTo(window.get(), QPoint());
+    const QPoint theme = window->controls().themeBox->themeLabel()->mapTo(window.get(), QPoint());
     shared.settings.pointsSystem = false;
     SetUpBoardFromFile();
-    EXPECT_LT(window->playButton()->mapTo(window.get(), QPoint()).y(), normal.y());
-    EXPECT_GT(window->themeLabel()->mapTo(window.get(), QPoint()).y(), theme.y());
-    EXPECT_FALSE(window->scoreFrame()->isVisible());
+    EXPECT_LT(window->controls().playPanel->playButton()->mapTo(window.get(), QPoint()).y(),
+              normal.y());
+    EXPECT_GT(window->controls().themeBox->themeLabel()->mapTo(window.get(), QPoint()).y(),
+              theme.y());
+    EXPECT_FALSE(window->controls().scorePanel->scoreFrame()->isVisible());
 }
 
 TEST_F(BoardPanels, EveryReleaseOfTheMouseTakesTheCorrectionOfferAway) {
     startVaca();
     type("z");
-    QTest::mouseMove(window->correctionLabel());
-    ASSERT_EQ(window->correctionLabel()->text(), "<");
-    QTest::mouseClick(window->statusLabel(), Qt::LeftButton);
-    EXPECT_EQ(window->correctionLabel()->text(), "");
-    EXPECT_EQ(window->correctionLabel()->toolTip(), " Octavo Strike. ");
+    QTest::mouseMove(window->controls().strikes->correctionLabel());
+    ASSERT_EQ(window->controls().strikes->correctionLabel()->text(), "<");
+    QTest::mouseClick(window->controls().statusLabel, Qt::LeftButton);
+    EXPECT_EQ(window->controls().strikes->correctionLabel()->text(), "");
+    EXPECT_EQ(window->controls().strikes->correctionLabel()->toolTip(), " Octavo Strike. ");
 }
 
 TEST_F(BoardPanels, MessageBoxesComeUpOverTheBoardAsItStands) {
@@ -162,7 +165,7 @@ TEST_F(BoardPanels, MessageBoxesComeUpOverTheBoardAsItStands) {
     bool sidePanel = false;
     QString slotOne = QStringLiteral("unseen");
     dialogs.onAsk = [&] {
-        sidePanel = window->sidePanel()->isVisible();
+        sidePanel = window->controls().sidePanel->isVisible();
         slotOne = strike(1);
     };
     dialogs.answer({true});
@@ -170,15 +173,15 @@ TEST_F(BoardPanels, MessageBoxesComeUpOverTheBoardAsItStands) {
     ASSERT_EQ(dialogs.shown.size(), 2U);
     EXPECT_EQ(slotOne, "") << "the notice after the correction shows the strike gone";
     EXPECT_TRUE(sidePanel) << "the correction's boxes stand over the empty side panel";
-    EXPECT_FALSE(window->sidePanel()->isVisible());
+    EXPECT_FALSE(window->controls().sidePanel->isVisible());
 }
 
 TEST_F(BoardPanels, EveryTextAndTooltipIsTheGamesOwn) {
-    EXPECT_TRUE(window->themeLabel()->toolTip().isEmpty());
-    EXPECT_TRUE(window->sessionPanel()->userBox()->toolTip().isEmpty());
-    EXPECT_EQ(window->counterLabel()->toolTip(), " Letras reveladas. ");
+    EXPECT_TRUE(window->controls().themeBox->themeLabel()->toolTip().isEmpty());
+    EXPECT_TRUE(window->controls().sessionPanel->userBox()->toolTip().isEmpty());
+    EXPECT_EQ(window->controls().counterLabel->toolTip(), " Letras reveladas. ");
     openKeyboard();
-    KeyboardView* keys = window->keyboard();
+    KeyboardView* keys = window->controls().keyboard;
     auto tipAt = [keys](int key) {
         const QPoint at = keys->keyRect(key).center();
         QHelpEvent help(QEvent::ToolTip, at, keys->mapToGlobal(at));
@@ -188,7 +191,7 @@ TEST_F(BoardPanels, EveryTextAndTooltipIsTheGamesOwn) {
     EXPECT_EQ(tipAt(1), "") << "a letter says nothing";
     EXPECT_EQ(tipAt(kWriteKey), " Escribir respuesta. ");
     EXPECT_EQ(tipAt(kDigitPanelKey), QStringLiteral(" Mostrar números "));
-    const QFont letters = window->phraseView()->cellFont();
+    const QFont letters = window->controls().phrase->cellFont();
     EXPECT_TRUE(letters.bold()) << letters.toString().toStdString();
     EXPECT_EQ(letters.family(), Fonts::displayFamily());
 }
@@ -197,7 +200,7 @@ TEST_F(BoardPanels, EstadisticasUnrollsTheCountsAndEscRollsThemUp) {
     shared.current().stats.countWin(200, 1, false);
     shared.current().stats.countLoss(8, false);
     shared.normalPoints = -800;
-    StatsPanel* panel = window->statsPanel();
+    StatsPanel* panel = window->controls().statsPanel;
     auto settle = [this] {
         while (window->model().panels().stats().animating()) {
             window->model().panels().stats().tick();

@@ -23,17 +23,17 @@ namespace {
 // player does on the window reaches them, and that the window shows the result.
 
 TEST_F(BoardWindowTest, KeysTypedOnTheWindowPlayAGameToItsEnd) {
-    EXPECT_FALSE(window->counterLabel()->isVisible());
+    EXPECT_FALSE(window->controls().counterLabel->isVisible());
 
     startVaca();
-    EXPECT_EQ(window->statusLabel()->text(), "JUGANDO...");
-    EXPECT_EQ(window->playButton()->text(), "NUEVA PARTIDA");
-    EXPECT_EQ(window->themeLabel()->text(), "ANIMAL");
-    EXPECT_TRUE(window->counterLabel()->isVisible());
-    EXPECT_EQ(window->counterLabel()->text(), "0/4");
+    EXPECT_EQ(window->controls().statusLabel->text(), "JUGANDO...");
+    EXPECT_EQ(window->controls().playPanel->playButton()->text(), "NUEVA PARTIDA");
+    EXPECT_EQ(window->controls().themeBox->themeLabel()->text(), "ANIMAL");
+    EXPECT_TRUE(window->controls().counterLabel->isVisible());
+    EXPECT_EQ(window->controls().counterLabel->text(), "0/4");
 
     type("a");
-    EXPECT_EQ(window->counterLabel()->text(), "2/4");
+    EXPECT_EQ(window->controls().counterLabel->text(), "2/4");
     type(QStringLiteral("xñá?"));
     EXPECT_EQ(strike(1), "X");
     EXPECT_EQ(strike(2), QStringLiteral("Ñ"));
@@ -41,8 +41,8 @@ TEST_F(BoardWindowTest, KeysTypedOnTheWindowPlayAGameToItsEnd) {
 
     type("bdefghk");
     EXPECT_EQ(strike(8), "H");
-    EXPECT_EQ(window->statusLabel()->text(), QStringLiteral("¡MUERTO!"));
-    EXPECT_FALSE(window->counterLabel()->isVisible());
+    EXPECT_EQ(window->controls().statusLabel->text(), QStringLiteral("¡MUERTO!"));
+    EXPECT_FALSE(window->controls().counterLabel->isVisible());
     EXPECT_EQ(window->model().round().board().triedLetters(), U"AXÑBDEFGH") << "K came too late";
     EXPECT_TRUE(dialogs.shown.empty());
 }
@@ -65,8 +65,8 @@ protected:
 TEST_F(BoardWindowTest, ALetterRepaintsOnlyItsCellsAndItsKey) {
     startVaca();
     openKeyboard();
-    PaintedRegion phrase(window->phraseView());
-    PaintedRegion keys(window->keyboard());
+    PaintedRegion phrase(window->controls().phrase);
+    PaintedRegion keys(window->controls().keyboard);
     // The board as it opened, painted whole once.
     ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
     window->repaint();
@@ -78,14 +78,14 @@ TEST_F(BoardWindowTest, ALetterRepaintsOnlyItsCellsAndItsKey) {
     QRegion found;
     for (int cell = 1; cell <= PhraseBoard::kCells; ++cell) {
         if (window->model().round().board().cell(cell).character == U'A') {
-            found += window->phraseView()->cellRect(cell);
+            found += window->controls().phrase->cellRect(cell);
         }
     }
     ASSERT_FALSE(found.isEmpty());
     EXPECT_TRUE(phrase.region.contains(found.boundingRect())) << "the found letters show";
-    EXPECT_LT(phrase.region.boundingRect().width(), window->phraseView()->width() / 2)
+    EXPECT_LT(phrase.region.boundingRect().width(), window->controls().phrase->width() / 2)
         << "the other cells stay as they were";
-    const QRect keyA = window->keyboard()->keyRect(keyIndexOf(U'A'));
+    const QRect keyA = window->controls().keyboard->keyRect(keyIndexOf(U'A'));
     EXPECT_TRUE(keys.region.contains(keyA));
     EXPECT_EQ(keys.region.boundingRect(), keyA) << "no other key is painted";
 }
@@ -98,14 +98,14 @@ TEST_F(BoardWindowTest, ClicksOnTheOnScreenKeyboardGuessAndOpenTheDigits) {
             timer->setInterval(0);
         }
     }
-    KeyboardView* keys = window->keyboard();
+    KeyboardView* keys = window->controls().keyboard;
     ASSERT_TRUE(QTest::qWaitFor([keys] { return keys->isVisible(); }, 5000));
     const auto click = [keys](int key) {
         QTest::mouseClick(keys, Qt::LeftButton, {}, keys->keyRect(key).center());
     };
 
     click(1);
-    EXPECT_EQ(window->counterLabel()->text(), "2/4");
+    EXPECT_EQ(window->controls().counterLabel->text(), "2/4");
     EXPECT_EQ(keys->keyAt(keys->keyRect(1).center()), -1) << "a tried key is hidden";
     click(kDigitPanelKey);
     ASSERT_TRUE(window->model().round().digitPanelVisible());
@@ -118,9 +118,9 @@ TEST_F(BoardWindowTest, ClicksOnTheOnScreenKeyboardGuessAndOpenTheDigits) {
 TEST_F(BoardWindowTest, TheAnswerBoxFiltersItsKeysAndAsksBeforeComparing) {
     startVaca();
     type("!");
-    QLineEdit* box = window->answerBox();
+    QLineEdit* box = window->controls().answerPanel->answerBox();
     ASSERT_TRUE(box->isVisible());
-    EXPECT_FALSE(window->answerOkButton()->isEnabled());
+    EXPECT_FALSE(window->controls().answerPanel->okButton()->isEnabled());
 
     type(QStringLiteral(" @vá"), box);
     EXPECT_EQ(box->text(), "v");
@@ -129,33 +129,33 @@ TEST_F(BoardWindowTest, TheAnswerBoxFiltersItsKeysAndAsksBeforeComparing) {
     QTest::keyClick(box, Qt::Key_Return);
     EXPECT_EQ(dialogs.shown.back().text, "¿Está seguro?, morirá si se equivoca.");
     EXPECT_FALSE(box->isVisible());
-    EXPECT_EQ(window->statusLabel()->text(), QStringLiteral("¡VICTORIA!"));
+    EXPECT_EQ(window->controls().statusLabel->text(), QStringLiteral("¡VICTORIA!"));
 }
 
 TEST_F(BoardWindowTest, JugarAsksBeforeLeavingAGameUnderWay) {
     startVaca();
     dialogs.answer({false, true});
-    QTest::mouseClick(window->playButton(), Qt::LeftButton);
-    EXPECT_EQ(window->statusLabel()->text(), "JUGANDO...");
-    QTest::mouseClick(window->playButton(), Qt::LeftButton);
-    EXPECT_EQ(window->statusLabel()->text(), "NUEVA PARTIDA");
-    EXPECT_EQ(window->playButton()->text(), "JUGAR");
+    QTest::mouseClick(window->controls().playPanel->playButton(), Qt::LeftButton);
+    EXPECT_EQ(window->controls().statusLabel->text(), "JUGANDO...");
+    QTest::mouseClick(window->controls().playPanel->playButton(), Qt::LeftButton);
+    EXPECT_EQ(window->controls().statusLabel->text(), "NUEVA PARTIDA");
+    EXPECT_EQ(window->controls().playPanel->playButton()->text(), "JUGAR");
     EXPECT_EQ(dialogs.shown.back().text, "¿Seguro de salirse de la partida?");
 }
 
 TEST_F(BoardWindowTest, AWinCountsItsPointsUpAndSavesTheOptions) {
-    EXPECT_TRUE(window->scoreFrame()->isVisible());
-    EXPECT_EQ(window->scoreLabel()->text(), "0");
+    EXPECT_TRUE(window->controls().scorePanel->scoreFrame()->isVisible());
+    EXPECT_EQ(window->controls().scorePanel->scoreLabel()->text(), "0");
     startVaca();
     type("vac");
-    EXPECT_EQ(window->statusLabel()->text(), QStringLiteral("¡VICTORIA!"));
+    EXPECT_EQ(window->controls().statusLabel->text(), QStringLiteral("¡VICTORIA!"));
     EXPECT_EQ(window->windowTitle(), "Quillora Vesta | Puntos | +400");
     for (int ticks = 0; window->model().scoring().counting() && ticks < 1000; ++ticks) {
         window->model().tickScore();
     }
     window->sync();
-    EXPECT_EQ(window->scoreLabel()->text(), "400");
-    EXPECT_TRUE(window->playButton()->isEnabled());
+    EXPECT_EQ(window->controls().scorePanel->scoreLabel()->text(), "400");
+    EXPECT_TRUE(window->controls().playPanel->playButton()->isEnabled());
     const auto saved = readConfigLines(shared.currentSession().filePath);
     ASSERT_TRUE(saved) << "the end of a game writes the options";
     EXPECT_EQ(saved->size(), 20U);
@@ -164,8 +164,8 @@ TEST_F(BoardWindowTest, AWinCountsItsPointsUpAndSavesTheOptions) {
 TEST_F(BoardWindowTest, TheBoardHandsItsPagesAndItsAboutBoxToTheDesktop) {
     startVaca();
     type("vac");
-    ASSERT_TRUE(window->lookUpLabel()->isVisible());
-    QTest::mouseClick(window->lookUpLabel(), Qt::LeftButton);
+    ASSERT_TRUE(window->controls().lookUpLabel->isVisible());
+    QTest::mouseClick(window->controls().lookUpLabel, Qt::LeftButton);
     ASSERT_EQ(desktop.web.opened.size(), 1U);
     EXPECT_EQ(desktop.web.opened[0].rfind("https://www.bing.com/search?q=vaca&qs=n", 0), 0U);
 
@@ -228,15 +228,15 @@ TEST_F(BoardWindowTest, OnlyTheCloseBoxEndsTheGame) {
 }
 
 TEST_F(BoardWindowTest, TheClockShowsOnlyWhileItCountsAndItsTimerFollowsTheModel) {
-    EXPECT_FALSE(window->timeLabel()->isVisible());
+    EXPECT_FALSE(window->controls().timeLabel->isVisible());
     shared.settings.countdown = 2;
     SetUpBoardFromFile();
-    EXPECT_EQ(window->timeLabel()->toolTip(),
+    EXPECT_EQ(window->controls().timeLabel->toolTip(),
               QStringLiteral(" Segundos para que se acabe la partida del juego. "));
     EXPECT_FALSE(window->countdownTimer()->isActive());
     startVaca();
-    EXPECT_TRUE(window->timeLabel()->isVisible());
-    EXPECT_EQ(window->timeLabel()->text(), "20");
+    EXPECT_TRUE(window->controls().timeLabel->isVisible());
+    EXPECT_EQ(window->controls().timeLabel->text(), "20");
     EXPECT_EQ(window->countdownTimer()->interval(), 1000);
     ASSERT_TRUE(window->countdownTimer()->isActive());
 
@@ -244,11 +244,11 @@ TEST_F(BoardWindowTest, TheClockShowsOnlyWhileItCountsAndItsTimerFollowsTheModel
     // the label shows what the model counted.
     window->countdownTimer()->setInterval(0);
     QCoreApplication::processEvents();
-    EXPECT_EQ(window->timeLabel()->text(), "19");
+    EXPECT_EQ(window->controls().timeLabel->text(), "19");
 
     type("vac");
-    EXPECT_EQ(window->statusLabel()->text(), QStringLiteral("¡VICTORIA!"));
-    EXPECT_FALSE(window->timeLabel()->isVisible());
+    EXPECT_EQ(window->controls().statusLabel->text(), QStringLiteral("¡VICTORIA!"));
+    EXPECT_FALSE(window->controls().timeLabel->isVisible());
     EXPECT_FALSE(window->countdownTimer()->isActive());
 }
 
@@ -257,9 +257,10 @@ TEST_F(BoardWindowTest, FriendsStartWithTheirNamesThenOneOfThemWritesThePhrase) 
     shared.sessions[0].playerNames = {"Ana", "Beto", "Ciro"};
     SetUpBoard();
     EXPECT_EQ(window->windowTitle(), "Quillora Vesta");
-    EXPECT_FALSE(window->scoreFrame()->isVisible());
-    EXPECT_EQ(window->playerLabel()->text(), "Ana");
-    EXPECT_EQ(window->playerLabel()->toolTip(), " 3 Jugadores están jugando ");
+    EXPECT_FALSE(window->controls().scorePanel->scoreFrame()->isVisible());
+    EXPECT_EQ(window->controls().scorePanel->playerLabel()->text(), "Ana");
+    EXPECT_EQ(window->controls().scorePanel->playerLabel()->toolTip(),
+              " 3 Jugadores están jugando ");
 
     window->openPlayersWindow();
     ASSERT_NE(window->namesWindow(), nullptr);
@@ -274,13 +275,14 @@ TEST_F(BoardWindowTest, FriendsStartWithTheirNamesThenOneOfThemWritesThePhrase) 
     type(QStringLiteral("la casa"), phrase);
     EXPECT_EQ(window->friendWindow()->previewRow(1)->text(), "LA CASA");
     QTest::keyClick(phrase, Qt::Key_Return);
-    EXPECT_EQ(window->themeLabel()->text(), "Frase de Ana");
-    EXPECT_EQ(window->counterLabel()->text(), "0/6");
-    EXPECT_EQ(window->playerLabel()->text(), "Beto") << "Ana wrote it and moved last";
+    EXPECT_EQ(window->controls().themeBox->themeLabel()->text(), "Frase de Ana");
+    EXPECT_EQ(window->controls().counterLabel->text(), "0/6");
+    EXPECT_EQ(window->controls().scorePanel->playerLabel()->text(), "Beto")
+        << "Ana wrote it and moved last";
     type("x");
-    EXPECT_EQ(window->playerLabel()->text(), "Ciro");
+    EXPECT_EQ(window->controls().scorePanel->playerLabel()->text(), "Ciro");
     type("y");
-    EXPECT_EQ(window->playerLabel()->text(), "Beto");
+    EXPECT_EQ(window->controls().scorePanel->playerLabel()->text(), "Beto");
 }
 
 } // namespace

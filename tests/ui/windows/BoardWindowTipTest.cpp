@@ -33,14 +33,14 @@ int whitePixels(const QImage& image) {
 TEST_F(BoardTips, TheThemeMenuRunsATipThroughTheStripAndAClickPutsItAway) {
     shared.settings.animated = true;
     SetUpBoardFromFile();
-    TipStrip* strip = window->tipStrip();
+    TipStrip* strip = window->controls().tipStrip;
     QLabel* label = strip->tipLabel();
     EXPECT_TRUE(strip->isVisible()) << "an animated board opens with its hint";
     EXPECT_EQ(label->text(), QString::fromUtf8(TipModel::kStartText));
     EXPECT_FALSE(strip->tipTimer()->isActive()) << "the hint stands still";
 
     random.queue({0.5});
-    QMenu* menu = window->themeBox()->buildMenu();
+    QMenu* menu = window->controls().themeBox->buildMenu();
     QAction* entry = menu->actions().at(1);
     ASSERT_EQ(entry->text(), QStringLiteral("Dame un consejo"));
     ASSERT_TRUE(entry->isEnabled());

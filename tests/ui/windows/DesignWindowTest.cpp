@@ -112,7 +112,7 @@ protected:
         ASSERT_EQ(list->currentIndex(), row);
     }
     QColor boardPixel() const {
-        return window->backgroundPicture().pixmap().toImage().pixelColor(0, 0);
+        return window->controls().background->picture().pixmap().toImage().pixelColor(0, 0);
     }
     // The colour the player sees under the last file of File1.
     QColor listColour(DesignWindow* design) const {
@@ -151,7 +151,7 @@ TEST_F(DesignWindowTest, TheMenuEntryAndCtrlDOpenOneWindowButNotAfterADeath) {
 
     startVaca();
     type("xbdefghk");
-    ASSERT_EQ(window->statusLabel()->text(), QStringLiteral("¡MUERTO!"));
+    ASSERT_EQ(window->controls().statusLabel->text(), QStringLiteral("¡MUERTO!"));
     QAction* entry = popupEntry(QStringLiteral("Cambiar diseño"));
     ASSERT_NE(entry, nullptr);
     EXPECT_FALSE(entry->isEnabled());
@@ -165,7 +165,7 @@ TEST_F(DesignWindowTest, APictureChosenInTheListShowsOnTheBoardAndIsSaved) {
     picture("notas.txt", Qt::green, "PNG"); // a picture by its bytes, not by its name
     DesignWindow* design = openFromMenu();
     ASSERT_NE(design, nullptr);
-    EXPECT_FALSE(window->backgroundPicture().shown());
+    EXPECT_FALSE(window->controls().background->picture().shown());
     EXPECT_FALSE(design->removeButton()->isVisible()) << "nothing to take away yet";
 
     goTo(design, pictures);
@@ -174,7 +174,7 @@ TEST_F(DesignWindowTest, APictureChosenInTheListShowsOnTheBoardAndIsSaved) {
     EXPECT_EQ(files->rowCount(root), 2) << "only pictures are listed, whatever their case";
 
     pick(design, red);
-    ASSERT_TRUE(window->backgroundPicture().shown());
+    ASSERT_TRUE(window->controls().background->picture().shown());
     EXPECT_EQ(boardPixel(), QColor(Qt::red));
     EXPECT_TRUE(design->preview()->picture().shown());
     EXPECT_TRUE(design->removeButton()->isVisible());
@@ -189,7 +189,7 @@ TEST_F(DesignWindowTest, APictureChosenInTheListShowsOnTheBoardAndIsSaved) {
     EXPECT_EQ(storedLine(1), blue.string());
     EXPECT_EQ(storedLine(2), pictures.string());
     EXPECT_EQ(shared.settings.backgroundPicture, blue.string());
-    EXPECT_TRUE(window->backgroundPicture().shown()) << "the saved picture stays";
+    EXPECT_TRUE(window->controls().background->picture().shown()) << "the saved picture stays";
     EXPECT_TRUE(dialogs.shown.empty());
 }
 
@@ -207,7 +207,7 @@ TEST_F(DesignWindowTest, TheFolderListOpensAFolderAndGoesBackUp) {
     EXPECT_EQ(design->model().folder(), (pictures / "viaje").string());
     waitForListing(design);
     pick(design, beach);
-    EXPECT_TRUE(window->backgroundPicture().shown());
+    EXPECT_TRUE(window->controls().background->picture().shown());
 
     // The folder just left is no picture of the one above.
     open(design, QStringLiteral(".."));
@@ -241,7 +241,7 @@ TEST_F(DesignWindowTest, TheKeysAloneChooseAPictureAndAToggleAndAScreenReaderHea
     }
     QListView* files = design->fileList();
     ASSERT_EQ(QApplication::focusWidget(), files);
-    EXPECT_FALSE(window->backgroundPicture().shown());
+    EXPECT_FALSE(window->controls().background->picture().shown());
     const auto chosen = [&] {
         const QString name = design->folderViews()->fileModel()->fileName(files->currentIndex());
         return pictures / name.toStdString();
@@ -250,7 +250,7 @@ TEST_F(DesignWindowTest, TheKeysAloneChooseAPictureAndAToggleAndAScreenReaderHea
         return QColor(file == red ? Qt::red : Qt::blue);
     };
     pressKey(Qt::Key_Return);
-    ASSERT_TRUE(window->backgroundPicture().shown());
+    ASSERT_TRUE(window->controls().background->picture().shown());
     const fs::path first = chosen();
     EXPECT_EQ(boardPixel(), colourOf(first));
     pressKey(Qt::Key_Down);
@@ -326,7 +326,7 @@ TEST_F(DesignWindowTest, ClosingWithoutSavingPutsTheStoredPictureBack) {
     pick(design, blue);
     EXPECT_EQ(boardPixel(), QColor(Qt::blue));
     QTest::mouseClick(design->removeButton(), Qt::LeftButton);
-    EXPECT_FALSE(window->backgroundPicture().shown());
+    EXPECT_FALSE(window->controls().background->picture().shown());
     EXPECT_FALSE(design->preview()->picture().shown());
 
     QTest::keyClick(design, Qt::Key_Escape);

@@ -80,7 +80,7 @@ TEST_F(PhraseWindows, TheDrawnPhraseIsNeverHeardAndTheThemesAreChosenFromTheKeys
     pressKey(Qt::Key_Return);
     settle();
     EXPECT_EQ(window->themeWindow(), nullptr);
-    EXPECT_EQ(window->statusLabel()->text(), "JUGANDO...");
+    EXPECT_EQ(window->controls().statusLabel->text(), "JUGANDO...");
 }
 
 TEST_F(PhraseWindows, TheFriendSeesHisPhraseWhileAScreenReaderHearsAPasswordBox) {
@@ -140,8 +140,8 @@ TEST_F(PhraseWindows, TheFriendSeesHisPhraseWhileAScreenReaderHearsAPasswordBox)
     pressKey(Qt::Key_Tab);
     ASSERT_EQ(QApplication::focusWidget(), friendWindow->acceptButton());
     pressKey(Qt::Key_Return);
-    EXPECT_EQ(window->themeLabel()->text(), "Frase de Ana");
-    EXPECT_EQ(window->statusLabel()->text(), "JUGANDO...");
+    EXPECT_EQ(window->controls().themeBox->themeLabel()->text(), "Frase de Ana");
+    EXPECT_EQ(window->controls().statusLabel->text(), "JUGANDO...");
 }
 
 // However many play, the names window shows one row for each, every row

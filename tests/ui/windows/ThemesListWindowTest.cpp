@@ -84,8 +84,9 @@ TEST_F(ThemeLists, TheListStepsInForThePhraseWindowAndHandsBackThreeThemes) {
     QTest::mouseClick(words->acceptButton(), Qt::LeftButton);
     settle();
     EXPECT_EQ(window->model().round().gameTheme(), 9);
-    EXPECT_EQ(window->themeLabel()->text(), "????") << "a drawn theme shows only at the end";
-    EXPECT_EQ(window->statusLabel()->text(), "JUGANDO...");
+    EXPECT_EQ(window->controls().themeBox->themeLabel()->text(), "????")
+        << "a drawn theme shows only at the end";
+    EXPECT_EQ(window->controls().statusLabel->text(), "JUGANDO...");
 }
 
 TEST_F(ThemeLists, HoldingTheMouseOnTheListPlaysAndAShortPressOnlySelects) {
@@ -104,7 +105,7 @@ TEST_F(ThemeLists, HoldingTheMouseOnTheListPlaysAndAShortPressOnlySelects) {
     QCoreApplication::processEvents();
     settle();
     EXPECT_EQ(window->themeWindow(), nullptr) << "both windows are gone";
-    EXPECT_EQ(window->statusLabel()->text(), "JUGANDO...");
+    EXPECT_EQ(window->controls().statusLabel->text(), "JUGANDO...");
     EXPECT_EQ(window->model().round().gameTheme(), 7);
     EXPECT_TRUE(shared.current().selectedThemes[3]) << "the short press selected too";
 }
@@ -134,9 +135,10 @@ TEST_F(ThemeLists, ATourStartedFromTheListPlaysTheFirstThemeAtOnce) {
     entryOf(menu, QStringLiteral("Tour temático"))->trigger();
     settle();
     EXPECT_EQ(window->themeWindow(), nullptr);
-    EXPECT_EQ(window->themeLabel()->text(), qs(std::string(ThemeCatalogue::storedThemeName(1))));
-    EXPECT_TRUE(window->autoMarker()->isVisible());
-    EXPECT_EQ(window->autoMarker()->text(), "T");
+    EXPECT_EQ(window->controls().themeBox->themeLabel()->text(),
+              qs(std::string(ThemeCatalogue::storedThemeName(1))));
+    EXPECT_TRUE(window->controls().autoMarker->isVisible());
+    EXPECT_EQ(window->controls().autoMarker->text(), "T");
 }
 
 TEST_F(ThemeLists, TheHistoryListKeepsEnterAndAltBackspaceAndGivesTheBoardTheRest) {
@@ -145,8 +147,8 @@ TEST_F(ThemeLists, TheHistoryListKeepsEnterAndAltBackspaceAndGivesTheBoardTheRes
     SetUpBoard();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     QTest::keyClick(window.get(), Qt::Key_H, Qt::ControlModifier);
-    QListWidget* history = window->historyPanel()->list();
-    ASSERT_TRUE(window->historyPanel()->isVisible());
+    QListWidget* history = window->controls().historyPanel->list();
+    ASSERT_TRUE(window->controls().historyPanel->isVisible());
     EXPECT_EQ(history->count(), 3);
     EXPECT_TRUE(history->hasFocus());
 
@@ -158,7 +160,7 @@ TEST_F(ThemeLists, TheHistoryListKeepsEnterAndAltBackspaceAndGivesTheBoardTheRes
     EXPECT_TRUE(shared.settings.autoPhrase) << "Ctrl+A still works";
 
     history->setCurrentRow(2);
-    QMenu* search = window->historyPanel()->buildSearchMenu();
+    QMenu* search = window->controls().historyPanel->buildSearchMenu();
     ASSERT_NE(search, nullptr);
     EXPECT_EQ(search->title(), "Buscar");
     EXPECT_EQ(window->model().panels().history().lookUpText(), "árbol");
@@ -176,28 +178,28 @@ TEST_F(ThemeLists, TheHistoryListKeepsEnterAndAltBackspaceAndGivesTheBoardTheRes
     EXPECT_EQ(shared.history, "");
 
     QTest::keyClick(history, Qt::Key_H, Qt::ControlModifier);
-    EXPECT_FALSE(window->historyPanel()->isVisible());
+    EXPECT_FALSE(window->controls().historyPanel->isVisible());
     EXPECT_TRUE(window->hasFocus()) << "the board takes the keys back";
 }
 
 TEST_F(ThemeLists, TheChosenThemesPanelOpensFromTheThemeAndEnterPlaysFromIt) {
     shared.current().selectedThemes[3] = shared.current().selectedThemes[44] = true;
-    QMenu* menu = window->themeBox()->buildMenu();
+    QMenu* menu = window->controls().themeBox->buildMenu();
     entryOf(menu, QStringLiteral("Temas seleccionados"))->trigger();
     delete menu;
-    QListWidget* themes = window->themesPanel()->list();
-    ASSERT_TRUE(window->themesPanel()->isVisible());
+    QListWidget* themes = window->controls().themesPanel->list();
+    ASSERT_TRUE(window->controls().themesPanel->isVisible());
     ASSERT_EQ(themes->count(), 2);
     EXPECT_EQ(themes->item(0)->text(), qs(std::string(ThemeCatalogue::storedThemeName(3))));
     EXPECT_TRUE(themes->hasFocus());
 
     QTest::keyClick(window.get(), Qt::Key_H, Qt::ControlModifier);
-    EXPECT_FALSE(window->themesPanel()->isVisible()) << "the history takes its place";
-    EXPECT_TRUE(window->historyPanel()->isVisible());
-    QTest::mouseClick(window->historyPanel()->closeLabel(), Qt::LeftButton);
-    EXPECT_FALSE(window->historyPanel()->isVisible());
+    EXPECT_FALSE(window->controls().themesPanel->isVisible()) << "the history takes its place";
+    EXPECT_TRUE(window->controls().historyPanel->isVisible());
+    QTest::mouseClick(window->controls().historyPanel->closeLabel(), Qt::LeftButton);
+    EXPECT_FALSE(window->controls().historyPanel->isVisible());
 
-    menu = window->themeBox()->buildMenu();
+    menu = window->controls().themeBox->buildMenu();
     entryOf(menu, QStringLiteral("Temas seleccionados"))->trigger();
     delete menu;
     random.queue({theme(3), phrase(2)});

@@ -3,36 +3,20 @@
 #include "windows/board/BoardWindow.h"
 
 #include "look/Twips.h"
-#include "models/board/BoardSpeech.h"
-#include "platform/Fonts.h"
 #include "ports/SoundPlayer.h"
 #include "windows/QtColour.h"
-#include "windows/RoundedLabel.h"
-#include "windows/board/AgainLabels.h"
-#include "windows/board/AnswerPanel.h"
-#include "windows/board/AutoMarker.h"
-#include "windows/board/BackgroundView.h"
 #include "windows/board/BoardAccessible.h"
+#include "windows/board/BoardControls.h"
 #include "windows/board/BoardDrops.h"
 #include "windows/board/BoardKeys.h"
 #include "windows/board/BoardPopup.h"
 #include "windows/board/CountdownLabel.h"
-#include "windows/board/GallowsView.h"
-#include "windows/board/HistoryPanel.h"
 #include "windows/board/KeyboardView.h"
-#include "windows/board/LookUpLabel.h"
 #include "windows/board/PhraseView.h"
-#include "windows/board/PlayPanel.h"
 #include "windows/board/ScorePanel.h"
 #include "windows/board/SessionPanel.h"
-#include "windows/board/SidePanel.h"
-#include "windows/board/SmallPlayButton.h"
-#include "windows/board/SoundButton.h"
 #include "windows/board/StatsPanel.h"
 #include "windows/board/StrikeStrip.h"
-#include "windows/board/ThemeBox.h"
-#include "windows/board/ThemesPanel.h"
-#include "windows/board/TipStrip.h"
 #include "windows/friendPhrase/FriendPhraseWindow.h"
 #include "windows/players/PlayersWindow.h"
 #include "windows/theme/ThemeWindow.h"
@@ -50,13 +34,15 @@ namespace quillora {
 
 namespace {
 
-QRect twipRect(int left, int top, int width, int height) {
-    return QRect(px(left), px(top), px(width), px(height));
+// A timer runs while the model wants it: started or stopped only where that
+// may have changed.
+void follow(QTimer* timer, bool running) {
+    if (running && !timer->isActive()) {
+        timer->start();
+    } else if (!running && timer->isActive()) {
+        timer->stop();
+    }
 }
-
-// Where the board's own controls sit, in twips.
-constexpr int kStatusLeft = 3000, kStatusTop = 300, kStatusWidth = 5040, kStatusHeight = 720;
-constexpr int kCounterLeft = 10200, kCounterTop = 1050, kCounterWidth = 1095, kCounterHeight = 360;
 
 } // namespace
 
@@ -78,7 +64,13 @@ BoardWindow::BoardWindow(SharedState& shared, Dialogs& dialogs, Random& random, 
     m_model.load();
     installBoardAccessibility();
     setAccessibleRole(this, QAccessible::Window);
-    buildControls();
+    m_ui = std::make_unique<BoardControls>(
+        m_model, this,
+        BoardActions{[this] { sync(); }, [this] { playPressed(); },
+                     [this](QKeyEvent* key) { return windowShortcut(key); },
+                     [this](QKeyEvent* key) { return boardKey(key); },
+                     [this] { openPlayersWindow(); }});
+    m_design.keepInSight(m_ui->phrase);
     buildTimers();
     // Every release of the mouse on the board puts the hover faces back. A
     // release goes to the control the press began on, so the board watches
@@ -101,36 +93,36 @@ void BoardWindow::buildTimers() {
     };
     m_statusDotsTimer = timer(BoardModel::kStatusTickMs, [this] {
         m_model.round().tickStatus();
-        m_statusLabel->setText(qs(m_model.round().status()));
+        m_ui->statusLabel->setText(qs(m_model.round().status()));
     });
     m_lampTimer = timer(BoardModel::kLampTickMs, [this] {
         m_model.round().tickLamp();
         // The lamp going out changes the panels' colours and nothing else.
-        paintPanels();
-        syncTimers();
+        m_ui->paint();
+        follow(m_lampTimer, m_model.round().lampTimerRunning());
     });
     m_soundTimer = timer(PendingSound::kTickMs, [this] {
         playSound();
-        syncTimers();
+        follow(m_soundTimer, m_model.round().pendingSound().timerRunning());
     });
     m_countdownTimer = timer(Countdown::kTickMs, [this] {
         m_model.tickCountdown();
         // A second gone changes the clock alone; only time up is news for
         // the whole board.
         if (m_model.round().inPlay()) {
-            m_timeLabel->sync();
-            syncTimers();
+            m_ui->timeLabel->sync();
+            // Ten seconds before the end the clock asks for its warning.
+            follow(m_soundTimer, m_model.round().pendingSound().timerRunning());
         } else {
             sync();
         }
     });
     m_scoreTimer = timer(BoardModel::kScoreTickMs, [this] {
         m_model.tickScore();
-        m_scorePanel->syncScore();
+        m_ui->scorePanel->syncScore();
         if (!m_model.scoring().counting()) {
             sync();
         }
-        syncTimers();
     });
     // The session panel's slide and its list's drop share the 10 ms beat.
     m_sessionSlideTimer = timer(SessionPanelModel::kTickMs, [this] {
@@ -143,8 +135,8 @@ void BoardWindow::buildTimers() {
     });
     m_statsTimer = timer(StatsPanelModel::kTickMs, [this] {
         m_model.panels().stats().tick();
-        m_statsPanel->sync();
-        syncTimers();
+        m_ui->statsPanel->sync();
+        follow(m_statsTimer, m_model.panels().stats().animating());
     });
     m_keyboardOpenTimer = timer(KeyboardSlide::kOpenTickMs, [this] {
         m_model.slide().tickOpen();
@@ -152,14 +144,13 @@ void BoardWindow::buildTimers() {
         // board comes in step once the keyboard is out.
         if (m_model.slide().opening()) {
             fitFrame();
-            syncTimers();
         } else {
             sync();
         }
     });
     m_climbTimer = timer(KeyboardSlide::kOpenTickMs, [this] {
         move(x(), y() - px(m_model.slide().tickClimb()));
-        syncTimers();
+        follow(m_climbTimer, m_model.slide().climbing());
     });
     m_topCheckTimer = timer(KeyboardSlide::kTopCheckTickMs, [this] {
         const int top = px(KeyboardSlide::keepTopOnScreen(y() * kTwipsPerPixel));
@@ -175,11 +166,11 @@ void BoardWindow::buildTimers() {
     m_topCheckTimer->start();
     m_pulseTimer = timer(ScorePulse::kTickMs, [this] {
         m_model.scorePulse().tick();
-        m_scorePanel->syncScore();
+        m_ui->scorePanel->syncScore();
     });
     m_giftTimer = timer(BoardModel::kGiftTickMs, [this] {
         m_model.scoring().tickGift();
-        m_scorePanel->syncScore();
+        m_ui->scorePanel->syncScore();
         if (!m_model.scoring().gifting()) {
             sync();
         }
@@ -194,119 +185,15 @@ void BoardWindow::buildTimers() {
     m_namesTimer->start();
 }
 
-void BoardWindow::buildControls() {
-    auto changed = [this] { sync(); };
-    m_background = new BackgroundView(m_model.appearance(), this);
-    m_gallows = new GallowsView(m_model.round().figure(), this);
-    m_phrase = new PhraseView(m_model.round(), m_model.appearance(), this);
-    m_design.keepInSight(m_phrase);
-    SidePanels& panels = m_model.panels();
-    m_sidePanel = new SidePanel(panels.side(), this);
-    m_statsPanel = new StatsPanel(panels.stats(), changed, this);
-    auto keys = [this](QKeyEvent* key) { return boardKey(key); };
-    m_historyPanel = new HistoryPanel(panels, m_model.lookUps(), changed, keys, this);
-    m_themesPanel = new ThemesPanel(panels, changed, keys, this);
-
-    m_statusLabel = new RoundedLabel(this);
-    m_statusLabel->setGeometry(twipRect(kStatusLeft, kStatusTop, kStatusWidth, kStatusHeight));
-    m_statusLabel->setAlignment(Qt::AlignCenter);
-    m_statusLabel->setFont(Fonts::display(18));
-
-    Round& round = m_model.round();
-    Scoring& scoring = m_model.scoring();
-    m_themeBox = new ThemeBox(round, scoring, panels, m_model.tip(), changed, this);
-
-    m_counterLabel = new QLabel(QStringLiteral("XX/YY"), this);
-    m_counterLabel->setGeometry(twipRect(kCounterLeft, kCounterTop, kCounterWidth, kCounterHeight));
-    m_counterLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    m_counterLabel->setFont(Fonts::display(12));
-    m_counterLabel->setToolTip(QStringLiteral(" Letras reveladas. "));
-    m_counterLabel->installEventFilter(this);
-    m_timeLabel = new CountdownLabel(m_model.countdown(), m_model.appearance(), this);
-
-    m_strikes = new StrikeStrip(round, m_model.keyFaces(), panels, changed, this);
-    m_tipStrip = new TipStrip(m_model.tip(), this);
-    const Settings& settings = m_model.shared().settings;
-    m_playPanel = new PlayPanel(
-        round, scoring, m_model.commands(), settings, changed, [this] { playPressed(); }, this);
-
-    // The small twin of JUGAR: it plays too, and keys typed on it are guesses.
-    m_smallPlayButton = new SmallPlayButton(
-        round, scoring, settings, [this] { playPressed(); }, this);
-
-    m_lookUpLabel = new LookUpLabel(round, m_model.lookUps(), this);
-
-    m_answerPanel = new AnswerPanel(
-        round, changed, [this](QKeyEvent* key) { return windowShortcut(key); }, this);
-    m_keyboard = new KeyboardView(round, m_model.keyFaces(), changed, this);
-    m_scorePanel = new ScorePanel(
-        scoring, m_model.scorePulse(), m_model.turn(), panels, changed,
-        [this] { openPlayersWindow(); }, this);
-
-    m_autoMarker = new AutoMarker(round, changed, this);
-
-    m_soundButton =
-        new SoundButton(m_model.commands(), m_model.keyFaces(), settings, changed, this);
-
-    m_again = new AgainLabels(m_model.survival(), changed, this);
-    m_sessionPanel = new SessionPanel(m_model.sessions(), m_model.appearance(), changed, this);
-}
-
-void BoardWindow::paintPanels() {
-    const BoardAppearance& look = m_model.appearance();
-    const LampColours lamp = look.lampColours(m_model.round().lamp());
-    const Rgb game = look.gameColour();
-    const Rgb shade = look.shade();
-    const Rgb score = m_model.round().deathColours() ? kRedLamp : lamp.light;
-    // Style sheets are costly to apply, and the lamps flash after every
-    // letter: only the panels whose colour changed are painted again.
-    const QString lampKey = css(lamp.light) + css(lamp.dark) + css(score);
-    if (lampKey != property("lampColours").toString()) {
-        setProperty("lampColours", lampKey);
-        paintLampPanels(lamp, score);
-    }
-    const QString gameKey = css(game) + css(m_model.appearance().background());
-    if (gameKey == property("gameColours").toString()) {
-        return;
-    }
-    setProperty("gameColours", gameKey);
-
-    QPalette windowPalette = palette();
-    windowPalette.setColor(QPalette::Window, qc(m_model.appearance().background()));
-    setPalette(windowPalette);
-    m_smallPlayButton->paint(css(game), css(kPictureButtonBack));
-    m_playPanel->paint(QStringLiteral("QPushButton { background: %1; color: white; border: none;"
-                                      " border-radius: %3px; }"
-                                      "QPushButton:hover { background: %2; }"
-                                      "QPushButton:pressed { background: %4; }")
-                           .arg(css(game), css(shade))
-                           .arg(px(120))
-                           .arg(css(kGreenLamp)),
-                       QStringLiteral("QLabel { border: 1px dashed %1; border-radius: 8px; }")
-                           .arg(css(kPictureButtonBack)));
-    m_lookUpLabel->paint(css(shade));
-    m_answerPanel->paint(css(game));
-    m_again->paint(css(game));
-    m_sidePanel->paint(css(game));
-    m_historyPanel->paint(css(game), css(shade));
-    m_themesPanel->paint(css(game), css(shade));
-    m_statsPanel->paint(css(game), css(shade));
-    m_tipStrip->paint(qc(game));
-}
-
-void BoardWindow::paintLampPanels(const LampColours& lamp, Rgb score) {
-    m_statusLabel->setColours(qc(lamp.light), Qt::white);
-    m_themeBox->setColours(qc(lamp.light), Qt::white);
-    QPalette counter = m_counterLabel->palette();
-    counter.setColor(QPalette::WindowText, qc(lamp.dark));
-    m_counterLabel->setPalette(counter);
-    m_strikes->paint(qc(lamp.light), qc(lamp.dark));
-    m_scorePanel->paint(qc(score), qc(lamp.light));
+void BoardWindow::syncView() {
+    m_ui->syncAll();
+    setWindowTitle(qs(m_model.windowTitle()));
+    fitFrame();
 }
 
 void BoardWindow::sync() {
     syncView();
-    syncTimers();
+    followTimers(BoardAreas::everything());
     followRestart();
 }
 
@@ -315,75 +202,8 @@ void BoardWindow::sync(BoardAreas areas) {
         sync();
         return;
     }
-    const Round& round = m_model.round();
-    if (areas.has(BoardArea::Lamps)) {
-        paintPanels();
-    }
-    if (areas.has(BoardArea::Status)) {
-        m_statusLabel->setText(qs(round.status()));
-        setSpokenName(m_statusLabel, qs(spokenStatus(round.status())));
-    }
-    if (areas.has(BoardArea::Cells)) {
-        m_phrase->sync();
-    }
-    if (areas.has(BoardArea::Counter)) {
-        syncCounter();
-    }
-    if (areas.has(BoardArea::Keys)) {
-        m_keyboard->sync();
-    }
-    if (areas.has(BoardArea::Strikes)) {
-        m_strikes->sync();
-    }
-    if (areas.has(BoardArea::Figure)) {
-        m_gallows->sync();
-    }
-    if (areas.has(BoardArea::Turn)) {
-        m_scorePanel->sync();
-    }
-    syncTimers();
-}
-
-void BoardWindow::syncCounter() {
-    const Round& round = m_model.round();
-    m_counterLabel->setText(qs(round.board().counterText()));
-    setSpokenName(m_counterLabel, qs(spokenCounter(round.board())));
-    m_counterLabel->setVisible(round.counterVisible());
-}
-
-void BoardWindow::syncView() {
-    const Round& round = m_model.round();
-    paintPanels();
-
-    m_statusLabel->setText(qs(round.status()));
-    setSpokenName(m_statusLabel, qs(spokenStatus(round.status())));
-    m_themeBox->sync();
-    syncCounter();
-    m_timeLabel->sync();
-    m_lookUpLabel->sync();
-    m_strikes->sync();
-    m_tipStrip->sync();
-    m_playPanel->sync();
-    m_answerPanel->sync();
-    m_scorePanel->sync();
-    m_sidePanel->sync();
-    m_historyPanel->sync();
-    m_themesPanel->sync();
-    m_again->sync();
-    m_statsPanel->sync();
-
-    setWindowTitle(qs(m_model.windowTitle()));
-    m_smallPlayButton->sync();
-    m_autoMarker->sync();
-    m_soundButton->sync();
-    m_background->sync();
-
-    m_keyboard->setVisible(m_model.slide().shown());
-    m_keyboard->sync();
-    m_phrase->sync();
-    m_gallows->sync();
-    fitFrame();
-    m_sessionPanel->sync();
+    m_ui->sync(areas);
+    followTimers(areas);
 }
 
 void BoardWindow::fitFrame() {
@@ -400,7 +220,7 @@ void BoardWindow::fitFrame() {
 }
 
 void BoardWindow::drawNow() {
-    if (!m_statusLabel) {
+    if (!m_ui) {
         return; // still being built: there is no board to show yet
     }
     syncView();
@@ -441,17 +261,21 @@ void BoardWindow::followRestart() {
     });
 }
 
-void BoardWindow::syncTimers() {
-    auto follow = [](QTimer* timer, bool running) {
-        if (running && !timer->isActive()) {
-            timer->start();
-        } else if (!running && timer->isActive()) {
-            timer->stop();
-        }
-    };
-    follow(m_statusDotsTimer, m_model.round().statusTimerRunning());
-    follow(m_lampTimer, m_model.round().lampTimerRunning());
-    follow(m_soundTimer, m_model.round().pendingSound().timerRunning());
+void BoardWindow::followTimers(BoardAreas areas) {
+    const Round& round = m_model.round();
+    // A guess sets the status's dots going or stops them, flashes a lamp
+    // and asks for its sound; nothing else of the board moves by itself
+    // after it.
+    if (areas.has(BoardArea::Status)) {
+        follow(m_statusDotsTimer, round.statusTimerRunning());
+    }
+    if (areas.has(BoardArea::Lamps)) {
+        follow(m_lampTimer, round.lampTimerRunning());
+        follow(m_soundTimer, m_model.round().pendingSound().timerRunning());
+    }
+    if (!areas.isEverything()) {
+        return;
+    }
     follow(m_keyboardOpenTimer, m_model.slide().opening());
     follow(m_climbTimer, m_model.slide().climbing() && m_shownOnce);
     follow(m_scoreTimer, m_model.scoring().counting());
@@ -473,7 +297,8 @@ void BoardWindow::playSound() {
     m_sounds.play(number, [board = QPointer<BoardWindow>(this), number] {
         if (board) {
             board->m_model.soundEnded(number);
-            board->syncTimers();
+            // A new game's score counts once its opening sound is over.
+            follow(board->m_scoreTimer, board->m_model.scoring().counting());
         }
     });
 }
@@ -568,12 +393,12 @@ bool BoardWindow::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::MouseButtonRelease && watched->isWidgetType() &&
         (watched == this || isAncestorOf(static_cast<QWidget*>(watched)))) {
         m_model.keyFaces().restore();
-        m_strikes->sync();
-        m_keyboard->update();
+        m_ui->strikes->sync();
+        m_ui->keyboard->update();
     }
     // The counter, like the score and the strikes, only puts the side
     // panels away.
-    if (watched == m_counterLabel && event->type() == QEvent::MouseButtonPress) {
+    if (watched == m_ui->counterLabel && event->type() == QEvent::MouseButtonPress) {
         m_model.panels().closeAll();
         sync();
         return true;
@@ -629,7 +454,7 @@ void BoardWindow::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     if (!m_shownOnce) {
         m_shownOnce = true;
-        syncTimers();
+        follow(m_climbTimer, m_model.slide().climbing());
     }
 }
 

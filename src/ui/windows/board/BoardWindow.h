@@ -4,51 +4,29 @@
 
 #include "look/Twips.h"
 #include "models/board/BoardModel.h"
-#include "windows/board/AnswerPanel.h"
-#include "windows/board/AutoMarker.h"
-#include "windows/board/BackgroundView.h"
 #include "windows/board/BoardDialogs.h"
-#include "windows/board/CountdownLabel.h"
 #include "windows/board/DesignLink.h"
-#include "windows/board/PlayPanel.h"
-#include "windows/board/ScorePanel.h"
-#include "windows/board/SmallPlayButton.h"
-#include "windows/board/StrikeStrip.h"
-#include "windows/board/ThemeBox.h"
 
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 
-class QLabel;
-class QLineEdit;
 class QMenu;
-class QPushButton;
 class QTimer;
 
 namespace quillora {
 
-class AgainLabels;
-class GallowsView;
-class HistoryPanel;
-class KeyboardView;
-class LookUpLabel;
-class PhraseView;
-class SessionPanel;
-class SoundButton;
+class BoardControls;
 class SoundPlayer;
-class RoundedLabel;
-class SidePanel;
-class StatsPanel;
-class ThemesPanel;
-class TipStrip;
 class WebLookUp;
 class PlayersWindow;
 class FriendPhraseWindow;
 class ThemeWindow;
 
-// The board window: it lays its panels out, hands the player's clicks and
-// keys to its model, and brings the panels in step with the model after each.
+// The board window: it hands the player's clicks and keys to its model,
+// brings its controls in step with what each changed, runs the timers that
+// move the board on its own, and opens the windows that come over it.
 class BoardWindow final : public QWidget {
 public:
     BoardWindow(SharedState& shared, Dialogs& dialogs, Random& random, SoundPlayer& sounds,
@@ -81,40 +59,12 @@ public:
     // Brings in step only the parts of the board the model says changed.
     void sync(BoardAreas areas);
 
-    // For the tests: the controls a player sees.
-    QLabel* statusLabel() const { return m_statusLabel; }
-    QLabel* counterLabel() const { return m_counterLabel; }
-    QLabel* themeLabel() const { return m_themeBox->themeLabel(); }
-    QLabel* timeLabel() const { return m_timeLabel; }
-    LookUpLabel* lookUpLabel() const { return m_lookUpLabel; }
+    // The controls a player sees, and the timers that move the board on its own.
+    const BoardControls& controls() const { return *m_ui; }
     QTimer* countdownTimer() const { return m_countdownTimer; }
     QTimer* soundTimer() const { return m_soundTimer; }
     QTimer* scoreTimer() const { return m_scoreTimer; }
-    QLabel* strikeLabel(int slot) const { return m_strikes->strikeLabel(slot); }
-    QLabel* correctionLabel() const { return m_strikes->correctionLabel(); }
-    QPushButton* playButton() const { return m_playPanel->playButton(); }
-    QPushButton* smallPlayButton() const { return m_smallPlayButton; }
-    QLabel* restoreLabel() const { return m_playPanel->restoreLabel(); }
-    QMenu* buildPlayMenu() { return m_playPanel->buildPlayMenu(); }
-    QLineEdit* answerBox() const { return m_answerPanel->answerBox(); }
-    QPushButton* answerOkButton() const { return m_answerPanel->okButton(); }
-    KeyboardView* keyboard() const { return m_keyboard; }
-    PhraseView* phraseView() const { return m_phrase; }
-    QLabel* scoreLabel() const { return m_scorePanel->scoreLabel(); }
-    QWidget* scoreFrame() const { return m_scorePanel->scoreFrame(); }
-    QLabel* playerLabel() const { return m_scorePanel->playerLabel(); }
-    QMenu* buildTurnMenu() { return m_scorePanel->buildTurnMenu(); }
-    QLabel* autoMarker() const { return m_autoMarker; }
-    SoundButton* soundButton() const { return m_soundButton; }
-    const BackgroundPicture& backgroundPicture() const { return m_background->picture(); }
-    SessionPanel* sessionPanel() const { return m_sessionPanel; }
-    SidePanel* sidePanel() const { return m_sidePanel; }
-    AgainLabels* againLabels() const { return m_again; }
-    StatsPanel* statsPanel() const { return m_statsPanel; }
-    HistoryPanel* historyPanel() const { return m_historyPanel; }
-    ThemesPanel* themesPanel() const { return m_themesPanel; }
-    ThemeBox* themeBox() const { return m_themeBox; }
-    TipStrip* tipStrip() const { return m_tipStrip; }
+    // The windows the board opens over itself, while they are open.
     ThemeWindow* themeWindow() const { return m_themeWindow; }
     FriendPhraseWindow* friendWindow() const { return m_friendWindow; }
     PlayersWindow* namesWindow() const { return m_namesWindow; }
@@ -146,13 +96,10 @@ private:
         return QPoint(px(BoardModel::kWidthTwips) / 2, px(BoardModel::kBaseHeightTwips) / 2 -
                                                            px(m_model.slide().openingDropTwips()));
     }
-    void buildControls();
     void buildTimers();
-    void paintPanels();
-    void paintLampPanels(const LampColours& lamp, Rgb score);
+    // Starts or stops the timers whose state the areas given may have changed.
+    void followTimers(BoardAreas areas);
     void syncView();
-    void syncCounter();
-    void syncTimers();
     void fitFrame();
     // The board as it stands, painted at once: what a message box shows
     // behind it.
@@ -167,30 +114,7 @@ private:
     // Declared after the model: the design window works on it, and closes first.
     DesignLink m_design;
     SoundPlayer& m_sounds;
-    BackgroundView* m_background = nullptr;
-
-    GallowsView* m_gallows = nullptr;
-    PhraseView* m_phrase = nullptr;
-    KeyboardView* m_keyboard = nullptr;
-    StrikeStrip* m_strikes = nullptr;
-    PlayPanel* m_playPanel = nullptr;
-    ScorePanel* m_scorePanel = nullptr;
-    AnswerPanel* m_answerPanel = nullptr;
-    SidePanel* m_sidePanel = nullptr;
-    SessionPanel* m_sessionPanel = nullptr;
-    AgainLabels* m_again = nullptr;
-    StatsPanel* m_statsPanel = nullptr;
-    HistoryPanel* m_historyPanel = nullptr;
-    ThemesPanel* m_themesPanel = nullptr;
-    RoundedLabel* m_statusLabel = nullptr;
-    ThemeBox* m_themeBox = nullptr;
-    TipStrip* m_tipStrip = nullptr;
-    QLabel* m_counterLabel = nullptr;
-    CountdownLabel* m_timeLabel = nullptr;
-    LookUpLabel* m_lookUpLabel = nullptr;
-    SmallPlayButton* m_smallPlayButton = nullptr;
-    AutoMarker* m_autoMarker = nullptr;
-    SoundButton* m_soundButton = nullptr;
+    std::unique_ptr<BoardControls> m_ui;
     ThemeWindow* m_themeWindow = nullptr;
     FriendPhraseWindow* m_friendWindow = nullptr;
     PlayersWindow* m_namesWindow = nullptr;
