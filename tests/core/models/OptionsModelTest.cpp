@@ -24,10 +24,9 @@ using Page = OptionsModel::Page;
 using Field = OptionsModel::Field;
 using Act = OptionsModel::KeyAction::Kind;
 using Icon = Dialogs::Icon;
-using Channel = OptionsModel::Channel;
 
-constexpr std::array<int, OptionsModel::kBoxCount> kEveryBox{0, 1, 2, 3,  4,  5,  6,
-                                                             7, 8, 9, 10, 11, 12, 13};
+constexpr std::array<int, OptionChoices::kBoxCount> kEveryBox{0, 1, 2, 3,  4,  5,  6,
+                                                              7, 8, 9, 10, 11, 12, 13};
 
 // A session file with every option off, style 0 (so every box may be
 // clicked) and a name of its own. `changed` puts other text on some lines,
@@ -62,7 +61,7 @@ protected:
     std::set<int> ticked() const {
         std::set<int> on;
         for (int box : kEveryBox) {
-            if (model->box(box)) {
+            if (model->choices().box(box)) {
                 on.insert(box);
             }
         }
@@ -80,48 +79,7 @@ protected:
     std::unique_ptr<OptionsModel> model;
 };
 
-// --- check boxes ---------------------------------------------------------------------------
-
-TEST_F(OptionsModelTest, BoxesFollowTheBoxTheyHangOn) {
-    struct Clicks {
-        const char* why;
-        std::string style;
-        // Clicked in this order on a page with every box off.
-        std::vector<int> clicks;
-        std::set<int> expected;
-        bool refused = false;
-    };
-    const std::vector<Clicks> cases{
-        {"survival ticks points", "0", {1}, {0, 1}},
-        {"fewer points ticks points", "0", {11}, {0, 11}},
-        {"points off clears both", "0", {1, 11, 0}, {}},
-        {"survival off leaves points", "0", {1, 1}, {0}},
-        {"hard countdown ticks countdown", "0", {10}, {2, 10}},
-        {"countdown off clears hard", "0", {10, 2}, {}},
-        {"hard off leaves countdown", "0", {10, 10}, {2}},
-        {"plain boxes stand alone", "0", {5, 6, 7, 8, 9, 12, 13, 8}, {5, 6, 7, 9, 12, 13}},
-        {"free style lets shading and letters", "0", {3, 4}, {3, 4}},
-        {"empty style refuses shading", "", {3}, {}, true},
-        {"style one refuses white letters", "1", {4}, {}, true},
-        {"no such box", "0", {-1, 14, 99}, {}}};
-    for (const Clicks& c : cases) {
-        SCOPED_TRACE(c.why);
-        dialogs.shown.clear();
-        givenFile(fileLines());
-        open();
-        model->setStyleText(c.style);
-        for (int box : c.clicks) {
-            model->clickBox(box);
-        }
-        EXPECT_EQ(ticked(), c.expected);
-        ASSERT_EQ(dialogs.shown.size(), c.refused ? 1U : 0U);
-        if (c.refused) {
-            EXPECT_EQ(dialogs.shown[0].icon, Icon::Exclamation);
-            EXPECT_EQ(dialogs.shown[0].text, "Lo siento, pero para cambiar estas opciones debe "
-                                             "tener el diseño en estilo libre (0).");
-        }
-    }
-}
+// --- pages ---------------------------------------------------------------------------------------
 
 TEST_F(OptionsModelTest, ARefusedClickGoesBackToTheRememberedPage) {
     givenFile(fileLines({{3, "3"}}));
@@ -134,111 +92,7 @@ TEST_F(OptionsModelTest, ARefusedClickGoesBackToTheRememberedPage) {
     EXPECT_EQ(shared.current().optionsPage, static_cast<int>(Page::Visual));
 }
 
-// --- the style, theme and colour fields ----------------------------------------------------------
-
-TEST_F(OptionsModelTest, StyleFieldSetsTheLetterBoxesOrRefuses) {
-    struct Typed {
-        std::string typed;
-        std::string shown;
-        bool opaque;
-        bool whiteLetters;
-        bool message;
-    };
-    const std::vector<Typed> cases{{"", "", true, true, false},     {"0", "0", true, true, false},
-                                   {"1", "1", false, false, false}, {"2", "2", true, false, false},
-                                   {"3", "3", true, true, false},   {"4", "4", false, false, false},
-                                   {"7", "4", false, false, true},  {"10", "4", false, false, true},
-                                   {"x", "", true, true, false}};
-    for (const Typed& c : cases) {
-        SCOPED_TRACE(c.typed);
-        dialogs.shown.clear();
-        givenFile(fileLines({{4, "1"}, {5, "1"}}));
-        open();
-        ASSERT_EQ(ticked(), (std::set<int>{3, 4}));
-        model->setStyleText(c.typed);
-        EXPECT_EQ(model->styleText(), c.shown);
-        EXPECT_EQ(model->box(3), c.opaque);
-        EXPECT_EQ(model->box(4), c.whiteLetters);
-        ASSERT_EQ(dialogs.shown.size(), c.message ? 1U : 0U);
-        if (c.message) {
-            EXPECT_EQ(dialogs.shown[0].icon, Icon::Exclamation);
-            EXPECT_EQ(dialogs.shown[0].text, "No existen más estilos en los diseños.");
-        }
-    }
-}
-
-TEST_F(OptionsModelTest, ThemeFieldStopsAtTheLastTheme) {
-    givenFile(fileLines());
-    open();
-    EXPECT_EQ(model->themeText(), "7");
-    // Typed, message expected, shown.
-    const std::vector<std::tuple<std::string, bool, std::string>> cases{
-        {"50", false, "50"},  {"51", true, "50"},
-        {"0051", true, "50"}, {"99999999999999999999", true, "50"},
-        {"", false, ""},      {"1a2", false, "12"}};
-    for (const auto& [typed, message, shown] : cases) {
-        SCOPED_TRACE(typed);
-        dialogs.shown.clear();
-        model->setThemeText(typed);
-        EXPECT_EQ(model->themeText(), shown);
-        ASSERT_EQ(dialogs.shown.size(), message ? 1U : 0U);
-        if (message) {
-            EXPECT_EQ(dialogs.shown[0].text, "No existen más temas para jugar.");
-            EXPECT_EQ(dialogs.shown[0].icon, Icon::Exclamation);
-        }
-    }
-}
-
-TEST_F(OptionsModelTest, ColourFieldRepaintsAtOnceWithinItsLimits) {
-    // Typed, shown, the colour it paints.
-    const std::vector<std::tuple<std::string, std::string, Rgb>> cases{
-        {"-5", "0", Rgb{0, 0, 0}},
-        {"15759390", "15759390", Rgb{30, 120, 240}},
-        {"255", "255", Rgb{255, 0, 0}},
-        // Cut to 255 × 255 × 255, not to white.
-        {"16777215", "16581375", Rgb{255, 2, 253}},
-        {"16581376", "16581375", Rgb{255, 2, 253}},
-        {"99999999999999999999", "16581375", Rgb{255, 2, 253}},
-        {"12-3", "123", Rgb{123, 0, 0}},
-        {"", "", Rgb{0, 0, 0}}};
-    givenFile(fileLines());
-    open();
-    for (const auto& [typed, shown, colour] : cases) {
-        SCOPED_TRACE(typed);
-        model->setColourCodeText(typed);
-        EXPECT_EQ(model->colourCodeText(), shown);
-        EXPECT_EQ(shared.palette.gameColour, colour);
-        EXPECT_EQ(model->gameColour(), colour);
-    }
-    EXPECT_TRUE(dialogs.shown.empty());
-}
-
-// --- the name ---------------------------------------------------------------------------------
-
-TEST_F(OptionsModelTest, NamePlaceholderComesAndGoes) {
-    // Name in memory, what the field shows.
-    const std::vector<std::pair<std::string, std::string>> shown{
-        {"Quillora VS", "Nombre"}, {"", "Quillora VS"}, {"Ana", "Ana"}, {"Nombre", "Nombre"}};
-    for (const auto& [name, field] : shown) {
-        SCOPED_TRACE(name);
-        shared.settings.userName = name;
-        open();
-        EXPECT_EQ(model->nameText(), field);
-    }
-
-    shared.settings.userName = "Quillora VS";
-    open();
-    model->nameEntered();
-    EXPECT_EQ(model->nameText(), "");
-    model->nameLeft();
-    EXPECT_EQ(model->nameText(), "Nombre");
-    model->nameEntered();
-    model->setNameText("Bea\u2603");
-    model->nameLeft();
-    EXPECT_EQ(model->nameText(), "Bea") << "only what a line of the file can hold";
-    model->nameEntered();
-    EXPECT_EQ(model->nameText(), "Bea");
-}
+// --- saving from the option pages ----------------------------------------------------------------
 
 TEST_F(OptionsModelTest, SavedNamesLeaveNoPlaceholderOrBlank) {
     // Field at the save, line 15 after it.
@@ -248,14 +102,12 @@ TEST_F(OptionsModelTest, SavedNamesLeaveNoPlaceholderOrBlank) {
         SCOPED_TRACE(field);
         givenFile(fileLines());
         open();
-        model->setNameText(field);
+        model->choices().setNameText(field);
         ASSERT_TRUE(model->saveFromPages());
         EXPECT_EQ(savedLine(15), line);
         EXPECT_EQ(shared.settings.userName, line);
     }
 }
-
-// --- saving from the option pages ----------------------------------------------------------------
 
 TEST_F(OptionsModelTest, SavingThePagesWritesTheBoxesAndTheBoardReadsThem) {
     givenFile(fileLines({{1, "fondo.jpg"}, {2, "/fotos"}, {10, "1"}}));
@@ -263,8 +115,8 @@ TEST_F(OptionsModelTest, SavingThePagesWritesTheBoxesAndTheBoardReadsThem) {
     for (int box : {1, 10, 5, 7, 9, 12}) {
         model->clickBox(box);
     }
-    model->setThemeText("23");
-    model->setColourCodeText("255");
+    model->choices().setThemeText("23");
+    model->colourCode().setText("255");
     ASSERT_TRUE(model->saveFromPages());
 
     const std::vector<std::string> expected{"fondo.jpg", "/fotos", "0", "0",   "0", "1", "0",
@@ -293,8 +145,8 @@ TEST_F(OptionsModelTest, SavingThePagesKeepsHangersOnOnlyUnderTheirBox) {
     givenFile(fileLines({{13, "1"}, {17, "1"}, {14, "1"}}));
     open();
     EXPECT_EQ(ticked(), (std::set<int>{1, 2, 11}));
-    model->setStyleText("");
-    model->setThemeText("");
+    model->choices().setStyleText("");
+    model->choices().setThemeText("");
     ASSERT_TRUE(model->saveFromPages());
     EXPECT_EQ(savedLine(12), "0");
     EXPECT_EQ(savedLine(13), "0");
@@ -302,8 +154,8 @@ TEST_F(OptionsModelTest, SavingThePagesKeepsHangersOnOnlyUnderTheirBox) {
     EXPECT_EQ(savedLine(14), "1");
     EXPECT_EQ(savedLine(3), "0") << "an empty style field is style 0";
     EXPECT_EQ(savedLine(11), "0") << "an empty theme field is theme 0";
-    EXPECT_EQ(model->styleText(), "0");
-    EXPECT_EQ(model->themeText(), "0");
+    EXPECT_EQ(model->choices().styleText(), "0");
+    EXPECT_EQ(model->choices().themeText(), "0");
 }
 
 TEST_F(OptionsModelTest, SavingThePagesKeepsTheAnimationOnlyForAOne) {
@@ -323,14 +175,14 @@ TEST_F(OptionsModelTest, SavingThePagesShowsTheSavedLinesOnTheFreePage) {
     givenFile(fileLines());
     open();
     model->choosePage(Page::RawLines);
-    model->selectRow(7);
-    EXPECT_EQ(model->valueText(), "0");
+    model->rawLines().selectRow(7);
+    EXPECT_EQ(model->rawLines().valueText(), "0");
     model->choosePage(Page::Functional);
     model->clickBox(7);
     ASSERT_TRUE(model->saveFromPages());
     model->choosePage(Page::RawLines);
-    EXPECT_EQ(model->values()[7], "1");
-    EXPECT_EQ(model->valueText(), "1");
+    EXPECT_EQ(model->rawLines().values()[7], "1");
+    EXPECT_EQ(model->rawLines().valueText(), "1");
 }
 
 // --- "LIBRE!" ------------------------------------------------------------------------------------
@@ -346,7 +198,7 @@ TEST_F(OptionsModelTest, TheFreeListShowsTheFileAsNumbers) {
     shared.palette.gameColour = Rgb{1, 2, 3};
     shared.settings.gameColour = Rgb{1, 2, 3};
     open();
-    const auto& values = model->values();
+    const auto& values = model->rawLines().values();
     EXPECT_EQ(values[0], "fondo 1.jpg");
     EXPECT_EQ(values[2], "2");
     EXPECT_EQ(values[10], "0");
@@ -355,8 +207,8 @@ TEST_F(OptionsModelTest, TheFreeListShowsTheFileAsNumbers) {
     EXPECT_EQ(values[17], std::to_string(Rgb{1, 2, 3}.packed())) << "an empty colour line";
     EXPECT_EQ(values[19], "-3");
     // Line 16 stands under the label of the points option, as it always has.
-    EXPECT_EQ(OptionsModel::lineLabel(15), "Más puntos negativos");
-    EXPECT_EQ(OptionsModel::lineLabel(16), "Usar Wikipedia");
+    EXPECT_EQ(RawLinesModel::lineLabel(15), "Más puntos negativos");
+    EXPECT_EQ(RawLinesModel::lineLabel(16), "Usar Wikipedia");
     EXPECT_TRUE(dialogs.shown.empty());
 }
 
@@ -364,12 +216,12 @@ TEST_F(OptionsModelTest, SavingTheRawLinesWritesWhatWasTypedAndTheBoardReadsIt) 
     givenFile(fileLines());
     open();
     model->choosePage(Page::RawLines);
-    model->selectRow(12); // "M. supervivencia", line 13
-    EXPECT_EQ(model->valueText(), "0");
-    model->setValueText("2");
-    EXPECT_EQ(model->values()[12], "2");
-    model->selectRow(17);
-    model->setValueText("255");
+    model->rawLines().selectRow(12); // "M. supervivencia", line 13
+    EXPECT_EQ(model->rawLines().valueText(), "0");
+    model->rawLines().setValueText("2");
+    EXPECT_EQ(model->rawLines().values()[12], "2");
+    model->rawLines().selectRow(17);
+    model->rawLines().setValueText("255");
     ASSERT_TRUE(model->save());
 
     EXPECT_EQ(savedLine(13), "2") << "saved as typed";
@@ -377,7 +229,7 @@ TEST_F(OptionsModelTest, SavingTheRawLinesWritesWhatWasTypedAndTheBoardReadsIt) 
     EXPECT_EQ(savedLines().size(), 20U);
     EXPECT_TRUE(shared.settings.survival);
     EXPECT_EQ(shared.palette.gameColour, (Rgb{255, 0, 0}));
-    EXPECT_TRUE(model->box(1)) << "the option pages follow the file";
+    EXPECT_TRUE(model->choices().box(1)) << "the option pages follow the file";
 
     shared.settings = Settings{};
     boardLoad();
@@ -394,8 +246,8 @@ TEST_F(OptionsModelTest, AFailedSaveFromEitherPageKeepsTheFileAndSaysSo) {
         open();
         if (libre) {
             model->choosePage(Page::RawLines);
-            model->selectRow(7);
-            model->setValueText("1");
+            model->rawLines().selectRow(7);
+            model->rawLines().setValueText("1");
         } else {
             model->clickBox(7);
         }
@@ -415,12 +267,12 @@ TEST_F(OptionsModelTest, TypingWithNoRowSelectedChangesNoLine) {
     givenFile(fileLines());
     open();
     model->choosePage(Page::RawLines);
-    const auto before = model->values();
-    model->setValueText("9");
-    EXPECT_EQ(model->values(), before);
-    model->selectRow(20);
-    model->selectRow(-1);
-    EXPECT_EQ(model->selectedRow(), -1);
+    const auto before = model->rawLines().values();
+    model->rawLines().setValueText("9");
+    EXPECT_EQ(model->rawLines().values(), before);
+    model->rawLines().selectRow(20);
+    model->rawLines().selectRow(-1);
+    EXPECT_EQ(model->rawLines().selectedRow(), -1);
 }
 
 // --- opening -------------------------------------------------------------------------------------
@@ -434,13 +286,13 @@ TEST_F(OptionsModelTest, AnUnreadableFileIsReportedAndThePagesShowMemory) {
     EXPECT_EQ(dialogs.shown[0].icon, Icon::Error);
     EXPECT_EQ(dialogs.shown[0].text, "Hubo una falla al cargar la configuración, tenga el "
                                      "cuidado de no guardar sin revisar.");
-    EXPECT_FALSE(model->box(7));
-    EXPECT_EQ(model->nameText(), "Dora");
-    EXPECT_EQ(model->themeText(), "12");
+    EXPECT_FALSE(model->choices().box(7));
+    EXPECT_EQ(model->choices().nameText(), "Dora");
+    EXPECT_EQ(model->choices().themeText(), "12");
     // The free page shows the same, not twenty blanks a save would write.
-    EXPECT_EQ(model->values()[7], "0");
-    EXPECT_EQ(model->values()[10], "12");
-    EXPECT_EQ(model->values()[14], "Dora");
+    EXPECT_EQ(model->rawLines().values()[7], "0");
+    EXPECT_EQ(model->rawLines().values()[10], "12");
+    EXPECT_EQ(model->rawLines().values()[14], "Dora");
 }
 
 TEST_F(OptionsModelTest, TheBoxesOpenAsTheOptionsInMemoryStand) {
@@ -448,13 +300,13 @@ TEST_F(OptionsModelTest, TheBoxesOpenAsTheOptionsInMemoryStand) {
     shared.palette.gameColour = kDefaultBlue; // as a menu might have left it
     open();
     EXPECT_EQ(ticked(), (std::set<int>{0, 2, 7, 13}));
-    EXPECT_EQ(model->styleText(), "2");
-    EXPECT_EQ(model->colourCodeText(), "65280");
-    EXPECT_EQ(model->gameColour(), (Rgb{0, 255, 0}));
+    EXPECT_EQ(model->choices().styleText(), "2");
+    EXPECT_EQ(model->colourCode().text(), "65280");
+    EXPECT_EQ(model->colourCode().gameColour(), (Rgb{0, 255, 0}));
     shared.settings.countdown = 2;
     open();
-    EXPECT_TRUE(model->box(2));
-    EXPECT_TRUE(model->box(10));
+    EXPECT_TRUE(model->choices().box(2));
+    EXPECT_TRUE(model->choices().box(10));
 }
 
 TEST_F(OptionsModelTest, EachSessionSlotRemembersItsPage) {
@@ -470,50 +322,20 @@ TEST_F(OptionsModelTest, EachSessionSlotRemembersItsPage) {
 
     shared.currentSlot = 0;
     EXPECT_EQ(open().page(), Page::Visual);
-    EXPECT_EQ(model->commandColour(), model->gameColour());
+    EXPECT_EQ(model->commandColour(), model->colourCode().gameColour());
     shared.currentSlot = 2;
     EXPECT_EQ(open().page(), Page::RawLines);
 }
 
 // --- the colour editor ---------------------------------------------------------------------------
 
-TEST_F(OptionsModelTest, TheColourEditorMakesCodesAndHandsThemOver) {
+TEST_F(OptionsModelTest, ChoosingVisualSplitsTheGameColourIntoTheEditor) {
     givenFile(fileLines({{18, "255"}}));
-    open();
-    EXPECT_EQ(model->codeText(), "15759390");
-    EXPECT_EQ(model->editorButtonCaption(), "...");
-    EXPECT_EQ(model->editorButtonTooltip(), " Abrir colores. ");
-    model->toggleEditor();
-    EXPECT_EQ(model->editorButtonCaption(), "x");
-    EXPECT_EQ(model->editorButtonTooltip(), " Cerrar colores. ");
-
-    model->choosePage(Page::Visual); // splitGameColour
-    EXPECT_EQ(model->component(Channel::Red), 255);
-    EXPECT_EQ(model->component(Channel::Green), 0);
-    EXPECT_EQ(model->component(Channel::Blue), 0);
-
-    model->setComponent(Channel::Green, 300);
-    model->setComponent(Channel::Blue, 1);
-    EXPECT_EQ(model->component(Channel::Green), 255);
-    EXPECT_EQ(model->codeText(), std::to_string(255 + 255 * 256 + 65536));
-    EXPECT_EQ(model->gameColour(), (Rgb{255, 0, 0})) << "not before \"=\"";
-    model->applyCode();
-    EXPECT_EQ(model->colourCodeText(), model->codeText());
-    EXPECT_EQ(model->gameColour(), (Rgb{255, 255, 1}));
-
-    model->setComponent(Channel::Red, -4);
-    EXPECT_EQ(model->component(Channel::Red), 0);
-
-    model->useDefaultBlue();
-    EXPECT_EQ(model->gameColour(), kDefaultBlue);
-    EXPECT_EQ(model->colourCodeText(), "15759390");
-    EXPECT_EQ(model->component(Channel::Red), 30);
-    EXPECT_EQ(model->component(Channel::Green), 120);
-    EXPECT_EQ(model->component(Channel::Blue), 240);
-    EXPECT_EQ(model->codeText(), "15759390");
-
-    model->toggleEditor();
-    EXPECT_FALSE(model->editorOpen());
+    ColourEditorModel& editor = open().colourEditor();
+    EXPECT_EQ(editor.colour(), kDefaultBlue) << "not before the page shows";
+    model->choosePage(Page::Visual);
+    EXPECT_EQ(editor.colour(), (Rgb{255, 0, 0}));
+    EXPECT_EQ(editor.codeText(), "255");
 }
 
 // --- leaving -------------------------------------------------------------------------------------

@@ -35,7 +35,7 @@ namespace quillora {
 namespace {
 
 using Page = OptionsModel::Page;
-using Channel = OptionsModel::Channel;
+using Channel = ColourEditorModel::Channel;
 
 class OptionsWindowTest : public ::testing::Test {
 protected:
@@ -76,11 +76,11 @@ TEST_F(OptionsWindowTest, AClickOnACheckBoxReachesTheRulesAndRepaintsThePicture)
     ASSERT_TRUE(survival->isVisible());
     EXPECT_TRUE(points->ticked());
     QTest::mouseClick(points, Qt::LeftButton);
-    EXPECT_FALSE(window->model().box(0));
+    EXPECT_FALSE(window->model().choices().box(0));
     const QImage empty = survival->grab().toImage();
 
     QTest::mouseClick(survival, Qt::LeftButton);
-    EXPECT_TRUE(window->model().box(1));
+    EXPECT_TRUE(window->model().choices().box(1));
     EXPECT_TRUE(survival->ticked());
     EXPECT_TRUE(points->ticked()) << "survival needs the points";
     EXPECT_NE(survival->grab().toImage(), empty) << "the ticked picture shows";
@@ -171,12 +171,12 @@ TEST_F(OptionsWindowTest, EveryPageIsHeardAndItsBoxesTickFromTheKeys) {
     CheckPicture* survival = window->checkBox(1);
     ASSERT_EQ(QApplication::focusWidget(), survival);
     pressKey(Qt::Key_Space);
-    EXPECT_TRUE(window->model().box(1));
+    EXPECT_TRUE(window->model().choices().box(1));
     EXPECT_TRUE(QAccessible::queryAccessibleInterface(survival)->state().checked);
     pressKey(Qt::Key_Tab, Qt::ShiftModifier);
     pressKey(Qt::Key_Space);
-    EXPECT_FALSE(window->model().box(0));
-    EXPECT_FALSE(window->model().box(1)) << "no survival without points";
+    EXPECT_FALSE(window->model().choices().box(0));
+    EXPECT_FALSE(window->model().choices().box(1)) << "no survival without points";
 
     pressKey(Qt::Key_Escape);
     EXPECT_TRUE(window->outTimer()->isActive()) << "Esc leaves as Menú does";

@@ -68,7 +68,7 @@ QString labelStyle(Rgb back) {
 
 } // namespace
 
-ColourEditor::ColourEditor(OptionsModel& model, std::function<void()> changed, QWidget* parent)
+ColourEditor::ColourEditor(ColourEditorModel& model, std::function<void()> changed, QWidget* parent)
     : QWidget(parent), m_model(model), m_changed(std::move(changed)) {
     const QFont font = Fonts::display(7.5);
     const std::array<const char*, 3> names{" Rojo ", " Verde ", " Azul "};
@@ -85,7 +85,7 @@ ColourEditor::ColourEditor(OptionsModel& model, std::function<void()> changed, Q
         m_labels[i]->setGeometry(twipRect(kLabelLeft, top, kLabelWidth, kRowHeight));
 
         auto* slider = new QSlider(Qt::Horizontal, this);
-        slider->setRange(0, OptionsModel::kComponentMax);
+        slider->setRange(0, ColourEditorModel::kComponentMax);
         slider->setGeometry(twipRect(kSliderLeft, top, kSliderWidth, kRowHeight));
         slider->setAccessibleName(m_labels[i]->text().trimmed());
         connect(slider, &QSlider::valueChanged, this,
@@ -96,7 +96,7 @@ ColourEditor::ColourEditor(OptionsModel& model, std::function<void()> changed, Q
         // The slider beside it does the stepping.
         box->setButtonSymbols(QAbstractSpinBox::NoButtons);
         box->setFont(font);
-        box->setRange(0, OptionsModel::kComponentMax);
+        box->setRange(0, ColourEditorModel::kComponentMax);
         box->setGeometry(twipRect(kBoxLeft, top, kBoxWidth, kRowHeight));
         box->setAccessibleName(m_labels[i]->text().trimmed());
         connect(box, &QSpinBox::valueChanged, this,
@@ -172,7 +172,7 @@ void ColourEditor::sync() {
             label->setStyleSheet(style);
         }
     }
-    const Rgb colour = m_model.editorColour();
+    const Rgb colour = m_model.colour();
     m_codeBox->setText(qs(m_model.codeText()));
     const QString codeStyle =
         QStringLiteral("background: %1; color: %2; border: 1px solid rgb(90,90,90);"

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "models/options/OptionsModel.h"
+#include "models/options/ColourEditorModel.h"
 
 #include <QWidget>
 
@@ -22,10 +22,10 @@ namespace quillora {
 // game colour, and the way back to the default blue.
 class ColourEditor final : public QWidget {
 public:
-    using Channel = OptionsModel::Channel;
+    using Channel = ColourEditorModel::Channel;
     // `changed` runs after every change the editor hands to the model, so
     // the whole window can follow the game colour.
-    ColourEditor(OptionsModel& model, std::function<void()> changed, QWidget* parent);
+    ColourEditor(ColourEditorModel& model, std::function<void()> changed, QWidget* parent);
 
     void sync();
 
@@ -40,7 +40,7 @@ private:
     static std::size_t index(Channel channel) { return static_cast<std::size_t>(channel); }
     void setComponent(Channel channel, int value);
 
-    OptionsModel& m_model;
+    ColourEditorModel& m_model;
     std::function<void()> m_changed;
     std::array<QSlider*, 3> m_sliders{};
     std::array<QSpinBox*, 3> m_boxes{};

@@ -149,11 +149,11 @@ void OptionsWindow::buildPages() {
 
     QWidget* visual = page(Page::Visual);
     m_colourEditor = new ColourEditor(
-        m_model, [this] { sync(); }, visual);
+        m_model.colourEditor(), [this] { sync(); }, visual);
     m_colourEditor->setGeometry(twipRect(kEditorLeft, 0, kEditorWidth, kEditorHeight));
 
     m_rawLinesPage = new RawLinesPage(
-        m_model, [this] { sync(); }, page(Page::RawLines));
+        m_model.rawLines(), [this] { sync(); }, page(Page::RawLines));
     m_rawLinesPage->setGeometry(twipRect(0, 0, kPageWidth, kPageHeight));
 }
 
@@ -182,7 +182,7 @@ void OptionsWindow::buildEntry(const OptionsModel::Entry& entry, QWidget* page, 
         m_coloursButton->setGeometry(
             twipRect(left, (row - 1) * kRowPitch, kEditorButtonWidth, kRowHeight));
         connect(m_coloursButton, &QPushButton::clicked, this, [this] {
-            m_model.toggleEditor();
+            m_model.colourEditor().toggle();
             sync();
         });
         return;
@@ -242,16 +242,16 @@ void OptionsWindow::fieldEdited(int index, const QString& typed) {
     const std::string value = typed.toStdString();
     switch (index) {
     case OptionsModel::kStyleField:
-        m_model.setStyleText(value);
+        m_model.choices().setStyleText(value);
         break;
     case OptionsModel::kThemeField:
-        m_model.setThemeText(value);
+        m_model.choices().setThemeText(value);
         break;
     case OptionsModel::kNameField:
-        m_model.setNameText(value);
+        m_model.choices().setNameText(value);
         break;
     case OptionsModel::kColourField:
-        m_model.setColourCodeText(value);
+        m_model.colourCode().setText(value);
         break;
     default:
         return;
@@ -282,26 +282,28 @@ void OptionsWindow::sync() {
         const QSignalBlocker quiet(m_pagesList);
         m_pagesList->setCurrentRow(static_cast<int>(shown));
     }
+    const OptionChoices& choices = m_model.choices();
     for (const auto& [index, check] : m_checks) {
-        check->setTicked(m_model.box(index));
+        check->setTicked(choices.box(index));
     }
     const std::map<int, const std::string*> texts{
-        {OptionsModel::kStyleField, &m_model.styleText()},
-        {OptionsModel::kThemeField, &m_model.themeText()},
-        {OptionsModel::kNameField, &m_model.nameText()},
-        {OptionsModel::kColourField, &m_model.colourCodeText()}};
+        {OptionsModel::kStyleField, &choices.styleText()},
+        {OptionsModel::kThemeField, &choices.themeText()},
+        {OptionsModel::kNameField, &choices.nameText()},
+        {OptionsModel::kColourField, &m_model.colourCode().text()}};
     for (const auto& [index, value] : texts) {
         QLineEdit* box = field(index);
         if (box->text() != qs(*value)) {
             box->setText(qs(*value));
         }
     }
-    m_coloursButton->setText(text(m_model.editorButtonCaption()));
-    m_coloursButton->setToolTip(text(m_model.editorButtonTooltip()));
+    const ColourEditorModel& editor = m_model.colourEditor();
+    m_coloursButton->setText(text(editor.buttonCaption()));
+    m_coloursButton->setToolTip(text(editor.buttonTooltip()));
     // "..." says nothing read aloud: the button is heard by what it does.
     m_coloursButton->setAccessibleName(
         m_coloursButton->toolTip().trimmed().remove(QLatin1Char('.')));
-    m_colourEditor->setVisible(m_model.editorOpen());
+    m_colourEditor->setVisible(editor.isOpen());
     m_colourEditor->sync();
     m_rawLinesPage->sync();
     loadColor();
@@ -314,7 +316,7 @@ void OptionsWindow::sync() {
 // LoadColor: the fields, the captions and the command buttons wear the game
 // colour; on "LIBRE!" the buttons warn in red that they write raw lines.
 void OptionsWindow::loadColor() {
-    const Rgb game = m_model.gameColour();
+    const Rgb game = m_model.colourCode().gameColour();
     const Rgb command = m_model.commandColour();
     if (game != m_paintedGame) {
         m_paintedGame = game;
@@ -376,13 +378,13 @@ void OptionsWindow::focusField(Field which) {
         target = field(OptionsModel::kColourField);
         break;
     case Field::Red:
-        target = m_colourEditor->numberBox(OptionsModel::Channel::Red);
+        target = m_colourEditor->numberBox(ColourEditorModel::Channel::Red);
         break;
     case Field::Green:
-        target = m_colourEditor->numberBox(OptionsModel::Channel::Green);
+        target = m_colourEditor->numberBox(ColourEditorModel::Channel::Green);
         break;
     case Field::Blue:
-        target = m_colourEditor->numberBox(OptionsModel::Channel::Blue);
+        target = m_colourEditor->numberBox(ColourEditorModel::Channel::Blue);
         break;
     case Field::Labels:
         target = m_rawLinesPage->labelList();
@@ -404,7 +406,7 @@ void OptionsWindow::focusField(Field which) {
 void OptionsWindow::follow(const OptionsModel::KeyAction& action) {
     using Act = OptionsModel::KeyAction::Kind;
     if (action.openEditor) {
-        m_model.openEditor();
+        m_model.colourEditor().open();
     }
     switch (action.kind) {
     case Act::Box:
@@ -417,7 +419,7 @@ void OptionsWindow::follow(const OptionsModel::KeyAction& action) {
         m_model.startMenu();
         break;
     case Act::DefaultBlue:
-        m_model.useDefaultBlue();
+        m_model.colourEditor().useDefaultBlue();
         break;
     case Act::Focus:
     case Act::None:
@@ -444,10 +446,10 @@ bool OptionsWindow::eventFilter(QObject* watched, QEvent* event) {
     }
     if (watched == field(OptionsModel::kNameField)) {
         if (event->type() == QEvent::FocusIn) {
-            m_model.nameEntered();
+            m_model.choices().nameEntered();
             sync();
         } else if (event->type() == QEvent::FocusOut) {
-            m_model.nameLeft();
+            m_model.choices().nameLeft();
             sync();
         }
     }

@@ -24,22 +24,22 @@ constexpr int kBoxTop = 3405, kBoxHeight = 360;
 
 } // namespace
 
-RawLinesPage::RawLinesPage(OptionsModel& model, std::function<void()> changed, QWidget* parent)
+RawLinesPage::RawLinesPage(RawLinesModel& model, std::function<void()> changed, QWidget* parent)
     : QWidget(parent), m_model(model), m_changed(std::move(changed)) {
     const QFont font = Fonts::display(8, false);
     m_namesList = new QListWidget(this);
     m_namesList->setFont(font);
     m_namesList->setGeometry(px(0), px(0), px(kNamesWidth), px(kListHeight));
     m_namesList->setAccessibleName(QStringLiteral("Nombres"));
-    for (int row = 0; row < OptionsModel::kLines; ++row) {
-        const std::string_view label = OptionsModel::lineLabel(row);
+    for (int row = 0; row < RawLinesModel::kLines; ++row) {
+        const std::string_view label = RawLinesModel::lineLabel(row);
         m_namesList->addItem(QString::fromUtf8(label.data(), static_cast<int>(label.size())));
     }
     m_valuesList = new QListWidget(this);
     m_valuesList->setFont(font);
     m_valuesList->setGeometry(px(kValuesLeft), px(0), px(kValuesWidth), px(kListHeight));
     m_valuesList->setAccessibleName(QStringLiteral("Valores"));
-    for (int row = 0; row < OptionsModel::kLines; ++row) {
+    for (int row = 0; row < RawLinesModel::kLines; ++row) {
         m_valuesList->addItem(QString());
     }
     for (QListWidget* list : {m_namesList, m_valuesList}) {
@@ -75,7 +75,7 @@ void RawLinesPage::select(int row) {
 
 void RawLinesPage::sync() {
     const auto& values = m_model.values();
-    for (int row = 0; row < OptionsModel::kLines; ++row) {
+    for (int row = 0; row < RawLinesModel::kLines; ++row) {
         QListWidgetItem* item = m_valuesList->item(row);
         const QString text = qs(values[static_cast<std::size_t>(row)]);
         if (item->text() != text) {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "models/options/OptionsModel.h"
+#include "models/options/RawLinesModel.h"
 
 #include <QWidget>
 
@@ -17,7 +17,7 @@ namespace quillora {
 // and one box to retype the selected line.
 class RawLinesPage final : public QWidget {
 public:
-    RawLinesPage(OptionsModel& model, std::function<void()> changed, QWidget* parent);
+    RawLinesPage(RawLinesModel& model, std::function<void()> changed, QWidget* parent);
 
     void sync();
 
@@ -28,7 +28,7 @@ public:
 private:
     void select(int row);
 
-    OptionsModel& m_model;
+    RawLinesModel& m_model;
     std::function<void()> m_changed;
     QListWidget* m_namesList = nullptr;
     QListWidget* m_valuesList = nullptr;
