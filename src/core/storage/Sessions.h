@@ -42,6 +42,7 @@ public:
     struct Entry {
         int slot;
         std::string name;
+        bool operator==(const Entry&) const = default;
     };
     std::vector<Entry> entries() const;
 

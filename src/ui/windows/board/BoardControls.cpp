@@ -84,7 +84,7 @@ BoardControls::BoardControls(BoardModel& model, QWidget* board, const BoardActio
     smallPlayButton = new SmallPlayButton(round, scoring, settings, actions.play, board);
     lookUpLabel = new LookUpLabel(round, model.lookUps(), board);
     answerPanel = new AnswerPanel(round, changed, actions.shortcut, board);
-    keyboard = new KeyboardView(round, model.keyFaces(), changed, board);
+    keyboard = new KeyboardView(round, model.keyFaces(), actions.areasChanged, board);
     scorePanel = new ScorePanel(scoring, model.scorePulse(), model.turn(), panels, changed,
                                 actions.names, board);
     autoMarker = new AutoMarker(round, changed, board);

@@ -43,6 +43,8 @@ class TipStrip;
 // players window.
 struct BoardActions {
     std::function<void()> changed;
+    // A change that says which areas of the board it touched.
+    std::function<void(BoardAreas)> areasChanged;
     std::function<void()> play;
     // The window's shortcuts; true when the key was one of them.
     std::function<bool(QKeyEvent*)> shortcut;

@@ -66,10 +66,10 @@ BoardWindow::BoardWindow(SharedState& shared, Dialogs& dialogs, Random& random, 
     setAccessibleRole(this, QAccessible::Window);
     m_ui = std::make_unique<BoardControls>(
         m_model, this,
-        BoardActions{[this] { sync(); }, [this] { playPressed(); },
-                     [this](QKeyEvent* key) { return windowShortcut(key); },
-                     [this](QKeyEvent* key) { return boardKey(key); },
-                     [this] { openPlayersWindow(); }});
+        BoardActions{
+            [this] { sync(); }, [this](BoardAreas areas) { sync(areas); },
+            [this] { playPressed(); }, [this](QKeyEvent* key) { return windowShortcut(key); },
+            [this](QKeyEvent* key) { return boardKey(key); }, [this] { openPlayersWindow(); }});
     m_design.keepInSight(m_ui->phrase);
     buildTimers();
     // Every release of the mouse on the board puts the hover faces back. A
@@ -127,11 +127,21 @@ void BoardWindow::buildTimers() {
     // The session panel's slide and its list's drop share the 10 ms beat.
     m_sessionSlideTimer = timer(SessionPanelModel::kTickMs, [this] {
         m_model.sessions().panel().tick();
-        sync();
+        // While the panel slides only it moves; the board comes in step
+        // once it stands.
+        if (m_model.sessions().panel().animating()) {
+            m_ui->sessionPanel->sync();
+        } else {
+            sync();
+        }
     });
     m_sessionListTimer = timer(SessionPanelModel::kTickMs, [this] {
         m_model.sessions().panel().tickList();
-        sync();
+        if (m_model.sessions().panel().listSliding()) {
+            m_ui->sessionPanel->sync();
+        } else {
+            sync();
+        }
     });
     m_statsTimer = timer(StatsPanelModel::kTickMs, [this] {
         m_model.panels().stats().tick();

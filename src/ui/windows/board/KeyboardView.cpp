@@ -19,14 +19,18 @@
 namespace quillora {
 
 namespace {
+constexpr BoardAreas kFaces = BoardArea::Keys | BoardArea::Strikes;
+} // namespace
+
+namespace {
 
 constexpr double kKeyFontPoints = 12;
 constexpr double kWideKeyFontPoints = 10;
 
 } // namespace
 
-KeyboardView::KeyboardView(const Round& round, KeyFaces& faces, std::function<void()> changed,
-                           QWidget* parent)
+KeyboardView::KeyboardView(const Round& round, KeyFaces& faces,
+                           std::function<void(BoardAreas)> changed, QWidget* parent)
     : QWidget(parent), m_round(round), m_mouse(faces), m_changed(std::move(changed)),
       m_keyFont(Fonts::display(kKeyFontPoints)), m_wideKeyFont(Fonts::display(kWideKeyFontPoints)) {
     setMouseTracking(true);
@@ -44,7 +48,7 @@ void KeyboardView::press(int key) {
     m_mouse.press(key);
     m_mouse.release(key);
     m_mouse.leave();
-    m_changed();
+    m_changed(BoardAreas::everything());
 }
 
 KeyboardView::Face KeyboardView::faceOf(int key) const {
@@ -169,7 +173,8 @@ void KeyboardView::mouseMoveEvent(QMouseEvent* event) {
     } else {
         m_mouse.leave();
     }
-    m_changed();
+    // Under the mouse only the keys' faces and the correction label change.
+    m_changed(kFaces);
 }
 
 void KeyboardView::mousePressEvent(QMouseEvent* event) {
@@ -180,7 +185,7 @@ void KeyboardView::mousePressEvent(QMouseEvent* event) {
     const int key = keyAt(event->position().toPoint());
     if (key >= 0) {
         m_mouse.press(key);
-        m_changed();
+        m_changed(kFaces);
     }
 }
 
@@ -189,13 +194,14 @@ void KeyboardView::mouseReleaseEvent(QMouseEvent* event) {
         QWidget::mouseReleaseEvent(event);
         return;
     }
+    // A click is a guess, which may change anything.
     m_mouse.release(keyAt(event->position().toPoint()));
-    m_changed();
+    m_changed(BoardAreas::everything());
 }
 
 void KeyboardView::leaveEvent(QEvent*) {
     m_mouse.leave();
-    m_changed();
+    m_changed(kFaces);
 }
 
 } // namespace quillora

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "look/BoardLook.h"
+#include "models/board/BoardAreas.h"
 #include "round/Keyboard.h"
 
 #include <QFont>
@@ -23,7 +24,7 @@ class Round;
 // releases go to the model, which decides the faces and what a click does.
 class KeyboardView final : public QWidget {
 public:
-    KeyboardView(const Round& round, KeyFaces& faces, std::function<void()> changed,
+    KeyboardView(const Round& round, KeyFaces& faces, std::function<void(BoardAreas)> changed,
                  QWidget* parent);
 
     static constexpr int kLeftTwips = 120;
@@ -78,7 +79,7 @@ private:
 
     const Round& m_round;
     KeyFaces& m_mouse;
-    std::function<void()> m_changed;
+    std::function<void(BoardAreas)> m_changed;
     std::array<Spoken, kKeyCount> m_spoken{};
     std::array<std::optional<Face>, kKeyCount> m_faces;
     bool m_digitsShown = false;

@@ -165,7 +165,9 @@ void SessionPanel::sync() {
     const int boardWidth = parentWidget()->width();
     setGeometry(0, 0, boardWidth, px(panel.height()));
     setVisible(panel.shown());
-    setStyleSheet(
+    // A style sheet polishes every child again: applied only when the
+    // colours change, not at every step of the board.
+    const QString style =
         QStringLiteral(
             "#sessionFrame { background: %1; } QLabel { color: white; }"
             "QListWidget { background: %2; color: white; }"
@@ -173,7 +175,11 @@ void SessionPanel::sync() {
             .arg(css(m_look.gameColour()), css(m_look.shade())) +
         focusMarkStyle(QStringLiteral("QLineEdit")) +
         focusMarkStyle(QStringLiteral("QListWidget"), true) +
-        focusMarkStyle(QStringLiteral("#sessionFrame"), true));
+        focusMarkStyle(QStringLiteral("#sessionFrame"), true);
+    if (style != m_style) {
+        m_style = style;
+        setStyleSheet(style);
+    }
     if (!panel.shown()) {
         return;
     }
@@ -181,11 +187,17 @@ void SessionPanel::sync() {
     m_userLabel->setText(qs(m_sessions.displayName() + " "));
     m_userBox->setVisible(panel.userBoxShown());
 
-    m_sessionsList->clear();
-    for (const auto& entry : m_sessions.entries()) {
-        auto* item = new QListWidgetItem(qs(entry.name + " "), m_sessionsList);
-        item->setData(Qt::UserRole, entry.slot);
-        item->setSizeHint(QSize(px(5400), px(SessionPanelModel::kEntryHeight)));
+    // Filled again only when the users changed: the list slides a step
+    // every 10 ms.
+    std::vector<Sessions::Entry> entries = m_sessions.entries();
+    if (entries != m_entries) {
+        m_entries = std::move(entries);
+        m_sessionsList->clear();
+        for (const auto& entry : m_entries) {
+            auto* item = new QListWidgetItem(qs(entry.name + " "), m_sessionsList);
+            item->setData(Qt::UserRole, entry.slot);
+            item->setSizeHint(QSize(px(5400), px(SessionPanelModel::kEntryHeight)));
+        }
     }
     m_sessionsList->setGeometry(px(240), px(panel.listTop()), px(5400), px(panel.listHeight()));
     m_sessionsList->setVisible(panel.listShown());
@@ -193,8 +205,11 @@ void SessionPanel::sync() {
 
     m_keyFrame->setVisible(panel.keyFrameShown());
     m_keyLabel->setText(QString::fromUtf8(panel.keyCaption()));
-    m_keyLabel->setStyleSheet(panel.locked() ? QStringLiteral("color: rgb(190,190,190);")
-                                             : QString());
+    const QString keyStyle =
+        panel.locked() ? QStringLiteral("color: rgb(190,190,190);") : QString();
+    if (keyStyle != m_keyLabel->styleSheet()) {
+        m_keyLabel->setStyleSheet(keyStyle);
+    }
     m_keyBox->setVisible(!panel.secondBoxShown());
     m_key2Box->setVisible(panel.secondBoxShown());
     m_cancelLabel->setGeometry(boardWidth - px(1440), px(180), px(1200), px(420));

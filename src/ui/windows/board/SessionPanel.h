@@ -2,9 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "storage/Sessions.h"
+
+#include <QString>
 #include <QWidget>
 
 #include <functional>
+#include <vector>
 
 class QLabel;
 class QLineEdit;
@@ -51,6 +55,8 @@ private:
     BoardSessions& m_sessions;
     const BoardAppearance& m_look;
     std::function<void()> m_changed;
+    QString m_style;
+    std::vector<Sessions::Entry> m_entries;
     QLabel* m_userLabel = nullptr;
     QLineEdit* m_userBox = nullptr;
     QListWidget* m_sessionsList = nullptr;
