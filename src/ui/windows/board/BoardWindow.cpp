@@ -237,13 +237,13 @@ void BoardWindow::buildControls() {
     m_lookUpLabel = new LookUpLabel(round, m_model.lookUps(), this);
 
     m_answerPanel = new AnswerPanel(
-        round, changed, [this](QKeyEvent* key) { return windowShortcut(key); }, this);
-    m_keyboard = new KeyboardView(round, m_model.keyFaces(), changed, this);
+        round.answerBox(), changed, [this](QKeyEvent* key) { return windowShortcut(key); }, this);
+    m_keyboard = new KeyboardView(round, round.answerBox(), m_model.keyFaces(), changed, this);
     m_scorePanel = new ScorePanel(
         scoring, m_model.scorePulse(), m_model.turn(), panels, changed,
         [this] { openPlayersWindow(); }, this);
 
-    m_autoMarker = new AutoMarker(round, changed, this);
+    m_autoMarker = new AutoMarker(round.phraseChoice(), changed, this);
 
     m_soundButton =
         new SoundButton(m_model.commands(), m_model.keyFaces(), settings, changed, this);
@@ -504,7 +504,8 @@ void BoardWindow::handleStart(GameStart start) {
         m_friendWindow->open();
     } else if (start == GameStart::ThemeWindow && !m_themeWindow) {
         m_themeWindow = new ThemeWindow(
-            m_model.round(), m_model.shared(), m_boardDialogs, [this] { sync(); }, this);
+            m_model.round().phraseChoice(), m_model.shared(), m_boardDialogs, [this] { sync(); },
+            this);
         opened(m_themeWindow, m_themeWindow);
         m_themeWindow->open();
     }
