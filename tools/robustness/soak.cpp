@@ -111,8 +111,8 @@ int main(int argc, char** argv) {
             board->tickScore();
         }
         round.clearBoard();
-        round.drawThemeAndPhrase();
-        round.layDrawnPhrase();
+        round.phraseChoice().drawThemeAndPhrase();
+        round.phraseChoice().layDrawnPhrase();
         // A game is at most 45 keys of its own, answers and corrections
         // included; more means it no longer ends.
         for (int step = 0; round.inPlay(); ++step) {
@@ -121,12 +121,13 @@ int main(int argc, char** argv) {
                 return 1;
             }
             if (coin(0.03)) {
-                round.toggleAnswerBox();
+                AnswerBox& box = round.answerBox();
+                box.toggle();
                 const std::string right = toUtf8(round.board().answerText());
-                round.setAnswerBoxText(coin(0.5) ? right : right + "X");
-                round.submitAnswer();
-                if (round.answerBoxOpen()) {
-                    round.toggleAnswerBox();
+                box.setText(coin(0.5) ? right : right + "X");
+                box.submit();
+                if (box.isOpen()) {
+                    box.toggle();
                 }
             } else if (coin(0.04)) {
                 board->keyTyped(BoardModel::WindowKey::Delete);

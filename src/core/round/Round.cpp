@@ -3,10 +3,9 @@
 #include "round/Round.h"
 
 #include "ports/Dialogs.h"
-#include "ports/Random.h"
-#include "round/ThemeSelection.h"
 #include "state/SharedState.h"
 #include "words/Text.h"
+#include "words/ThemeCatalogue.h"
 
 namespace quillora {
 
@@ -29,28 +28,11 @@ const std::string kNewGame = "NUEVA PARTIDA";
 const std::string kPlay = "JUGAR";
 const std::string kLeaveQuestion = "¿Seguro de salirse de la partida?";
 
-// The answer box shows the typed text in capitals, accented letters too, so
-// the player sees the very letter that gets the answer refused.
-char32_t answerUpper(char32_t c) {
-    if (c >= U'\u00E0' && c <= U'\u00FE' && c != U'\u00F7') {
-        return c - 0x20;
-    }
-    if (c == U'\u00FF') {
-        return U'\u0178';
-    }
-    return gameUpper(c);
-}
-
-bool answerCharAllowed(char32_t c) {
-    return (c >= U'0' && c <= U'9') || (c >= U'A' && c <= U'Z') || c == kUpperEnye || c == U' ';
-}
-
 } // namespace
 
 Round::Round(SharedState& shared, Dialogs& dialogs, Random& random, RoundEvents* events)
-    : m_shared(shared), m_dialogs(dialogs), m_random(random),
-      m_events(events ? *events : m_noEvents) {
-    m_catalogue.initDrawRanges();
+    : m_shared(shared), m_dialogs(dialogs), m_events(events ? *events : m_noEvents),
+      m_answerBox(*this, dialogs, m_events), m_choice(*this, shared, random, m_events) {
     // The listener may not be built yet: the board's first reset tells it
     // nothing.
     resetBoard();
@@ -119,120 +101,14 @@ GameStart Round::play() {
     if (!m_shared.settings.autoPhrase) {
         return GameStart::ThemeWindow;
     }
-    if (m_shared.tourPosition >= 1) {
-        drawTourPhrase();
-    } else {
-        prepareThemeWindow();
-        drawThemeAndPhrase();
-        layDrawnPhrase();
-    }
+    m_choice.layAutomaticPhrase();
     return GameStart::Started;
-}
-
-void Round::prepareThemeWindow() {
-    m_randomTheme = markedThemes(m_shared.current()) > 1;
-    m_catalogue.loadThemeNames();
-    m_themeWindowLabel = m_randomTheme ? "????" : m_catalogue.themeName(m_shared.settings.theme);
-}
-
-int Round::drawPhraseNumber() {
-    int number = m_random.drawHalfRange(m_catalogue.phraseDrawRange());
-    while (number == m_shared.previousPhraseNumber) {
-        number = m_random.drawHalfRange(m_catalogue.phraseDrawRange());
-    }
-    return number;
-}
-
-void Round::drawThemeAndPhrase() {
-    m_catalogue.initDrawRanges();
-    if (m_randomTheme) {
-        const auto& selected = m_shared.current().selectedThemes;
-        m_gameTheme = m_random.drawHalfRange(m_catalogue.themeDrawRange());
-        // The draw gives 0..49; a 0 drawn again stands for the fiftieth theme.
-        while (!selected[static_cast<std::size_t>(m_gameTheme)]) {
-            m_gameTheme = m_random.drawHalfRange(m_catalogue.themeDrawRange());
-            if (m_gameTheme == 0) {
-                m_gameTheme = m_catalogue.themeCount();
-            }
-        }
-    } else {
-        m_gameTheme = m_shared.settings.theme;
-    }
-    m_phraseNumber = drawPhraseNumber();
-    m_catalogue.loadPhrases(m_gameTheme);
-    m_drawnPhrase = m_catalogue.phrase(m_phraseNumber + 1);
-    m_gameThemeName = m_themeWindowLabel;
-}
-
-void Round::layDrawnPhrase() {
-    layCataloguePhrase(true);
-}
-
-void Round::drawTourPhrase() {
-    m_catalogue.loadThemeNames();
-    m_gameThemeName = m_catalogue.themeName(m_shared.tourPosition);
-    m_catalogue.initDrawRanges();
-    m_gameTheme = m_shared.tourPosition;
-    m_phraseNumber = drawPhraseNumber();
-    m_catalogue.loadPhrases(m_gameTheme);
-    m_drawnPhrase = m_catalogue.phrase(m_phraseNumber + 1);
-    layCataloguePhrase(false);
-}
-
-void Round::layCataloguePhrase(bool mayStartAuto) {
-    const auto slot = static_cast<std::size_t>(m_shared.currentSlot);
-    m_shared.sessions[slot].lastThemeName = m_gameThemeName;
-    if (mayStartAuto &&
-        m_shared.sessions[slot].previousThemeName == m_shared.sessions[slot].lastThemeName) {
-        switchAutoOn();
-    } else {
-        m_shared.sessions[slot].previousThemeName = m_shared.sessions[slot].lastThemeName;
-    }
-    startPhrase(m_drawnPhrase, m_gameTheme, m_gameThemeName);
-}
-
-void Round::switchAutoOn() {
-    m_shared.settings.autoPhrase = true;
-}
-
-bool Round::autoMarkerVisible() const {
-    return m_shared.settings.autoPhrase;
-}
-
-void Round::toggleAutoPhrase() {
-    if (!m_shared.settings.autoPhrase) {
-        switchAutoOn();
-    } else {
-        m_shared.settings.autoPhrase = false;
-        endTour(m_shared);
-    }
-    m_autoCaption = "A";
-    m_autoTooltip = " Desactivar la frase automática. ";
-    if (!m_state.over) {
-        m_events.titleChanged();
-    }
-    m_events.settingsChanged();
-}
-
-void Round::startTour() {
-    beginTour(m_shared);
-    switchAutoOn();
-    m_events.titleChanged();
-    showTourMarker();
-    m_events.settingsChanged();
-    drawTourPhrase();
-}
-
-void Round::showTourMarker() {
-    m_autoCaption = "T";
-    m_autoTooltip = " Desactivar el tour temático. ";
 }
 
 void Round::startPhrase(const std::string& phrase, int theme, const std::string& themeLabel) {
     m_pendingPhrase = toU32(phrase);
     m_pendingLetterTotal = PhraseBoard::countLetters(m_pendingPhrase);
     m_gameTheme = theme;
-    m_gameThemeName = themeLabel;
     m_playCaption = kNewGame;
     m_status = kPlaying + "...";
     m_themeLabel = themeLabel;
@@ -245,7 +121,7 @@ void Round::layPendingPhrase() {
         return;
     }
     m_counterVisible = true;
-    m_shared.previousPhraseNumber = m_phraseNumber;
+    m_shared.previousPhraseNumber = m_choice.phraseNumber();
     m_shared.lastGameTheme = m_themeLabel;
     m_state.waitingForPhrase = false;
     requestSound(kSoundNewPhrase);
@@ -282,7 +158,7 @@ void Round::resetBoard() {
     m_deathColours = false;
     m_digitPanelVisible = false;
     m_counterVisible = false;
-    closeAnswerBox();
+    m_answerBox.close();
     m_board.lay(U"", 0);
     m_state.over = false;
     m_lookUpVisible = false;
@@ -308,7 +184,7 @@ void Round::typeKey(char32_t typed) {
         guess(key.letter);
         break;
     case KeyAction::ToggleAnswer:
-        toggleAnswerBox();
+        m_answerBox.toggle();
         break;
     case KeyAction::ToggleDigits:
         showDigitPanel(!m_digitPanelVisible);
@@ -325,7 +201,7 @@ void Round::clickKey(int key) {
     if (key >= 1 && key <= 37) {
         guess(keyLetter(key));
     } else if (key == kWriteKey) {
-        toggleAnswerBox();
+        m_answerBox.toggle();
     } else {
         showDigitPanel(key == kDigitPanelKey);
     }
@@ -398,7 +274,7 @@ void Round::advanceFigure() {
     m_deathColours = true;
     m_board.showMissed();
     m_designEnabled = false;
-    closeAnswerBox();
+    m_answerBox.close();
     if (pointsCount()) {
         m_events.roundLost();
     }
@@ -411,18 +287,11 @@ void Round::endRound(const std::string& caption) {
     m_state.over = true;
     // Every game ends under its theme's own name; a friend's phrase has
     // none, and shows the catalogue's "no theme".
-    m_catalogue.loadThemeNames();
-    m_themeLabel = m_catalogue.themeName(m_gameTheme);
+    m_themeLabel = ThemeCatalogue::storedThemeName(m_gameTheme);
     m_events.roundEnded(toUtf8(m_board.answerText()));
-    advanceTour();
+    m_choice.moveTourOn();
     m_lookUpVisible = true;
     m_state.manyErrors = false;
-}
-
-void Round::advanceTour() {
-    if (m_shared.tourPosition >= 1) {
-        m_shared.tourPosition = m_shared.tourPosition % m_catalogue.themeCount() + 1;
-    }
 }
 
 void Round::checkWin() {
@@ -443,50 +312,8 @@ void Round::checkWin() {
 
 // --- the whole answer ---------------------------------------------------------------
 
-void Round::closeAnswerBox() {
-    m_answerBoxOpen = false;
-    m_answerText.clear();
-}
-
-void Round::toggleAnswerBox() {
-    if (m_answerBoxOpen) {
-        closeAnswerBox();
-    } else {
-        m_answerBoxOpen = true;
-        m_events.answerBoxOpened();
-    }
-}
-
-bool Round::submitAnswer() {
-    if (!m_answerBoxOpen || !inPlay()) {
-        return false;
-    }
-    std::u32string typed = toU32(m_answerText);
-    for (char32_t& c : typed) {
-        c = answerUpper(c);
-    }
-    m_answerText = toUtf8(typed);
-    for (char32_t c : typed) {
-        if (!answerCharAllowed(c)) {
-            m_dialogs.exclamation(
-                "Espere, hay mínimo un símbolo o letra con acento, revise si los hay y quítelos.");
-            return false;
-        }
-    }
-    if (!m_dialogs.yesNo("¿Está seguro?, morirá si se equivoca.")) {
-        return false;
-    }
-    // The clock keeps running behind the question and may have ended the
-    // game meanwhile: an answer to a lost game changes nothing.
-    if (!inPlay()) {
-        return true;
-    }
-    compareAnswer();
-    return true;
-}
-
-void Round::compareAnswer() {
-    if (toU32(m_answerText) == m_board.answerText()) {
+void Round::judgeAnswer(const std::u32string& answer) {
+    if (answer == m_board.answerText()) {
         if (m_board.revealedCount() < m_board.letterTotal() / 2.0) {
             m_state.earlyAnswerBonus = true;
             m_state.strikeSlots.fill("");
@@ -499,7 +326,6 @@ void Round::compareAnswer() {
         m_state.strikeCount = kDeathStrikes;
         advanceFigure();
     }
-    closeAnswerBox();
 }
 
 void Round::fillEmptySlots() {

@@ -3,11 +3,13 @@
 #pragma once
 
 #include "look/BoardLook.h"
+#include "round/AnswerBox.h"
 #include "round/Figure.h"
 #include "round/PendingSound.h"
 #include "round/PhraseBoard.h"
+#include "round/PhraseChoice.h"
+#include "round/RoundEvents.h"
 #include "round/RoundState.h"
-#include "words/ThemeCatalogue.h"
 
 #include <string>
 
@@ -17,31 +19,6 @@ class Dialogs;
 class Random;
 struct SharedState;
 
-// What the end of a game and the passing of turns hand over to the rest of
-// the game (history, tour, points, statistics, players, countdown). The rules
-// of a game do not need to know who listens.
-class RoundEvents {
-public:
-    virtual ~RoundEvents() = default;
-    virtual void nextTurn() {}
-    virtual void phraseLaid() {}
-    virtual void roundWon() {}
-    virtual void roundLost() {}
-    // Every game, won or lost, with or without points, ends with the text
-    // the player had to find.
-    virtual void roundEnded(const std::string& /*answerText*/) {}
-    // The answer box takes the place of the side panels.
-    virtual void answerBoxOpened() {}
-    virtual void countdownStopped() {}
-    virtual void correctionAsked(bool /*asking*/) {}
-    // An option changed that the configuration file keeps.
-    virtual void settingsChanged() {}
-    // The modes shown in the window title may have changed.
-    virtual void titleChanged() {}
-    // The score label is still counting towards the new points.
-    virtual bool scoreCounting() const { return false; }
-};
-
 // What pressing JUGAR leads to.
 enum class GameStart {
     Nothing,      // refused, asked and declined, or the board was only cleared
@@ -50,9 +27,10 @@ enum class GameStart {
     FriendWindow, // a friend types the phrase (FriendPhraseWindow)
 };
 
-// One game of hangman on the board: guessing, strikes, the figure, the whole
-// answer, the strike correction, and what the board shows of all that.
-class Round {
+// One game of hangman on the board: guessing, strikes, the figure, the strike
+// correction, and what the board shows of all that. The whole answer and
+// the choice of the next phrase are parts of their own that it holds.
+class Round final : private AnswerBoxGame, private PhraseChoiceGame {
 public:
     Round(SharedState& shared, Dialogs& dialogs, Random& random, RoundEvents* events = nullptr);
 
@@ -62,34 +40,12 @@ public:
     GameStart play();
     // Clears the board for the next game; refused with many errors.
     void clearBoard();
-    // Back to a neutral board, waiting for a phrase.
-    void startNewBoard();
     // Lays a phrase as the game of `theme`, shown under `themeLabel`.
     void startPhrase(const std::string& phrase, int theme, const std::string& themeLabel);
-    void layPendingPhrase();
 
-    // --- the player's phrase window and the automatic phrase ----------------------
-    // Whether several themes are selected, and the theme the window shows.
-    void prepareThemeWindow();
-    // Draws the theme and the phrase of the next game.
-    void drawThemeAndPhrase();
-    // Lays the drawn phrase; two games of one theme in a row switch the
-    // automatic phrase on.
-    void layDrawnPhrase();
-    void drawTourPhrase();
-    // "Tour temático": the automatic phrase walks every theme from the
-    // first, and the first game of the tour starts at once.
-    void startTour();
-    // The automatic-phrase marker reads "T" while a tour runs.
-    void showTourMarker();
-    void toggleAutoPhrase();
-    bool randomTheme() const { return m_randomTheme; }
-    const std::string& themeWindowLabel() const { return m_themeWindowLabel; }
-    const std::string& drawnPhrase() const { return m_drawnPhrase; }
-    bool autoMarkerVisible() const;
-    const std::string& autoMarkerCaption() const { return m_autoCaption; }
-    const std::string& autoMarkerTooltip() const { return m_autoTooltip; }
-    int phraseNumber() const { return m_phraseNumber; }
+    // --- the parts ------------------------------------------------------------------
+    AnswerBox& answerBox() { return m_answerBox; }
+    PhraseChoice& phraseChoice() { return m_choice; }
 
     // --- guessing -----------------------------------------------------------
     bool inPlay() const { return m_board.letterTotal() > 0 && !m_state.over; }
@@ -102,16 +58,6 @@ public:
     // before, or a new letter found or missed.
     enum class GuessEffect { None, AlreadyTried, Hit, Miss };
     GuessEffect lastGuess() const { return m_lastGuess; }
-    void playGuessedLetter();
-
-    // --- the whole answer -----------------------------------------------------
-    void toggleAnswerBox();
-    bool answerBoxOpen() const { return m_answerBoxOpen; }
-    const std::string& answerBoxText() const { return m_answerText; }
-    void setAnswerBoxText(std::string text) { m_answerText = std::move(text); }
-    bool answerOkEnabled() const { return !m_answerText.empty(); }
-    // OK of the answer box: false when the box stays open for more typing.
-    bool submitAnswer();
 
     // --- the strike correction --------------------------------------------------
     bool correctionOffered() const;
@@ -154,21 +100,30 @@ public:
     Lamp lamp() const { return m_lamp; }
     // After the death the score and theme take the red lamp colour.
     bool deathColours() const { return m_deathColours; }
-    std::u32string writeKeyCaption() const { return m_answerBoxOpen ? U"Cancelar" : U"Escribir"; }
     int gameTheme() const { return m_gameTheme; }
-    const std::string& gameThemeName() const { return m_gameThemeName; }
 
 private:
+    // What the parts ask of the game.
+    bool takesAnswers() const override { return inPlay(); }
+    void judgeAnswer(const std::u32string& answer) override;
+    void layChosenPhrase(const std::string& phrase, int theme,
+                         const std::string& themeName) override {
+        startPhrase(phrase, theme, themeName);
+    }
+    bool gameOver() const override { return m_state.over; }
+
+    // Back to a neutral board, waiting for a phrase.
+    void startNewBoard();
     void resetBoard();
+    void layPendingPhrase();
+    void playGuessedLetter();
     void checkAlreadyTried();
     void recordMiss();
     void advanceFigure();
     void checkWin();
-    void compareAnswer();
     // A death that does not come from a wrong letter takes every strike left.
     void fillEmptySlots();
     void endRound(const std::string& caption);
-    void closeAnswerBox();
     void showDigitPanel(bool shown) { m_digitPanelVisible = shown; }
     void light(Lamp lamp);
     void lightYellowLamp() { light(Lamp::Yellow); }
@@ -176,17 +131,13 @@ private:
     void lightRedLamp() { light(Lamp::Red); }
     void requestSound(int number);
     bool pointsCount() const;
-    int drawPhraseNumber();
-    void layCataloguePhrase(bool switchAutoOn);
-    void switchAutoOn();
-    void advanceTour();
 
     SharedState& m_shared;
     Dialogs& m_dialogs;
-    Random& m_random;
     RoundEvents m_noEvents;
     RoundEvents& m_events;
-    ThemeCatalogue m_catalogue;
+    AnswerBox m_answerBox;
+    PhraseChoice m_choice;
 
     PhraseBoard m_board;
     RoundState m_state;
@@ -196,20 +147,10 @@ private:
     std::u32string m_pendingPhrase;
     int m_pendingLetterTotal = 0;
     int m_gameTheme = 0;
-    std::string m_gameThemeName;
-    int m_phraseNumber = 0;
-
-    bool m_randomTheme = false;
-    std::string m_themeWindowLabel;
-    std::string m_drawnPhrase;
-    std::string m_autoCaption = "A";
-    std::string m_autoTooltip = " Desactivar la frase automática. ";
 
     std::string m_status = "NUEVA PARTIDA";
     std::string m_playCaption = "JUGAR";
     std::string m_themeLabel;
-    std::string m_answerText;
-    bool m_answerBoxOpen = false;
     bool m_counterVisible = false;
     bool m_digitPanelVisible = false;
     bool m_lookUpVisible = false;

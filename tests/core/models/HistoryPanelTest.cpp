@@ -115,7 +115,7 @@ TEST_F(HistoryPanelTest, HistoryAndThemesTakeTurnsBesideTheBoard) {
 
     model.panels().toggleHistory();
     model.round().startPhrase("CASA", 1, "ANIMAL");
-    model.round().toggleAnswerBox();
+    model.round().answerBox().toggle();
     EXPECT_FALSE(model.panels().side().shown()) << "the answer box takes the panel's place";
 }
 

@@ -46,7 +46,7 @@ protected:
     }
     std::string savedLine(int n) const { return storedLine(shared.currentSession().filePath, n); }
 
-    ThemesListModel list{shared, model.round(), dialogs};
+    ThemesListModel list{shared, model.round().phraseChoice(), dialogs};
 };
 
 TEST_F(ListModelTest, OnlyTwoOrMoreMarkedThemesShowHighlightedAndAceptarFollowsTheHighlights) {
@@ -90,9 +90,9 @@ TEST_F(ListModelTest, AcceptingStoresTheTableAndOneThemeAloneBecomesTheTheme) {
     EXPECT_TRUE(shared.current().selectedThemes[3] && shared.current().selectedThemes[8] &&
                 shared.current().selectedThemes[40]);
     EXPECT_FALSE(shared.current().selectedThemes[20]);
-    EXPECT_EQ(model.round().themeWindowLabel(), "????") << "the phrase window drew again";
-    EXPECT_EQ(model.round().gameTheme(), 3);
-    EXPECT_EQ(model.round().drawnPhrase(), ThemeCatalogue::storedPhrase(3, 3));
+    const PhraseChoice& choice = model.round().phraseChoice();
+    EXPECT_EQ(choice.themeWindowLabel(), "????") << "the phrase window drew again";
+    EXPECT_EQ(choice.drawnPhrase(), ThemeCatalogue::storedPhrase(3, 3));
     EXPECT_TRUE(shared.themeChosen);
 
     list.load();
@@ -101,8 +101,8 @@ TEST_F(ListModelTest, AcceptingStoresTheTableAndOneThemeAloneBecomesTheTheme) {
     ASSERT_EQ(list.acceptChoice(), Outcome::Accepted);
     EXPECT_EQ(shared.settings.theme, 12);
     EXPECT_EQ(savedLine(11), "12") << "the chosen theme is saved at once";
-    EXPECT_EQ(model.round().themeWindowLabel(), std::string(ThemeCatalogue::storedThemeName(12)));
-    EXPECT_EQ(model.round().drawnPhrase(), ThemeCatalogue::storedPhrase(12, 6));
+    EXPECT_EQ(choice.themeWindowLabel(), std::string(ThemeCatalogue::storedThemeName(12)));
+    EXPECT_EQ(choice.drawnPhrase(), ThemeCatalogue::storedPhrase(12, 6));
     EXPECT_FALSE(shared.current().selectedThemes[40]);
 }
 
@@ -165,9 +165,10 @@ TEST_F(TourTest, ATourWalksEveryThemeInOrderWrapsAndGivesTheSelectionBack) {
     ASSERT_EQ(list.tour(), Outcome::Tour);
     EXPECT_EQ(shared.tourPosition, 1);
     EXPECT_TRUE(shared.settings.autoPhrase);
-    EXPECT_TRUE(model.round().autoMarkerVisible());
-    EXPECT_EQ(model.round().autoMarkerCaption(), "T");
-    EXPECT_EQ(model.round().autoMarkerTooltip(), " Desactivar el tour temático. ");
+    const PhraseChoice& choice = model.round().phraseChoice();
+    EXPECT_TRUE(choice.autoMarkerVisible());
+    EXPECT_EQ(choice.autoMarkerCaption(), "T");
+    EXPECT_EQ(choice.autoMarkerTooltip(), " Desactivar el tour temático. ");
     EXPECT_FALSE(shared.current().selectedThemes[5]) << "the tour borrows the table";
     EXPECT_EQ(model.round().themeLabel(), ThemeCatalogue::storedThemeName(1))
         << "the first game starts at once";
@@ -184,7 +185,7 @@ TEST_F(TourTest, ATourWalksEveryThemeInOrderWrapsAndGivesTheSelectionBack) {
     EXPECT_FALSE(shared.settings.autoPhrase);
     EXPECT_TRUE(shared.current().selectedThemes[5] && shared.current().selectedThemes[9]);
     EXPECT_EQ(shared.current().selectedThemes[1], false);
-    EXPECT_EQ(model.round().autoMarkerCaption(), "A");
+    EXPECT_EQ(choice.autoMarkerCaption(), "A");
 }
 
 TEST_F(TourTest, TheTourStaysWithItsUserThroughASwitchAndBack) {
@@ -210,7 +211,7 @@ TEST_F(TourTest, TheTourStaysWithItsUserThroughASwitchAndBack) {
     BoardModel board{shared, dialogs, random, desktop.lookUp};
     board.load();
     EXPECT_TRUE(shared.settings.autoPhrase);
-    EXPECT_EQ(board.round().autoMarkerCaption(), "T");
+    EXPECT_EQ(board.round().phraseChoice().autoMarkerCaption(), "T");
     random.queue({phrase(5)});
     ASSERT_EQ(board.playPressed(), GameStart::Started) << "no phrase window during a tour";
     EXPECT_EQ(board.round().gameTheme(), 4);

@@ -28,10 +28,10 @@ public:
     }
     // Types a whole answer and presses OK, answering the question with `yes`.
     bool answer(const std::string& typed, bool yes = true) {
-        round.toggleAnswerBox();
-        round.setAnswerBoxText(typed);
+        box.toggle();
+        box.setText(typed);
         dialogs.answer({yes});
-        return round.submitAnswer();
+        return box.submit();
     }
     const RoundState& st() const { return round.state(); }
     void restart(const std::string& phrase = "CASA") {
@@ -52,6 +52,8 @@ public:
     QueuedRandom random;
     RecordingEvents events;
     Round round{shared, dialogs, random, &events};
+    AnswerBox& box = round.answerBox();
+    PhraseChoice& choice = round.phraseChoice();
 };
 
 TEST_F(RoundTest, KeysGuessOrToggleOnlyWhileAGameIsInPlay) {
@@ -60,7 +62,7 @@ TEST_F(RoundTest, KeysGuessOrToggleOnlyWhileAGameIsInPlay) {
     }
     round.clickKey(kDigitPanelKey);
     EXPECT_TRUE(round.board().triedLetters().empty());
-    EXPECT_FALSE(round.digitPanelVisible() || round.answerBoxOpen());
+    EXPECT_FALSE(round.digitPanelVisible() || box.isOpen());
 
     start("NIÑO");
     EXPECT_EQ(round.pendingSound().number(), 2);
@@ -70,11 +72,12 @@ TEST_F(RoundTest, KeysGuessOrToggleOnlyWhileAGameIsInPlay) {
     EXPECT_EQ(round.board().triedLetters(), U"\u00D1O");
     EXPECT_TRUE(round.board().cell(3).revealed && round.board().cell(4).revealed);
     round.typeKey(U'!');
-    EXPECT_EQ(round.writeKeyCaption(), U"Cancelar");
-    round.setAnswerBoxText("NI");
+    EXPECT_EQ(box.writeKeyCaption(), U"Cancelar");
+    box.setText("NI");
     round.clickKey(kWriteKey);
-    EXPECT_FALSE(round.answerBoxOpen());
-    EXPECT_TRUE(round.answerBoxText().empty());
+    EXPECT_FALSE(box.isOpen());
+    EXPECT_EQ(box.writeKeyCaption(), U"Escribir");
+    EXPECT_TRUE(box.text().empty());
     round.typeKey(U'#');
     EXPECT_TRUE(round.digitPanelVisible());
     round.clickKey(kCloseDigitsKey);
@@ -161,22 +164,22 @@ TEST_F(RoundTest, RepeatedLetterOnlyLightsTheYellowLamp) {
 
 TEST_F(RoundTest, SymbolsAndAccentsKeepTheAnswerBoxOpenInCapitals) {
     start();
-    round.toggleAnswerBox();
+    box.toggle();
     const std::vector<std::pair<std::string, std::string>> refused{
         {"CAS@", "CAS@"}, {"casá", "CASÁ"}, {"pingüino", "PINGÜINO"}, {"la\tcasa", "LA\tCASA"}};
     for (const auto& [typed, shown] : refused) {
-        round.setAnswerBoxText(typed);
-        EXPECT_FALSE(round.submitAnswer());
-        EXPECT_TRUE(round.answerBoxOpen());
-        EXPECT_EQ(round.answerBoxText(), shown);
+        box.setText(typed);
+        EXPECT_FALSE(box.submit());
+        EXPECT_TRUE(box.isOpen());
+        EXPECT_EQ(box.text(), shown);
     }
     ASSERT_EQ(dialogs.shown.size(), refused.size()) << "no question after a refusal";
-    for (const auto& box : dialogs.shown) {
-        EXPECT_EQ(box.icon, Dialogs::Icon::Exclamation);
+    for (const auto& notice : dialogs.shown) {
+        EXPECT_EQ(notice.icon, Dialogs::Icon::Exclamation);
         EXPECT_EQ(
-            box.text,
+            notice.text,
             "Espere, hay mínimo un símbolo o letra con acento, revise si los hay y quítelos.");
-        EXPECT_EQ(box.title, "Quillora Vesta");
+        EXPECT_EQ(notice.title, "Quillora Vesta");
     }
     EXPECT_FALSE(st().over);
 }
@@ -186,15 +189,15 @@ TEST_F(RoundTest, AnsweringNoKeepsTheBoxOpenAndYesComparesInCapitals) {
     EXPECT_FALSE(answer("codigo genetico", false));
     EXPECT_TRUE(lastShown().question);
     EXPECT_EQ(lastShown().text, "¿Está seguro?, morirá si se equivoca.");
-    EXPECT_TRUE(round.answerBoxOpen());
-    EXPECT_EQ(round.answerBoxText(), "CODIGO GENETICO");
+    EXPECT_TRUE(box.isOpen());
+    EXPECT_EQ(box.text(), "CODIGO GENETICO");
     EXPECT_FALSE(st().over);
 
     dialogs.answer({true});
-    EXPECT_TRUE(round.submitAnswer());
+    EXPECT_TRUE(box.submit());
     EXPECT_EQ(round.status(), "¡VICTORIA!");
-    EXPECT_FALSE(round.answerBoxOpen());
-    EXPECT_TRUE(round.answerBoxText().empty());
+    EXPECT_FALSE(box.isOpen());
+    EXPECT_TRUE(box.text().empty());
     EXPECT_EQ(round.board().counterText(), "14/14");
     EXPECT_TRUE(round.board().cell(22).revealed);
 }
@@ -233,7 +236,7 @@ TEST_F(RoundTest, WrongWholeAnswerFillsTheEmptySlotsAndKills) {
     EXPECT_EQ(round.status(), "¡MUERTO!");
     EXPECT_TRUE(round.figure().hanging());
     EXPECT_EQ(round.pendingSound().number(), 3);
-    EXPECT_FALSE(round.answerBoxOpen());
+    EXPECT_FALSE(box.isOpen());
     EXPECT_EQ(events.lost, 0) << "a friend's game scores nothing";
 }
 
@@ -369,9 +372,9 @@ protected:
     // Plays through the theme window: opening draws, accepting lays.
     void playThroughWindow() {
         ASSERT_EQ(round.play(), GameStart::ThemeWindow);
-        round.prepareThemeWindow();
-        round.drawThemeAndPhrase();
-        round.layDrawnPhrase();
+        choice.prepareThemeWindow();
+        choice.drawThemeAndPhrase();
+        choice.layDrawnPhrase();
     }
     void finishGame() {
         // Every letter of the alphabet ends any catalogue game one way or the other.
@@ -387,10 +390,11 @@ TEST_F(RoundStartTest, OneOrNoSelectedThemeUsesTheThemeSetting) {
     shared.sessions[0].selectedThemes[7] = true; // a single selection is not a random theme
     random.queue({phrase(3)});
     playThroughWindow();
-    EXPECT_FALSE(round.randomTheme());
-    EXPECT_EQ(round.themeWindowLabel(), "FRUTA");
+    const std::string themeName(ThemeCatalogue::storedThemeName(20));
+    EXPECT_FALSE(choice.randomTheme());
+    EXPECT_EQ(choice.themeWindowLabel(), themeName);
     EXPECT_EQ(laid(), ThemeCatalogue::storedPhrase(20, 4));
-    EXPECT_EQ(round.themeLabel(), "FRUTA");
+    EXPECT_EQ(round.themeLabel(), themeName);
     EXPECT_EQ(round.status(), "JUGANDO...");
     EXPECT_EQ(round.playCaption(), "NUEVA PARTIDA");
 }
@@ -401,8 +405,8 @@ TEST_F(RoundStartTest, SeveralThemesDrawOnlySelectedOnesAndHideTheName) {
     // 12 is not selected, a 0 drawn again stands for theme 50.
     random.queue({theme(12), theme(0), phrase(4)});
     playThroughWindow();
-    EXPECT_TRUE(round.randomTheme());
-    EXPECT_EQ(round.themeWindowLabel(), "????");
+    EXPECT_TRUE(choice.randomTheme());
+    EXPECT_EQ(choice.themeWindowLabel(), "????");
     EXPECT_EQ(round.gameTheme(), 50);
     EXPECT_EQ(round.themeLabel(), "????") << "the theme shows only at the end";
     EXPECT_EQ(shared.sessions[0].lastThemeName, "????");
@@ -417,7 +421,7 @@ TEST_F(RoundStartTest, TheSamePhraseNumberNeverComesTwiceInARowEvenOnANewBoard) 
     shared.settings.theme = 9; // another theme: the rule compares numbers only
     random.queue({phrase(6), phrase(6), phrase(2)});
     playThroughWindow();
-    EXPECT_EQ(round.phraseNumber(), 2);
+    EXPECT_EQ(choice.phraseNumber(), 2);
     EXPECT_EQ(laid(), ThemeCatalogue::storedPhrase(9, 3));
     finishGame();
 
@@ -425,9 +429,9 @@ TEST_F(RoundStartTest, TheSamePhraseNumberNeverComesTwiceInARowEvenOnANewBoard) 
     Round next{shared, dialogs, random, &events};
     random.queue({phrase(2), phrase(4)});
     ASSERT_EQ(next.play(), GameStart::ThemeWindow);
-    next.prepareThemeWindow();
-    next.drawThemeAndPhrase();
-    EXPECT_EQ(next.phraseNumber(), 4);
+    next.phraseChoice().prepareThemeWindow();
+    next.phraseChoice().drawThemeAndPhrase();
+    EXPECT_EQ(next.phraseChoice().phraseNumber(), 4);
 }
 
 TEST_F(RoundStartTest, EveryGameEndsUnderItsThemeAndLeavesItsThemeForTheNextFriend) {
@@ -448,9 +452,9 @@ TEST_F(RoundStartTest, EveryGameEndsUnderItsThemeAndLeavesItsThemeForTheNextFrie
     EXPECT_EQ(FriendPhraseModel(shared).themeText(), "Frase de Ana");
 }
 
-TEST_F(RoundStartTest, ANewBoardRebuildsTheTitle) {
+TEST_F(RoundStartTest, ClearingTheBoardRebuildsTheTitle) {
     const int before = events.titles;
-    round.startNewBoard();
+    round.clearBoard();
     EXPECT_EQ(events.titles, before + 1);
 }
 
@@ -463,7 +467,7 @@ TEST_F(RoundStartTest, TwoGamesOfOneThemeSwitchTheAutomaticPhraseOn) {
     random.queue({phrase(2)});
     playThroughWindow();
     EXPECT_TRUE(shared.settings.autoPhrase);
-    EXPECT_TRUE(round.autoMarkerVisible());
+    EXPECT_TRUE(choice.autoMarkerVisible());
     finishGame();
 
     random.queue({phrase(3)});
@@ -475,16 +479,18 @@ TEST_F(RoundStartTest, SwitchingTheAutomaticPhraseOffEndsTheTourAndRestoresTheSe
     shared.settings.autoPhrase = true;
     shared.tourPosition = 12;
     shared.sessions[0].tourCopy[5] = shared.sessions[0].tourCopy[9] = true;
-    round.toggleAutoPhrase();
+    choice.showTourMarker(); // as a board opened during the tour shows it
+    choice.toggleAutoPhrase();
     EXPECT_FALSE(shared.settings.autoPhrase);
     EXPECT_EQ(shared.tourPosition, 0);
     EXPECT_TRUE(shared.sessions[0].selectedThemes[5] && shared.sessions[0].selectedThemes[9]);
-    EXPECT_FALSE(round.autoMarkerVisible());
+    EXPECT_FALSE(choice.autoMarkerVisible());
+    EXPECT_EQ(choice.autoMarkerCaption(), "A") << "no tour any more";
     EXPECT_EQ(events.saved, 1);
-    round.toggleAutoPhrase();
+    choice.toggleAutoPhrase();
     EXPECT_TRUE(shared.settings.autoPhrase);
-    EXPECT_EQ(round.autoMarkerCaption(), "A");
-    EXPECT_EQ(round.autoMarkerTooltip(), " Desactivar la frase automática. ");
+    EXPECT_TRUE(choice.autoMarkerVisible());
+    EXPECT_EQ(shared.tourPosition, 0) << "switching on starts no tour";
 }
 
 } // namespace

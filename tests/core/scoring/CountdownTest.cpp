@@ -189,14 +189,15 @@ TEST_F(CountdownGame, ANewGameStopsTheClockAndAChangedModeWaitsForTheNextGame) {
 
 TEST_F(CountdownGame, TimeRunningOutBehindTheAnswerQuestionIsTheOnlyDeath) {
     start("SOL", 2);
-    model.round().toggleAnswerBox();
-    model.round().setAnswerBoxText("LUNA");
+    AnswerBox& box = model.round().answerBox();
+    box.toggle();
+    box.setText("LUNA");
     dialogs.onAsk = [&] { runTo(0); };
     dialogs.answer({true});
-    model.round().submitAnswer();
+    box.submit();
     EXPECT_EQ(events.lost, 1);
     EXPECT_EQ(shared.normalPoints, -1000);
-    EXPECT_FALSE(model.round().answerBoxOpen());
+    EXPECT_FALSE(box.isOpen());
 }
 
 } // namespace

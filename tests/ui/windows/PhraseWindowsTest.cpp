@@ -36,7 +36,8 @@ TEST_F(PhraseWindows, TheDrawnPhraseIsNeverHeardAndTheThemesAreChosenFromTheKeys
     ThemeWindow* words = window->themeWindow();
     ASSERT_NE(words, nullptr);
     activate(words);
-    const QString drawn = QString::fromStdString(window->model().round().drawnPhrase());
+    const QString drawn =
+        QString::fromStdString(window->model().round().phraseChoice().drawnPhrase());
     ASSERT_FALSE(drawn.isEmpty());
     {
         const AccessibleTree tree(words);
@@ -72,7 +73,8 @@ TEST_F(PhraseWindows, TheDrawnPhraseIsNeverHeardAndTheThemesAreChosenFromTheKeys
     EXPECT_EQ(words->themesList(), nullptr);
     EXPECT_TRUE(shared.current().selectedThemes[1] && shared.current().selectedThemes[2]);
     EXPECT_EQ(words->themeLabel()->text(), "????");
-    const QString redrawn = QString::fromStdString(window->model().round().drawnPhrase());
+    const QString redrawn =
+        QString::fromStdString(window->model().round().phraseChoice().drawnPhrase());
     EXPECT_FALSE(AccessibleTree(words).everything().contains(redrawn, Qt::CaseInsensitive));
 
     activate(words);

@@ -15,7 +15,7 @@ void BoardCommands::clearBoard() {
 }
 
 void BoardCommands::toggleAutoPhrase() {
-    m_round.toggleAutoPhrase();
+    m_round.phraseChoice().toggleAutoPhrase();
 }
 
 void BoardCommands::toggleSounds() {

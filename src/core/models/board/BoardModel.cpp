@@ -64,7 +64,7 @@ void BoardModel::load() {
     // A tour that is still running keeps the automatic phrase on.
     if (m_shared.tourPosition >= 1) {
         m_shared.settings.autoPhrase = true;
-        m_round.showTourMarker();
+        m_round.phraseChoice().showTourMarker();
     }
     step([this] { m_turn.refresh(); });
     // A keyboard kept open is there at once; the climb that follows an
@@ -197,7 +197,7 @@ GameStart BoardModel::keyTyped(WindowKey key, char32_t character) {
         m_sessions.togglePanel();
         break;
     case WindowKey::ToggleAuto:
-        m_round.toggleAutoPhrase();
+        m_round.phraseChoice().toggleAutoPhrase();
         break;
     case WindowKey::ToggleSounds:
         m_commands.toggleSounds();

@@ -58,9 +58,9 @@ std::string spokenCellDescription(const PhraseBoard& board, int cell) {
     return where;
 }
 
-std::string spokenKeyName(const Round& round, int key) {
+std::string spokenKeyName(const AnswerBox& answer, int key) {
     if (key == kWriteKey) {
-        return toUtf8(round.writeKeyCaption());
+        return toUtf8(answer.writeKeyCaption());
     }
     return toUtf8(keyCaption(key));
 }

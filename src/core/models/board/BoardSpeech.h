@@ -10,6 +10,7 @@
 
 namespace quillora {
 
+class AnswerBox;
 class Round;
 
 // What a screen reader is told about the board, in Spanish. Each text is
@@ -26,7 +27,7 @@ std::string spokenCellDescription(const PhraseBoard& board, int cell);
 
 // A key of the on-screen keyboard by its caption ("Cancelar" while the answer
 // box is open).
-std::string spokenKeyName(const Round& round, int key);
+std::string spokenKeyName(const AnswerBox& answer, int key);
 // A letter or digit key: "sin probar", or tried and whether the board shows
 // it in the phrase; the other keys say what they do.
 std::string spokenKeyDescription(const Round& round, int key);

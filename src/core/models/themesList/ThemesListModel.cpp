@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "models/themesList/ThemesListModel.h"
 
-#include "round/Round.h"
+#include "round/PhraseChoice.h"
 #include "round/ThemeSelection.h"
 #include "state/SharedState.h"
 #include "storage/ConfigFile.h"
@@ -12,8 +12,8 @@
 
 namespace quillora {
 
-ThemesListModel::ThemesListModel(SharedState& shared, Round& round, Dialogs& dialogs)
-    : m_shared(shared), m_round(round), m_dialogs(dialogs) {}
+ThemesListModel::ThemesListModel(SharedState& shared, PhraseChoice& choice, Dialogs& dialogs)
+    : m_shared(shared), m_choice(choice), m_dialogs(dialogs) {}
 
 void ThemesListModel::load() {
     SessionSlot& slot = m_shared.current();
@@ -71,8 +71,8 @@ ThemesListModel::Outcome ThemesListModel::acceptChoice() {
     }
     m_shared.themeChosen = true;
     saveSettings(m_shared, m_dialogs);
-    m_round.prepareThemeWindow();
-    m_round.drawThemeAndPhrase();
+    m_choice.prepareThemeWindow();
+    m_choice.drawThemeAndPhrase();
     return Outcome::Accepted;
 }
 
@@ -86,7 +86,7 @@ ThemesListModel::Outcome ThemesListModel::tickGo() {
 
 ThemesListModel::Outcome ThemesListModel::tour() {
     m_going = false;
-    m_round.startTour();
+    m_choice.startTour();
     return Outcome::Tour;
 }
 

@@ -8,7 +8,7 @@
 namespace quillora {
 
 class Dialogs;
-class Round;
+class PhraseChoice;
 struct SharedState;
 
 // "Lista de temas:": the player who plays alone marks the themes the game
@@ -40,7 +40,7 @@ public:
         Tour
     };
 
-    ThemesListModel(SharedState& shared, Round& round, Dialogs& dialogs);
+    ThemesListModel(SharedState& shared, PhraseChoice& choice, Dialogs& dialogs);
 
     // The opening: two or more marked themes show highlighted; fewer show
     // none, so a single theme is never taken for a choice made here.
@@ -68,7 +68,7 @@ public:
 
 private:
     SharedState& m_shared;
-    Round& m_round;
+    PhraseChoice& m_choice;
     Dialogs& m_dialogs;
     std::vector<std::string> m_names;
     std::vector<bool> m_highlighted;

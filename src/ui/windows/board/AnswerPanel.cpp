@@ -4,8 +4,8 @@
 
 #include "look/Twips.h"
 #include "platform/Fonts.h"
+#include "round/AnswerBox.h"
 #include "round/Keyboard.h"
-#include "round/Round.h"
 #include "windows/QtColour.h"
 #include "windows/TypedTextFilter.h"
 #include "windows/board/BoardAccessible.h"
@@ -21,10 +21,9 @@ namespace {
 constexpr int kLeft = 3000, kTop = 4290, kWidth = 8295, kHeight = 540;
 } // namespace
 
-AnswerPanel::AnswerPanel(Round& round, std::function<void()> changed,
+AnswerPanel::AnswerPanel(AnswerBox& box, std::function<void()> changed,
                          std::function<bool(QKeyEvent*)> shortcut, QWidget* board)
-    : QWidget(board), m_round(round), m_changed(std::move(changed)),
-      m_shortcut(std::move(shortcut)) {
+    : QWidget(board), m_box(box), m_changed(std::move(changed)), m_shortcut(std::move(shortcut)) {
     setObjectName(QStringLiteral("answerFrame"));
     setGeometry(px(kLeft), px(kTop), px(kWidth), px(kHeight));
     setAttribute(Qt::WA_StyledBackground);
@@ -44,8 +43,8 @@ AnswerPanel::AnswerPanel(Round& round, std::function<void()> changed,
     });
     m_wordBox->installEventFilter(this);
     connect(m_wordBox, &QLineEdit::textChanged, this, [this](const QString& text) {
-        m_round.setAnswerBoxText(text.toStdString());
-        m_okButton->setEnabled(m_round.answerOkEnabled());
+        m_box.setText(text.toStdString());
+        m_okButton->setEnabled(m_box.okEnabled());
     });
     m_okButton = new QPushButton(QStringLiteral("OK"), this);
     m_okButton->setGeometry(px(7470), px(60), px(765), px(420));
@@ -63,26 +62,26 @@ void AnswerPanel::paint(const QString& gameColour) {
 }
 
 void AnswerPanel::sync() {
-    const Round& round = m_round;
+    const AnswerBox& box = m_box;
     const bool wasOpen = isVisible();
-    setVisible(round.answerBoxOpen());
-    const QString boxText = qs(round.answerBoxText());
+    setVisible(box.isOpen());
+    const QString boxText = qs(box.text());
     if (m_wordBox->text() != boxText) {
         m_wordBox->setText(boxText);
     }
-    m_okButton->setEnabled(round.answerOkEnabled());
-    if (round.answerBoxOpen() && !wasOpen) {
+    m_okButton->setEnabled(box.okEnabled());
+    if (box.isOpen() && !wasOpen) {
         m_wordBox->setFocus();
-    } else if (!round.answerBoxOpen() && wasOpen) {
+    } else if (!box.isOpen() && wasOpen) {
         parentWidget()->setFocus();
     }
 }
 
 void AnswerPanel::okPressed() {
-    m_round.setAnswerBoxText(m_wordBox->text().toStdString());
-    const bool answered = m_round.submitAnswer();
+    m_box.setText(m_wordBox->text().toStdString());
+    const bool answered = m_box.submit();
     m_changed();
-    if (!answered && m_round.answerBoxOpen()) {
+    if (!answered && m_box.isOpen()) {
         m_wordBox->setFocus();
         m_wordBox->end(false);
     }
@@ -103,7 +102,7 @@ bool AnswerPanel::eventFilter(QObject* watched, QEvent* event) {
         return true;
     }
     if (key->text() == QStringLiteral("!")) {
-        m_round.toggleAnswerBox();
+        m_box.toggle();
         m_changed();
         return true;
     }

@@ -13,14 +13,14 @@ class QPushButton;
 
 namespace quillora {
 
-class Round;
+class AnswerBox;
 
 // The box for answering the whole phrase at once.
 class AnswerPanel final : public QWidget {
 public:
     // `shortcut` gives the board's own keys the first word while the box has
     // the focus; it answers whether it took the key.
-    AnswerPanel(Round& round, std::function<void()> changed,
+    AnswerPanel(AnswerBox& box, std::function<void()> changed,
                 std::function<bool(QKeyEvent*)> shortcut, QWidget* board);
 
     void sync();
@@ -35,7 +35,7 @@ protected:
 private:
     void okPressed();
 
-    Round& m_round;
+    AnswerBox& m_box;
     std::function<void()> m_changed;
     std::function<bool(QKeyEvent*)> m_shortcut;
     QLabel* m_promptLabel = nullptr;

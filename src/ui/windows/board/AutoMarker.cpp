@@ -5,7 +5,7 @@
 #include "look/Twips.h"
 #include "models/board/BoardSpeech.h"
 #include "platform/Fonts.h"
-#include "round/Round.h"
+#include "round/PhraseChoice.h"
 #include "windows/QtColour.h"
 #include "windows/board/BoardAccessible.h"
 
@@ -15,8 +15,8 @@ namespace {
 constexpr int kLeft = 2610, kTop = 345, kSize = 330;
 } // namespace
 
-AutoMarker::AutoMarker(Round& round, std::function<void()> changed, QWidget* board)
-    : QLabel(board), m_round(round), m_changed(std::move(changed)) {
+AutoMarker::AutoMarker(PhraseChoice& choice, std::function<void()> changed, QWidget* board)
+    : QLabel(board), m_choice(choice), m_changed(std::move(changed)) {
     setGeometry(px(kLeft), px(kTop), px(kSize), px(kSize));
     setAlignment(Qt::AlignCenter);
     setFont(Fonts::display(9));
@@ -27,11 +27,11 @@ AutoMarker::AutoMarker(Round& round, std::function<void()> changed, QWidget* boa
 }
 
 void AutoMarker::sync() {
-    const Round& round = m_round;
-    setVisible(round.autoMarkerVisible());
-    setText(qs(round.autoMarkerCaption()));
-    setToolTip(qs(round.autoMarkerTooltip()));
-    setSpokenName(this, qs(spokenAutoMarker(round.autoMarkerCaption())));
+    const PhraseChoice& choice = m_choice;
+    setVisible(choice.autoMarkerVisible());
+    setText(qs(choice.autoMarkerCaption()));
+    setToolTip(qs(choice.autoMarkerTooltip()));
+    setSpokenName(this, qs(spokenAutoMarker(choice.autoMarkerCaption())));
 }
 
 void AutoMarker::mousePressEvent(QMouseEvent*) {
@@ -40,7 +40,7 @@ void AutoMarker::mousePressEvent(QMouseEvent*) {
 }
 
 void AutoMarker::mouseReleaseEvent(QMouseEvent*) {
-    m_round.toggleAutoPhrase();
+    m_choice.toggleAutoPhrase();
     m_changed();
 }
 

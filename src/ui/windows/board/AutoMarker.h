@@ -8,13 +8,13 @@
 
 namespace quillora {
 
-class Round;
+class PhraseChoice;
 
 // The automatic-phrase marker: "A", or "T" while a
 // thematic tour runs; a click switches the automatic phrase off or on.
 class AutoMarker final : public QLabel {
 public:
-    AutoMarker(Round& round, std::function<void()> changed, QWidget* board);
+    AutoMarker(PhraseChoice& choice, std::function<void()> changed, QWidget* board);
 
     void sync();
 
@@ -23,7 +23,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    Round& m_round;
+    PhraseChoice& m_choice;
     std::function<void()> m_changed;
 };
 

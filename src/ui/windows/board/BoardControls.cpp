@@ -83,11 +83,12 @@ BoardControls::BoardControls(BoardModel& model, QWidget* board, const BoardActio
     // The small twin of JUGAR: it plays too, and keys typed on it are guesses.
     smallPlayButton = new SmallPlayButton(round, scoring, settings, actions.play, board);
     lookUpLabel = new LookUpLabel(round, model.lookUps(), board);
-    answerPanel = new AnswerPanel(round, changed, actions.shortcut, board);
-    keyboard = new KeyboardView(round, model.keyFaces(), actions.areasChanged, board);
+    answerPanel = new AnswerPanel(round.answerBox(), changed, actions.shortcut, board);
+    keyboard =
+        new KeyboardView(round, round.answerBox(), model.keyFaces(), actions.areasChanged, board);
     scorePanel = new ScorePanel(scoring, model.scorePulse(), model.turn(), panels, changed,
                                 actions.names, board);
-    autoMarker = new AutoMarker(round, changed, board);
+    autoMarker = new AutoMarker(round.phraseChoice(), changed, board);
     soundButton = new SoundButton(model.commands(), model.keyFaces(), settings, changed, board);
     againLabels = new AgainLabels(model.survival(), changed, board);
     sessionPanel = new SessionPanel(model.sessions(), model.appearance(), changed, board);

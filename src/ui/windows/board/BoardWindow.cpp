@@ -339,7 +339,8 @@ void BoardWindow::handleStart(GameStart start) {
         m_friendWindow->open();
     } else if (start == GameStart::ThemeWindow && !m_themeWindow) {
         m_themeWindow = new ThemeWindow(
-            m_model.round(), m_model.shared(), m_boardDialogs, [this] { sync(); }, this);
+            m_model.round().phraseChoice(), m_model.shared(), m_boardDialogs, [this] { sync(); },
+            this);
         opened(m_themeWindow, m_themeWindow);
         m_themeWindow->open();
     }

@@ -63,7 +63,7 @@ public:
     QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
 private:
-    QString name() const override { return qs(spokenKeyName(round(), m_part)); }
+    QString name() const override { return qs(spokenKeyName(m_view->answerBox(), m_part)); }
     QString description() const override { return qs(spokenKeyDescription(round(), m_part)); }
     QRect partRect() const override { return m_view->keyRect(m_part); }
     const Round& round() const { return m_view->round(); }

@@ -29,10 +29,11 @@ constexpr double kWideKeyFontPoints = 10;
 
 } // namespace
 
-KeyboardView::KeyboardView(const Round& round, KeyFaces& faces,
+KeyboardView::KeyboardView(const Round& round, const AnswerBox& answer, KeyFaces& faces,
                            std::function<void(BoardAreas)> changed, QWidget* parent)
-    : QWidget(parent), m_round(round), m_mouse(faces), m_changed(std::move(changed)),
-      m_keyFont(Fonts::display(kKeyFontPoints)), m_wideKeyFont(Fonts::display(kWideKeyFontPoints)) {
+    : QWidget(parent), m_round(round), m_answer(answer), m_mouse(faces),
+      m_changed(std::move(changed)), m_keyFont(Fonts::display(kKeyFontPoints)),
+      m_wideKeyFont(Fonts::display(kWideKeyFontPoints)) {
     setMouseTracking(true);
     setGeometry(px(kLeftTwips), px(kTopTwips), px(kWidthTwips), px(kHeightTwips));
     setAccessibleName(QStringLiteral("Teclado"));
@@ -56,7 +57,7 @@ KeyboardView::Face KeyboardView::faceOf(int key) const {
     const char32_t letter = keyLetter(key);
     return Face{keyShown(key), keyUsable(key), letter != 0 && round.board().alreadyTried(letter),
                 m_mouse.face(key),
-                key == kWriteKey ? round.writeKeyCaption() : std::u32string(keyCaption(key))};
+                key == kWriteKey ? m_answer.writeKeyCaption() : std::u32string(keyCaption(key))};
 }
 
 void KeyboardView::sync() {
@@ -74,7 +75,7 @@ void KeyboardView::sync() {
             continue;
         }
         update(keyRect(key));
-        Spoken now{qs(spokenKeyName(m_round, key)), qs(spokenKeyDescription(m_round, key)),
+        Spoken now{qs(spokenKeyName(m_answer, key)), qs(spokenKeyDescription(m_round, key)),
                    face.shown, face.usable};
         Spoken& before = m_spoken[index];
         const int child = KeyboardAccessible::childOfKey(key);
@@ -161,7 +162,7 @@ void KeyboardView::paintEvent(QPaintEvent* event) {
         p.setFont(key >= 38 ? m_wideKeyFont : m_keyFont);
         p.setPen(qc(look.caption));
         const std::u32string caption =
-            key == kWriteKey ? m_round.writeKeyCaption() : std::u32string(keyCaption(key));
+            key == kWriteKey ? m_answer.writeKeyCaption() : std::u32string(keyCaption(key));
         p.drawText(r, Qt::AlignCenter, QString::fromStdU32String(caption));
     }
 }

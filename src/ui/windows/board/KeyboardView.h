@@ -17,6 +17,7 @@
 
 namespace quillora {
 
+class AnswerBox;
 class KeyFaces;
 class Round;
 
@@ -24,8 +25,8 @@ class Round;
 // releases go to the model, which decides the faces and what a click does.
 class KeyboardView final : public QWidget {
 public:
-    KeyboardView(const Round& round, KeyFaces& faces, std::function<void(BoardAreas)> changed,
-                 QWidget* parent);
+    KeyboardView(const Round& round, const AnswerBox& answer, KeyFaces& faces,
+                 std::function<void(BoardAreas)> changed, QWidget* parent);
 
     static constexpr int kLeftTwips = 120;
     static constexpr int kTopTwips = 4920;
@@ -44,6 +45,7 @@ public:
     bool keyShown(int key) const;
     bool keyUsable(int key) const;
     const Round& round() const { return m_round; }
+    const AnswerBox& answerBox() const { return m_answer; }
     // A whole click on the key, as a screen reader asks for one.
     void press(int key);
     // Repaints, and tells a screen reader of every key that changed.
@@ -78,6 +80,7 @@ private:
     Face faceOf(int key) const;
 
     const Round& m_round;
+    const AnswerBox& m_answer;
     KeyFaces& m_mouse;
     std::function<void(BoardAreas)> m_changed;
     std::array<Spoken, kKeyCount> m_spoken{};

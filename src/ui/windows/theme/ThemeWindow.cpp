@@ -4,7 +4,7 @@
 
 #include "look/Twips.h"
 #include "platform/Fonts.h"
-#include "round/Round.h"
+#include "round/PhraseChoice.h"
 #include "state/SharedState.h"
 #include "windows/AccessibleControl.h"
 #include "windows/ButtonLike.h"
@@ -26,9 +26,9 @@ constexpr int kHeightTwips = 2160;
 
 } // namespace
 
-ThemeWindow::ThemeWindow(Round& round, SharedState& shared, Dialogs& dialogs,
+ThemeWindow::ThemeWindow(PhraseChoice& choice, SharedState& shared, Dialogs& dialogs,
                          std::function<void()> changed, QWidget* board)
-    : QDialog(board), m_round(round), m_shared(shared), m_dialogs(dialogs),
+    : QDialog(board), m_choice(choice), m_shared(shared), m_dialogs(dialogs),
       m_changed(std::move(changed)) {
     const Palette& palette = shared.palette;
     setWindowTitle(QStringLiteral("EL TEMA ES:"));
@@ -87,8 +87,8 @@ ThemeWindow::ThemeWindow(Round& round, SharedState& shared, Dialogs& dialogs,
     m_okButton->setFocus();
     new FocusRing(this);
 
-    m_round.prepareThemeWindow();
-    m_round.drawThemeAndPhrase();
+    m_choice.prepareThemeWindow();
+    m_choice.drawThemeAndPhrase();
     showDraw();
 
     if (board) {
@@ -113,12 +113,12 @@ void ThemeWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 void ThemeWindow::showDraw() {
-    m_themeLabel->setText(qs(m_round.themeWindowLabel()));
-    m_wordBox->setText(qs(m_round.drawnPhrase()));
+    m_themeLabel->setText(qs(m_choice.themeWindowLabel()));
+    m_wordBox->setText(qs(m_choice.drawnPhrase()));
 }
 
 void ThemeWindow::acceptPhrase() {
-    m_round.layDrawnPhrase();
+    m_choice.layDrawnPhrase();
     m_finished = true;
     accept();
     if (m_changed) {
@@ -131,7 +131,7 @@ void ThemeWindow::openThemesList() {
         return;
     }
     m_list = new ThemesListWindow(
-        m_shared, m_round, m_dialogs,
+        m_shared, m_choice, m_dialogs,
         [this](ThemesListModel::Outcome outcome) {
             switch (outcome) {
             case ThemesListModel::Outcome::Accepted:

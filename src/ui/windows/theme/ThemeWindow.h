@@ -13,7 +13,7 @@ class QPushButton;
 namespace quillora {
 
 class Dialogs;
-class Round;
+class PhraseChoice;
 struct SharedState;
 class ThemesListWindow;
 
@@ -23,8 +23,8 @@ class ThemeWindow final : public QDialog {
 public:
     // `changed` runs whenever the board has something new to show: a phrase
     // laid, or a tour started from the themes list.
-    ThemeWindow(Round& round, SharedState& shared, Dialogs& dialogs, std::function<void()> changed,
-                QWidget* board);
+    ThemeWindow(PhraseChoice& choice, SharedState& shared, Dialogs& dialogs,
+                std::function<void()> changed, QWidget* board);
 
     QLabel* themeLabel() const { return m_themeLabel; }
     QPushButton* acceptButton() const { return m_okButton; }
@@ -41,7 +41,7 @@ private:
     void showDraw();
     void acceptPhrase();
 
-    Round& m_round;
+    PhraseChoice& m_choice;
     SharedState& m_shared;
     Dialogs& m_dialogs;
     std::function<void()> m_changed;

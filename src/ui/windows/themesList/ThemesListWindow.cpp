@@ -27,10 +27,10 @@ constexpr int kListTop = 600;
 constexpr int kButtonHeight = 480;
 } // namespace
 
-ThemesListWindow::ThemesListWindow(SharedState& shared, Round& round, Dialogs& dialogs,
+ThemesListWindow::ThemesListWindow(SharedState& shared, PhraseChoice& choice, Dialogs& dialogs,
                                    std::function<void(ThemesListModel::Outcome)> done,
                                    QWidget* phraseWindow)
-    : QDialog(phraseWindow), m_model(shared, round, dialogs), m_done(std::move(done)) {
+    : QDialog(phraseWindow), m_model(shared, choice, dialogs), m_done(std::move(done)) {
     setWindowTitle(QStringLiteral("Lista de temas:"));
     setWindowModality(Qt::WindowModal);
     setFixedSize(px(kWidthTwips), px(kHeightTwips));

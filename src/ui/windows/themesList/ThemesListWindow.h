@@ -22,7 +22,7 @@ struct Palette;
 // as an outcome, and the list closes.
 class ThemesListWindow final : public QDialog {
 public:
-    ThemesListWindow(SharedState& shared, Round& round, Dialogs& dialogs,
+    ThemesListWindow(SharedState& shared, PhraseChoice& choice, Dialogs& dialogs,
                      std::function<void(ThemesListModel::Outcome)> done, QWidget* phraseWindow);
 
     ThemesListModel& model() { return m_model; }
