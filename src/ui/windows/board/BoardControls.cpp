@@ -68,7 +68,7 @@ BoardControls::BoardControls(BoardModel& model, QWidget* board, const BoardActio
     Scoring& scoring = model.scoring();
     themeBox = new ThemeBox(round, scoring, panels, model.tip(), changed, board);
 
-    counterLabel = new QLabel(QStringLiteral("XX/YY"), board);
+    counterLabel = new RoundedLabel(board, QStringLiteral("XX/YY"));
     counterLabel->setGeometry(twipRect(kCounterLeft, kCounterTop, kCounterWidth, kCounterHeight));
     counterLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     counterLabel->setFont(Fonts::display(12));

@@ -9,8 +9,10 @@
 #include "windows/QtColour.h"
 #include "windows/board/BoardAccessible.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QRegion>
 
 namespace quillora {
 
@@ -27,6 +29,38 @@ QPen pen(Rgb colour, int widthPixels) {
     QPen p(qc(colour), widthPixels * kTwipsPerPixel);
     p.setCapStyle(Qt::RoundCap);
     return p;
+}
+
+// Where a part stands, in pixels, with room for the widest pen around it; an
+// empty rectangle for a part not shown.
+QRect partRect(const Figure& figure, Figure::Part part) {
+    if (!figure.visible(part)) {
+        return {};
+    }
+    QRectF area;
+    switch (part) {
+    case Figure::Head:
+        area = box(figure.headBox());
+        break;
+    case Figure::Face:
+        area = box(figure.faceBox());
+        break;
+    case Figure::PanicPicture:
+        area = box(Figure::panicPictureBox());
+        break;
+    case Figure::Trapdoor:
+        area = box(Figure::trapdoorBox());
+        break;
+    default: {
+        const QLineF l = line(figure.line(part));
+        area = QRectF(l.p1(), l.p2()).normalized();
+        break;
+    }
+    }
+    constexpr int kPenRoom = 6;
+    const QRectF pixels(area.left() / kTwipsPerPixel, area.top() / kTwipsPerPixel,
+                        area.width() / kTwipsPerPixel, area.height() / kTwipsPerPixel);
+    return pixels.toAlignedRect().adjusted(-kPenRoom, -kPenRoom, kPenRoom, kPenRoom);
 }
 
 // The little drop of sweat that shows when the figure starts to panic.
@@ -58,12 +92,45 @@ GallowsView::GallowsView(const Figure& figure, QWidget* parent)
 }
 
 void GallowsView::sync() {
-    update();
+    QRegion changed;
+    for (int index = 0; index < Figure::PartCount; ++index) {
+        const auto part = static_cast<Figure::Part>(index);
+        const QRect now = partRect(m_figure, part);
+        QRect& before = m_painted[static_cast<std::size_t>(index)];
+        if (now != before) {
+            changed += before;
+            changed += now;
+            before = now;
+        }
+    }
+    if (m_figure.faceText() != m_paintedFace) {
+        m_paintedFace = m_figure.faceText();
+        changed += m_painted[Figure::Face];
+    }
+    if (!changed.isEmpty()) {
+        m_drawn = QPixmap();
+        update(changed);
+    }
     setSpokenName(this, qs(spokenFigure(m_figure)));
 }
 
-void GallowsView::paintEvent(QPaintEvent*) {
+void GallowsView::paintEvent(QPaintEvent* event) {
+    const qreal ratio = devicePixelRatioF();
+    if (m_drawn.isNull() || m_drawn.deviceIndependentSize() != QSizeF(size()) ||
+        m_drawn.devicePixelRatio() != ratio) {
+        m_drawn = QPixmap(size() * ratio);
+        m_drawn.setDevicePixelRatio(ratio);
+        m_drawn.fill(Qt::transparent);
+        QPainter drawing(&m_drawn);
+        draw(drawing);
+    }
+    const QRect area = event->rect();
     QPainter p(this);
+    p.drawPixmap(area, m_drawn,
+                 QRectF(QPointF(area.topLeft()) * ratio, QSizeF(area.size()) * ratio));
+}
+
+void GallowsView::draw(QPainter& p) const {
     p.setRenderHint(QPainter::Antialiasing);
     p.scale(1.0 / kTwipsPerPixel, 1.0 / kTwipsPerPixel);
 

@@ -2,11 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "round/Figure.h"
+
+#include <QPixmap>
+#include <QRect>
+#include <QString>
 #include <QWidget>
 
-namespace quillora {
+#include <array>
 
-class Figure;
+namespace quillora {
 
 // The gallows and the figure, drawn in the board's twips straight from the
 // figure's state.
@@ -18,14 +23,25 @@ public:
     static constexpr int kWidthTwips = 2760;
     static constexpr int kHeightTwips = 4320;
 
-    // Repaints, and names the figure by the strikes it shows.
+    // Repaints what changed of the figure, and names it by the strikes it
+    // shows.
     void sync();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void draw(QPainter& p) const;
+
     const Figure& m_figure;
+    // The drawing as the figure stands: the score's panel over the gallows
+    // wears the lamp's colour and repaints after every letter, and what lies
+    // under it is then copied rather than drawn again.
+    QPixmap m_drawn;
+    // Each part as last painted: a strike adds one part, and only its place
+    // is painted again, not the gallows and the controls over it.
+    std::array<QRect, Figure::PartCount> m_painted{};
+    std::string m_paintedFace;
 };
 
 } // namespace quillora

@@ -38,11 +38,11 @@ ScorePanel::ScorePanel(Scoring& scoring, const ScorePulse& pulse, PlayersTurn& t
     setAccessibleRole(m_scoreFrame, QAccessible::Grouping);
     m_scoreFrame->setAccessibleName(QStringLiteral("Puntos"));
     m_scoreFrame->setGeometry(0, 0, px(kWidth), px(kHeight));
-    auto* caption = new QLabel(QStringLiteral(" Puntos "), m_scoreFrame);
+    auto* caption = new RoundedLabel(m_scoreFrame, QStringLiteral(" Puntos "));
     caption->setGeometry(0, px(15), px(kWidth), px(kCaptionHeight));
     caption->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     caption->setFont(Fonts::display(7));
-    m_scoreLabel = new QLabel(m_scoreFrame);
+    m_scoreLabel = new RoundedLabel(m_scoreFrame);
     m_scoreLabel->setGeometry(0, px(kCaptionHeight), px(kWidth), px(kHeight - 240));
     m_scoreLabel->setAlignment(Qt::AlignCenter);
     m_scoreLabel->setFont(Fonts::display(14));
@@ -60,7 +60,7 @@ ScorePanel::ScorePanel(Scoring& scoring, const ScorePulse& pulse, PlayersTurn& t
     setAccessibleRole(m_playerFrame, QAccessible::Grouping);
     m_playerFrame->setAccessibleName(QStringLiteral("Jugador"));
     m_playerFrame->setGeometry(0, 0, px(kWidth), px(kHeight));
-    m_player1Label = new QLabel(m_playerFrame);
+    m_player1Label = new RoundedLabel(m_playerFrame);
     m_player1Label->setGeometry(0, 0, px(kWidth), px(kHeight));
     m_player1Label->setAlignment(Qt::AlignCenter);
     m_player1Label->setFont(Fonts::display(11));

@@ -34,10 +34,10 @@ ThemeBox::ThemeBox(const Round& round, const Scoring& scoring, SidePanels& panel
     setObjectName(QStringLiteral("shpTheme"));
     setAccessibleRole(this, QAccessible::Grouping);
     setAccessibleName(QStringLiteral("Tema"));
-    m_captionLabel = new QLabel(QStringLiteral("Tema"), this);
+    m_captionLabel = new RoundedLabel(this, QStringLiteral("Tema"));
     m_captionLabel->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     m_captionLabel->setFont(Fonts::display(7));
-    m_themeLabel = new QLabel(this);
+    m_themeLabel = new RoundedLabel(this);
     m_themeLabel->setAlignment(Qt::AlignCenter);
     m_themeLabel->setFont(Fonts::display(kThemePoints));
     m_themeLabel->setAccessibleDescription(QStringLiteral("Tema"));
