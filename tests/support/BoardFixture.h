@@ -5,6 +5,7 @@
 #include "models/start/StartScreenModel.h"
 #include "support/Fakes.h"
 #include "support/TempFolder.h"
+#include "windows/QtColour.h"
 #include "windows/RoundedLabel.h"
 #include "windows/board/AgainLabels.h"
 #include "windows/board/AnswerPanel.h"
@@ -19,6 +20,7 @@
 #include "windows/board/StrikeStrip.h"
 #include "windows/board/ThemeBox.h"
 #include "windows/theme/ThemeWindow.h"
+#include "words/ThemeCatalogue.h"
 
 #include <QDragEnterEvent>
 #include <QLabel>
@@ -61,12 +63,13 @@ protected:
     }
     void TearDown() override { window.reset(); }
 
-    // Theme 1 ("ANIMAL"), phrase 2 ("VACA"), through the theme window.
+    // Theme 1, phrase 2 ("VACA"), through the theme window.
     void startVaca() {
         random.queue({0.05});
         QTest::keyClick(window.get(), Qt::Key_Return);
         ASSERT_NE(window->themeWindow(), nullptr);
-        EXPECT_EQ(window->themeWindow()->themeLabel()->text(), "ANIMAL");
+        EXPECT_EQ(window->themeWindow()->themeLabel()->text(),
+                  qs(std::string(ThemeCatalogue::storedThemeName(1))));
         QTest::mouseClick(window->themeWindow()->acceptButton(), Qt::LeftButton);
     }
     void type(const QString& text, QWidget* target = nullptr) {

@@ -9,11 +9,11 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cctype>
 #include <map>
 #include <set>
 #include <string>
 #include <string_view>
-#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -354,50 +354,77 @@ TEST_F(OptionsModelTest, MenuTicksOnceAndHidesThePages) {
 
 // --- keys on the page list -----------------------------------------------------------------------
 
+// The letter each caption underlines does, from the page list, what its
+// entry is: ticks its box or takes the focus to its field. Every box has one
+// digit of its own on its page as well, and "G&uardar" and " &Menú" answer on
+// every page.
 TEST_F(OptionsModelTest, KeysOnThePageListSayWhatTheWindowDoes) {
     givenFile(fileLines());
     open();
-    // Every key of `keys` on `page` does `expected`.
-    const auto expectKeys = [this](Page page, std::u32string_view keys,
-                                   OptionsModel::KeyAction expected) {
-        model->choosePage(page);
-        for (const char32_t key : keys) {
-            SCOPED_TRACE(::testing::Message() << OptionsModel::pageName(page) << " U+" << std::hex
-                                              << static_cast<unsigned>(key));
-            const OptionsModel::KeyAction action = model->keyOnList(key);
-            EXPECT_EQ(action.kind, expected.kind);
-            EXPECT_EQ(action.box, expected.box);
-            EXPECT_EQ(action.field, expected.field);
-            EXPECT_EQ(action.openEditor, expected.openEditor);
+    using Kind = OptionsModel::Kind;
+    const std::map<int, Field> fieldOf{{OptionsModel::kStyleField, Field::Style},
+                                       {OptionsModel::kThemeField, Field::Theme},
+                                       {OptionsModel::kColourField, Field::ColourCode}};
+    std::map<int, Page> pageOf;
+    for (const OptionsModel::Entry& entry : OptionsModel::entries()) {
+        SCOPED_TRACE(std::string(entry.caption));
+        if (entry.kind == Kind::Check) {
+            pageOf[entry.index] = entry.page;
         }
+        const std::size_t mark = entry.caption.find('&');
+        if (mark == std::string_view::npos) {
+            continue; // the name field and the colours button underline nothing
+        }
+        model->choosePage(entry.page);
+        const auto letter = static_cast<unsigned char>(entry.caption.at(mark + 1));
+        for (const int key : {std::tolower(letter), std::toupper(letter)}) {
+            const OptionsModel::KeyAction action = model->keyOnList(static_cast<char32_t>(key));
+            if (entry.kind == Kind::Check) {
+                EXPECT_EQ(action.kind, Act::Box) << key;
+                EXPECT_EQ(action.box, entry.index) << key;
+            } else {
+                EXPECT_EQ(action.kind, Act::Focus) << key;
+                EXPECT_EQ(action.field, fieldOf.at(entry.index)) << key;
+            }
+        }
+    }
+
+    std::map<int, int> digits; // box, digits that tick it
+    for (const Page page : {Page::Personal, Page::Visual, Page::Functional, Page::RawLines}) {
+        model->choosePage(page);
+        for (char32_t digit = U'1'; digit <= U'9'; ++digit) {
+            const OptionsModel::KeyAction action = model->keyOnList(digit);
+            if (action.kind == Act::Box) {
+                ++digits[action.box];
+                EXPECT_EQ(pageOf.at(action.box), page) << "a box on a hidden page";
+            }
+        }
+        for (const char32_t key : {U'u', U'U'}) {
+            EXPECT_EQ(model->keyOnList(key).kind, Act::Save);
+        }
+        for (const char32_t key : {U'm', U'M'}) {
+            EXPECT_EQ(model->keyOnList(key).kind, Act::Menu);
+        }
+        EXPECT_EQ(model->keyOnList(U'\u00d1').kind, Act::None);
+    }
+    for (const auto& [box, page] : pageOf) {
+        EXPECT_EQ(digits[box], 1) << "box " << box;
+    }
+
+    // The keys no caption on the pages underlines.
+    const auto expectKey = [this](Page page, char32_t key, OptionsModel::KeyAction expected) {
+        model->choosePage(page);
+        const OptionsModel::KeyAction action = model->keyOnList(key);
+        EXPECT_EQ(action.kind, expected.kind) << static_cast<unsigned>(key);
+        EXPECT_EQ(action.field, expected.field) << static_cast<unsigned>(key);
+        EXPECT_EQ(action.openEditor, expected.openEditor) << static_cast<unsigned>(key);
     };
-    constexpr auto P = Page::Personal, V = Page::Visual, F = Page::Functional, L = Page::RawLines;
-    // The digit and the letter of each box, page by page.
-    const std::vector<std::tuple<Page, std::u32string, int>> boxes{
-        {P, U"1p", 0}, {P, U"2S", 1}, {P, U"3E", 11}, {P, U"4C", 2}, {P, U"5D", 10},
-        {V, U"2s", 3}, {V, U"3L", 4}, {V, U"4I", 5},  {V, U"5E", 6}, {F, U"1S", 7},
-        {F, U"2A", 8}, {F, U"3W", 9}, {F, U"4J", 12}, {F, U"5T", 13}};
-    for (const auto& [page, keys, box] : boxes) {
-        expectKeys(page, keys, {Act::Box, box});
-    }
-    for (const Page page : {P, V, F, L}) {
-        expectKeys(page, U"Uu", {Act::Save});
-        expectKeys(page, U"Mm", {Act::Menu});
-    }
-    expectKeys(P, U"6N", {Act::Focus, -1, Field::Name});
-    expectKeys(V, U"1D", {Act::Focus, -1, Field::Style});
-    expectKeys(V, U"6T", {Act::Focus, -1, Field::ColourCode});
-    expectKeys(V, U"7A", {Act::DefaultBlue, -1, Field::None, true});
-    expectKeys(V, U"R", {Act::Focus, -1, Field::Red, true});
-    expectKeys(V, U"g", {Act::Focus, -1, Field::Green, true});
-    expectKeys(V, U"B", {Act::Focus, -1, Field::Blue, true});
-    expectKeys(F, U"6n", {Act::Focus, -1, Field::Theme});
-    expectKeys(L, U"1", {Act::Focus, -1, Field::Labels});
-    expectKeys(L, U"2l", {Act::Focus, -1, Field::Values});
-    for (const auto& [page, keys] : std::vector<std::pair<Page, std::u32string>>{
-             {P, U"7T"}, {V, U"8"}, {F, U"R"}, {L, U"3\u00d1"}}) {
-        expectKeys(page, keys, {Act::None});
-    }
+    expectKey(Page::Personal, U'n', {Act::Focus, -1, Field::Name});
+    expectKey(Page::Visual, U'a', {Act::DefaultBlue, -1, Field::None, true});
+    expectKey(Page::Visual, U'r', {Act::Focus, -1, Field::Red, true});
+    expectKey(Page::Visual, U'B', {Act::Focus, -1, Field::Blue, true});
+    expectKey(Page::RawLines, U'1', {Act::Focus, -1, Field::Labels});
+    expectKey(Page::RawLines, U'l', {Act::Focus, -1, Field::Values});
 }
 
 } // namespace
