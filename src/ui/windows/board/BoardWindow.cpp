@@ -82,7 +82,15 @@ BoardWindow::BoardWindow(SharedState& shared, Dialogs& dialogs, Random& random, 
     sync();
 }
 
-BoardWindow::~BoardWindow() = default;
+BoardWindow::~BoardWindow() {
+    // The board watches itself and its controls; the watch ends before the
+    // controls and the windows over the board go, since their going sends
+    // the board events of its own.
+    removeEventFilter(this);
+    for (QWidget* control : findChildren<QWidget*>()) {
+        control->removeEventFilter(this);
+    }
+}
 
 void BoardWindow::buildTimers() {
     auto timer = [this](int interval, auto tick) {
