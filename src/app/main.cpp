@@ -85,7 +85,7 @@ private:
 
     // The options open where the menu has swollen to their size.
     void openOptions() {
-        auto options = std::make_unique<quillora::OptionsWindow>(m_shared, m_dialogs);
+        auto options = std::make_unique<quillora::OptionsWindow>(m_shared, m_dialogs, m_random);
         options->onMenu = [this, window = options.get()] {
             const QPoint at = window->pos();
             const int width = window->width() * quillora::kTwipsPerPixel;

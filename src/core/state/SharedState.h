@@ -51,6 +51,10 @@ struct SharedState {
     // take their bounds: what the file holds, so a save keeps what a load
     // did not interpret.
     std::array<std::string, 20> configLines{};
+    // The file those values were read from. Until a session's own file has
+    // been read, what memory holds is the start's defaults or the options of
+    // the user before, and no ground for saving over that file.
+    std::string settingsFile;
     Palette palette;
     // Where the configuration files live.
     std::filesystem::path dataFolder;

@@ -309,6 +309,11 @@ std::optional<std::vector<std::string>> readConfigLines(const fs::path& path) {
     return std::move(text->lines);
 }
 
+bool configFileMissing(const fs::path& path) {
+    std::error_code error;
+    return fs::status(path, error).type() == fs::file_type::not_found;
+}
+
 bool writeConfigLines(const fs::path& path, const std::vector<std::string>& lines) {
     if (!path.has_filename()) {
         return false;
@@ -388,7 +393,8 @@ void clearForBoardLoad(SharedState& shared) {
 }
 
 void readSessionFile(SharedState& shared, Random& random) {
-    const auto lines = readConfigLines(shared.currentSession().filePath);
+    shared.settingsFile = shared.currentSession().filePath;
+    const auto lines = readConfigLines(shared.settingsFile);
     if (!lines) {
         line(shared, kLetterStyleLine) = "1";
         line(shared, 8) = "1";
@@ -432,6 +438,16 @@ void applyLineValues(SharedState& shared) {
     if (shared.themeChosen && s.theme >= 0 && s.theme < kThemeFlags) {
         shared.current().selectedThemes[static_cast<std::size_t>(s.theme)] = true;
     }
+}
+
+void loadSessionSettings(SharedState& shared, Random& random) {
+    clearForBoardLoad(shared);
+    readSessionFile(shared, random);
+    applyLineValues(shared);
+}
+
+bool sessionSettingsLoaded(const SharedState& shared) {
+    return !shared.settingsFile.empty() && shared.settingsFile == shared.currentSession().filePath;
 }
 
 bool reportSave(SharedState& shared, Dialogs& dialogs, const std::string& path, bool saved) {

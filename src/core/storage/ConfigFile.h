@@ -75,6 +75,9 @@ std::optional<ConfigText> readConfigText(const std::filesystem::path& path);
 // or cannot be read.
 std::optional<std::string> readConfigBytes(const std::filesystem::path& path);
 std::optional<std::vector<std::string>> readConfigLines(const std::filesystem::path& path);
+// Nothing is there yet (a link to nothing counts as nothing): a file not
+// written yet is no failure to read one.
+bool configFileMissing(const std::filesystem::path& path);
 // Writes the lines, each ended by CR LF, replacing the file in one step: a
 // crash leaves either the old file or the new one, never half of either.
 // A link is written through to its file, the file keeps its mode, and the
@@ -96,6 +99,11 @@ void clearForBoardLoad(SharedState& shared);
 void readSessionFile(SharedState& shared, Random& random);
 // Turns the raw line values into the options, with their bounds.
 void applyLineValues(SharedState& shared);
+// The three above in turn: the options of the current session as the board
+// takes them when it opens.
+void loadSessionSettings(SharedState& shared, Random& random);
+// Whether the options in memory were read from the current session's file.
+bool sessionSettingsLoaded(const SharedState& shared);
 // Writes the live options to the current session's file. A failure leaves
 // the old file whole and tells the player (reportSave).
 bool saveSettings(SharedState& shared, Dialogs& dialogs);

@@ -85,6 +85,10 @@ std::optional<ImportOutcome> offer(SharedState& shared, Dialogs& dialogs, const 
         return ImportOutcome::Declined;
     }
     if (copyToMainFile(*bytes, shared.mainConfigPath())) {
+        // Options read before the copy are no longer what the file holds.
+        if (shared.settingsFile == shared.mainConfigPath().string()) {
+            shared.settingsFile.clear();
+        }
         return ImportOutcome::Copied;
     }
     // A save that failed: told like the game's other failed saves. Nothing

@@ -10,6 +10,7 @@
 
 #include <array>
 #include <cctype>
+#include <fstream>
 #include <map>
 #include <set>
 #include <string>
@@ -54,7 +55,7 @@ protected:
         applyLineValues(shared);
     }
     OptionsModel& open() {
-        model = std::make_unique<OptionsModel>(shared, dialogs);
+        model = std::make_unique<OptionsModel>(shared, dialogs, random);
         model->open();
         return *model;
     }
@@ -277,20 +278,55 @@ TEST_F(OptionsModelTest, TypingWithNoRowSelectedChangesNoLine) {
 
 // --- opening -------------------------------------------------------------------------------------
 
-TEST_F(OptionsModelTest, AnUnreadableFileIsReportedAndThePagesShowMemory) {
-    shared.settings.sounds = false;
+// Straight from the menu, before any board has read the file, and after a
+// change of user, memory holds defaults or another user's options: the
+// window shows and saves the file instead.
+TEST_F(OptionsModelTest, BeforeABoardHasReadTheFileTheWindowShowsAndSavesTheFile) {
+    ASSERT_TRUE(writeConfigLines(file(), fileLines({{12, "1"}}))); // sounds off
+    open();
+    EXPECT_TRUE(dialogs.shown.empty());
+    EXPECT_EQ(ticked(), (std::set<int>{0}));
+    EXPECT_EQ(model->choices().nameText(), "Ana");
+    ASSERT_TRUE(model->save());
+    EXPECT_EQ(savedLines(), fileLines({{12, "1"}}));
+
+    // Another user, whose board has not opened yet.
+    const std::filesystem::path beto = session.folder / "Beto.txt";
+    ASSERT_TRUE(writeConfigLines(beto, fileLines({{8, "1"}, {15, "Beto"}})));
+    shared.sessions[1].record.filePath = beto.string();
+    shared.currentSlot = 1;
+    open();
+    EXPECT_EQ(ticked(), (std::set<int>{7}));
+    EXPECT_EQ(model->choices().nameText(), "Beto");
+}
+
+TEST_F(OptionsModelTest, AMissingFileIsNoFailureButAnUnreadableOneIsReported) {
+    random.queue({0.5});
+    open();
+    EXPECT_TRUE(dialogs.shown.empty());
+    // What the board starts a new user with.
+    EXPECT_TRUE(model->choices().box(7));
+    EXPECT_TRUE(model->choices().box(0));
+    EXPECT_EQ(model->choices().themeText(), "25");
+
+    givenFile(fileLines());
+    shared.settings.sounds = true;
     shared.settings.userName = "Dora";
     shared.settings.theme = 12;
-    open(); // no file yet
+    {
+        std::ofstream garbage(file(), std::ios::binary | std::ios::trunc);
+        garbage << "\x01\x02 no es texto\r\n";
+    }
+    open();
     ASSERT_EQ(dialogs.shown.size(), 1U);
     EXPECT_EQ(dialogs.shown[0].icon, Icon::Error);
     EXPECT_EQ(dialogs.shown[0].text, "Hubo una falla al cargar la configuración, tenga el "
                                      "cuidado de no guardar sin revisar.");
-    EXPECT_FALSE(model->choices().box(7));
+    EXPECT_TRUE(model->choices().box(7));
     EXPECT_EQ(model->choices().nameText(), "Dora");
     EXPECT_EQ(model->choices().themeText(), "12");
     // The free page shows the same, not twenty blanks a save would write.
-    EXPECT_EQ(model->rawLines().values()[7], "0");
+    EXPECT_EQ(model->rawLines().values()[7], "1");
     EXPECT_EQ(model->rawLines().values()[10], "12");
     EXPECT_EQ(model->rawLines().values()[14], "Dora");
 }
@@ -315,7 +351,9 @@ TEST_F(OptionsModelTest, EachSessionSlotRemembersItsPage) {
     model->choosePage(Page::Visual);
     EXPECT_EQ(open().page(), Page::Visual);
 
+    shared.sessions[2].record.filePath = (session.folder / "Eva.txt").string();
     shared.currentSlot = 2;
+    givenFile(fileLines());
     EXPECT_EQ(open().page(), Page::Personal);
     model->choosePage(Page::RawLines);
     EXPECT_EQ(model->commandColour(), kRedLamp);

@@ -196,10 +196,12 @@ TEST_F(ConfigImportTest, TheVersion4FileIsOfferedWhenThereIsNoVersion5) {
 
     SharedState nextRun;
     nextRun.dataFolder = folder;
+    nextRun.settingsFile = mainFile().string(); // a board read it while it was missing
     dialogs.answer({true});
     EXPECT_EQ(offerOldConfig(nextRun, dialogs), Outcome::Copied);
     EXPECT_EQ(questions(), (Texts{kAskVersion4, kAskVersion4}));
     EXPECT_EQ(slurp(mainFile()), "Ana\r\nRoja\r\n");
+    EXPECT_TRUE(nextRun.settingsFile.empty()) << "the options in memory are not the copy's";
     EXPECT_FALSE(nextRun.importDeclined);
 }
 

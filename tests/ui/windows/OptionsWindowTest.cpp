@@ -50,7 +50,7 @@ protected:
         applyLineValues(shared);
     }
     void open() {
-        window = std::make_unique<OptionsWindow>(shared, dialogs);
+        window = std::make_unique<OptionsWindow>(shared, dialogs, random);
         window->onMenu = [this] { ++menus; };
         window->show();
         window->activateWindow();

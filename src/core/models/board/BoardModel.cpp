@@ -50,9 +50,7 @@ void BoardModel::load() {
     });
     step([this] { m_panels.history().load(); });
     step([this] {
-        clearForBoardLoad(m_shared);
-        readSessionFile(m_shared, m_random);
-        applyLineValues(m_shared);
+        loadSessionSettings(m_shared, m_random);
         m_appearance.applyLetterStyle();
         m_appearance.showStoredPicture();
     });

@@ -61,11 +61,17 @@ std::string_view OptionsModel::pageName(Page page) {
     return kPageNames[static_cast<std::size_t>(page)];
 }
 
-OptionsModel::OptionsModel(SharedState& shared, Dialogs& dialogs)
-    : m_shared(shared), m_dialogs(dialogs), m_colourCode(shared.palette),
+OptionsModel::OptionsModel(SharedState& shared, Dialogs& dialogs, Random& random)
+    : m_shared(shared), m_dialogs(dialogs), m_random(random), m_colourCode(shared.palette),
       m_choices(m_colourCode, dialogs), m_colourEditor(m_colourCode), m_rawLines(shared, dialogs) {}
 
 void OptionsModel::open() {
+    // Straight from the menu at the start, or after a change of user, memory
+    // holds the defaults or someone else's options: shown and saved, they
+    // would write over the user's own.
+    if (!sessionSettingsLoaded(m_shared)) {
+        loadSessionSettings(m_shared, m_random);
+    }
     m_rawLines.read();
     m_choices.fill(m_shared.settings);
     choosePage(rememberedPage());

@@ -14,6 +14,7 @@
 namespace quillora {
 
 class Dialogs;
+class Random;
 struct SharedState;
 
 // "Configuración:": the options of the current session on four pages. The
@@ -58,10 +59,12 @@ public:
 
     static std::string_view pageName(Page page);
 
-    OptionsModel(SharedState& shared, Dialogs& dialogs);
+    OptionsModel(SharedState& shared, Dialogs& dialogs, Random& random);
 
     // Reads the session's file into the "LIBRE!" values, fills the option
-    // pages from the options in memory and shows the remembered page.
+    // pages from the options in memory and shows the remembered page. Memory
+    // holding no options of this user yet (no board has opened for them),
+    // they are read from the file first, as the board would read them.
     void open();
 
     // --- the parts -------------------------------------------------------------------
@@ -108,6 +111,7 @@ public:
 private:
     SharedState& m_shared;
     Dialogs& m_dialogs;
+    Random& m_random;
     ColourCodeField m_colourCode;
     OptionChoices m_choices;
     ColourEditorModel m_colourEditor;

@@ -57,8 +57,11 @@ void RawLinesModel::read() {
         fillValues(*lines);
         return;
     }
-    m_dialogs.error("Hubo una falla al cargar la configuración, tenga el cuidado de no "
-                    "guardar sin revisar.");
+    // A file not written yet is a user who has changed nothing so far.
+    if (!configFileMissing(m_shared.currentSession().filePath)) {
+        m_dialogs.error("Hubo una falla al cargar la configuración, tenga el cuidado de no "
+                        "guardar sin revisar.");
+    }
     // The list then shows what the pages show, rather than twenty blanks
     // that a save would write over the file.
     fillValues(settingsLines(m_shared.settings));

@@ -58,8 +58,8 @@ bool isDigit(char32_t c) {
 
 } // namespace
 
-OptionsWindow::OptionsWindow(SharedState& shared, Dialogs& dialogs, QWidget* parent)
-    : QWidget(parent), m_model(shared, dialogs) {
+OptionsWindow::OptionsWindow(SharedState& shared, Dialogs& dialogs, Random& random, QWidget* parent)
+    : QWidget(parent), m_model(shared, dialogs, random) {
     setWindowTitle(QStringLiteral("Configuración:"));
     setObjectName(QStringLiteral("OptionsWindow"));
     setAttribute(Qt::WA_StyledBackground);

@@ -28,7 +28,7 @@ class OptionsWindow final : public QWidget {
 public:
     using Page = OptionsModel::Page;
 
-    OptionsWindow(SharedState& shared, Dialogs& dialogs, QWidget* parent = nullptr);
+    OptionsWindow(SharedState& shared, Dialogs& dialogs, Random& random, QWidget* parent = nullptr);
     ~OptionsWindow() override;
 
     OptionsModel& model() { return m_model; }
