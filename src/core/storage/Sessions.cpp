@@ -111,7 +111,13 @@ bool Sessions::add(const std::string& typedName, bool manyErrors, std::string& s
     }
     m_shared.currentSlot = slot;
     shownName = name;
-    reportSave(m_shared, m_dialogs, path.string(), writeNewUserFile(path, name, m_random));
+    // A file of that name is a user who played here before: it is theirs,
+    // taken as it stands and never replaced by a fresh one.
+    if (configFileMissing(path)) {
+        reportSave(m_shared, m_dialogs, path.string(), writeNewUserFile(path, name, m_random));
+    } else {
+        m_dialogs.information(name + " ya tiene una configuración guardada, se usará esa.");
+    }
     fillNewSlot(path.string(), name);
     loadCurrent();
     return true;

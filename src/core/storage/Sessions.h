@@ -30,7 +30,8 @@ public:
     // "+ Agregar sesión" with the name typed in the user box; `shownName`
     // receives the name the box shows afterwards. A name too long for a
     // file is refused; characters a configuration line cannot hold are
-    // dropped from it.
+    // dropped from it. A user whose file is already in the data folder gets
+    // that file, as it stands, and the player is told.
     bool add(const std::string& typedName, bool manyErrors, std::string& shownName);
     // Configuration files dropped on the board.
     bool addFromFiles(const std::vector<std::string>& paths, bool manyErrors);

@@ -61,6 +61,20 @@ TEST_F(SessionsTest, AddingWithoutANameUsesTheSlotNumberAndWritesAFreshFile) {
     EXPECT_TRUE(fs::exists(shared.currentSession().filePath));
 }
 
+// Beto played here before: his file is his session, byte for byte.
+TEST_F(SessionsTest, AddingAUserWhoseFileIsThereTakesThatFile) {
+    const fs::path file = folder / "Beto.txt";
+    const std::string own = sessionFileNamed("Beto");
+    std::ofstream(file, std::ios::binary) << own;
+    std::string shown;
+    ASSERT_TRUE(sessions.add("Beto", false, shown));
+    EXPECT_EQ(slurp(file), own);
+    expectTold("Beto ya tiene una configuración guardada, se usará esa.",
+               Dialogs::Icon::Information);
+    EXPECT_EQ(shared.currentSession().filePath, file.string());
+    EXPECT_EQ(shared.currentSession().displayName, "Beto");
+}
+
 TEST_F(SessionsTest, SwitchingBackRestoresWhatTheUserLeftAndTheLockStaysWithItsUser) {
     const auto left = [this] {
         return std::tuple{shared.normalPoints, shared.survivalPoints,  shared.settings.theme,
