@@ -68,6 +68,8 @@ TEST(StartScreen, APlainRestartResetsTheUserButASwitchKeepsThem) {
         shared.survivalPoints = 50;
         shared.sessions[0].playerNames[0] = "Ana";
         shared.currentSession().corrections = "1";
+        shared.sessions[0].optionsPage = 2;
+        shared.sessions[3].optionsPage = 3;
     };
     leftBehind();
     StartScreenModel plain(shared, true);
@@ -75,6 +77,8 @@ TEST(StartScreen, APlainRestartResetsTheUserButASwitchKeepsThem) {
     EXPECT_EQ(shared.survivalPoints, 1000);
     EXPECT_EQ(shared.correctionsLeft, 3);
     EXPECT_EQ(shared.sessions[0].playerNames[0], "Jugador 1");
+    EXPECT_EQ(shared.sessions[0].optionsPage, 0);
+    EXPECT_EQ(shared.sessions[3].optionsPage, 0) << "every user's, not only the current one's";
     EXPECT_EQ(shared.sessions[0].record.filePath, shared.mainConfigPath().string());
 
     leftBehind();
@@ -84,6 +88,7 @@ TEST(StartScreen, APlainRestartResetsTheUserButASwitchKeepsThem) {
     EXPECT_EQ(shared.survivalPoints, 50);
     EXPECT_EQ(shared.sessions[0].playerNames[0], "Ana");
     EXPECT_EQ(shared.correctionsLeft, 1);
+    EXPECT_EQ(shared.sessions[3].optionsPage, 3);
     EXPECT_FALSE(shared.skipStartDefaults) << "the flag is used once";
 }
 

@@ -21,6 +21,10 @@ void loadAtStart(SharedState& shared) {
     if (shared.skipStartDefaults) {
         shared.skipStartDefaults = false;
     } else {
+        // Every user's options window opens on its first page again.
+        for (SessionSlot& slot : shared.sessions) {
+            slot.optionsPage = 0;
+        }
         UserSession& session = shared.currentSession();
         session.corrections = "3";
         shared.survivalPoints = 1000;
