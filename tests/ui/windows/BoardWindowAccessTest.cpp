@@ -1,11 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/BoardFixture.h"
+#include "support/Keys.h"
+#include "windows/FocusRing.h"
 #include "windows/board/HistoryPanel.h"
 #include "windows/board/KeyboardAccessible.h"
 #include "windows/board/KeyboardView.h"
 #include "windows/board/PhraseView.h"
 #include "windows/board/SessionPanel.h"
+#include "windows/board/SoundButton.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -173,6 +176,59 @@ TEST_F(BoardAccess, TheKeyboardReachesTheMenuAndEveryFocusedControlShowsAMark) {
         EXPECT_TRUE(window->controls().sessionPanel->isAncestorOf(QApplication::focusWidget()))
             << QApplication::focusWidget()->metaObject()->className();
     }
+}
+
+TEST_F(BoardAccess, TheSessionPanelIsPlayedFromTheKeysAlone) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    const auto openPanel = [this] {
+        window->setFocus();
+        QTest::keyClick(window.get(), Qt::Key_F4);
+        while (window->model().sessions().panel().animating()) {
+            window->model().sessions().panel().tick();
+        }
+        window->sync();
+    };
+    openPanel();
+    SessionPanel* panel = window->controls().sessionPanel;
+    ASSERT_TRUE(panel->keyBox()->hasFocus());
+    // Round the panel: ">", " Cerrar ", the user and the name box.
+    QList<QWidget*> stops;
+    for (int tab = 0; tab < 4; ++tab) {
+        pressKey(Qt::Key_Tab);
+        stops << QApplication::focusWidget();
+    }
+    EXPECT_EQ(stops, (QList<QWidget*>{panel->enterButton(), panel->cancelLabel(),
+                                      panel->userLabel(), panel->userBox()}));
+    type("Beto", panel->userBox());
+    random.queue({0.1}); // the new file's theme
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(shared.currentSlot, 1);
+    EXPECT_TRUE(fs::exists(folder / "Beto.txt"));
+    EXPECT_TRUE(window->model().commands().restartRequested());
+
+    // The board opens again for Beto; the list takes him back to the main user.
+    SetUpBoard();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    openPanel();
+    panel = window->controls().sessionPanel;
+    pressKey(Qt::Key_Tab, Qt::ShiftModifier);
+    pressKey(Qt::Key_Tab, Qt::ShiftModifier);
+    ASSERT_EQ(QApplication::focusWidget(), panel->userLabel());
+    pressKey(Qt::Key_Space);
+    ASSERT_TRUE(panel->sessionList()->hasFocus());
+    ASSERT_EQ(panel->sessionList()->count(), 2);
+    pressKey(Qt::Key_Down);
+    pressKey(Qt::Key_Up);
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(shared.currentSlot, 0);
+
+    // Esc closes an unlocked panel and hands the keys back to the board.
+    SetUpBoard();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    openPanel();
+    pressKey(Qt::Key_Escape);
+    EXPECT_TRUE(window->model().sessions().panel().closing());
+    EXPECT_TRUE(window->hasFocus());
 }
 
 } // namespace

@@ -454,6 +454,14 @@ void BoardWindow::openPlayersWindow() {
     m_namesWindow->show();
 }
 
+bool BoardWindow::focusNextPrevChild(bool next) {
+    // The session panel covers the board: no button behind it is reached.
+    if (m_model.sessions().panel().shown()) {
+        return m_ui->sessionPanel->tabWithin(next);
+    }
+    return QWidget::focusNextPrevChild(next);
+}
+
 void BoardWindow::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton && !m_model.sessions().panel().shown()) {
         handleStart(m_model.backgroundClicked());
