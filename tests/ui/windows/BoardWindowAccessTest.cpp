@@ -15,6 +15,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QSet>
 
 #include <functional>
 
@@ -176,6 +177,61 @@ TEST_F(BoardAccess, TheKeyboardReachesTheMenuAndEveryFocusedControlShowsAMark) {
         EXPECT_TRUE(window->controls().sessionPanel->isAncestorOf(QApplication::focusWidget()))
             << QApplication::focusWidget()->metaObject()->className();
     }
+}
+
+TEST_F(BoardAccess, TabReachesTheBoardsButtonsWithARingAndLettersStillGuess) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    QTest::keyClick(window.get(), Qt::Key_A, Qt::ControlModifier); // shows the "A" marker
+    const BoardControls& ui = window->controls();
+    const FocusRing* ring = FocusRing::of(window.get());
+    ASSERT_NE(ring, nullptr);
+    QSet<QWidget*> reached;
+    for (int tab = 0; tab < 12; ++tab) {
+        pressKey(Qt::Key_Tab);
+        QWidget* focus = QApplication::focusWidget();
+        if (focus != window.get()) {
+            reached << focus;
+            EXPECT_EQ(ring->target(), focus) << focus->metaObject()->className();
+        }
+    }
+    for (QWidget* stop :
+         {static_cast<QWidget*>(ui.autoMarker), static_cast<QWidget*>(ui.soundButton),
+          static_cast<QWidget*>(ui.playPanel->playButton()),
+          static_cast<QWidget*>(ui.smallPlayButton),
+          static_cast<QWidget*>(ui.strikes->correctionLabel())}) {
+        EXPECT_TRUE(reached.contains(stop)) << stop->metaObject()->className();
+    }
+
+    // Enter and Space press the focused button, not JUGAR.
+    const bool sounds = shared.settings.sounds;
+    ui.soundButton->setFocus(Qt::TabFocusReason);
+    pressKey(Qt::Key_Return);
+    EXPECT_NE(shared.settings.sounds, sounds);
+    EXPECT_EQ(window->themeWindow(), nullptr);
+    pressKey(Qt::Key_Space);
+    EXPECT_EQ(shared.settings.sounds, sounds);
+
+    ui.autoMarker->setFocus(Qt::TabFocusReason);
+    pressKey(Qt::Key_Return);
+    EXPECT_FALSE(shared.settings.autoPhrase);
+    ui.playPanel->playButton()->setFocus(Qt::TabFocusReason);
+    random.queue({0.05});
+    pressKey(Qt::Key_Enter, Qt::KeypadModifier);
+    ASSERT_NE(window->themeWindow(), nullptr);
+    QTest::mouseClick(window->themeWindow()->acceptButton(), Qt::LeftButton);
+    settle();
+    // Whatever has the focus, letters are guesses.
+    ui.smallPlayButton->setFocus(Qt::TabFocusReason);
+    type("a", ui.smallPlayButton);
+    EXPECT_EQ(name(cell(*window, 2)), "A");
+    type("z", ui.smallPlayButton);
+    EXPECT_EQ(strike(1), "Z");
+    ui.strikes->correctionLabel()->setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(ui.strikes->correctionLabel()->text(), "<") << "the focus offers the correction";
+    dialogs.answer({false});
+    pressKey(Qt::Key_Space);
+    ASSERT_FALSE(dialogs.shown.empty());
+    EXPECT_EQ(dialogs.shown.back().text, Round::correctionQuestion(3));
 }
 
 TEST_F(BoardAccess, TheSessionPanelIsPlayedFromTheKeysAlone) {
