@@ -180,7 +180,13 @@ TEST_F(BoardAccess, TheKeyboardReachesTheMenuAndEveryFocusedControlShowsAMark) {
 }
 
 TEST_F(BoardAccess, TabReachesTheBoardsButtonsWithARingAndLettersStillGuess) {
+    window.reset();
+    random.queue({0.0});
+    window = std::make_unique<BoardWindow>(shared, dialogs, random, sounds, desktop.lookUp);
+    window->show();
+    window->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    EXPECT_EQ(QApplication::focusWidget(), window.get()) << "a board opens playing on Enter";
     QTest::keyClick(window.get(), Qt::Key_A, Qt::ControlModifier); // shows the "A" marker
     const BoardControls& ui = window->controls();
     const FocusRing* ring = FocusRing::of(window.get());

@@ -85,6 +85,9 @@ BoardWindow::BoardWindow(SharedState& shared, Dialogs& dialogs, Random& random, 
         control->installEventFilter(this);
     }
     sync();
+    // The board opens with the keys: letters guess and Enter plays, where
+    // Qt would hand a window that names no focus to its first button.
+    setFocus();
 }
 
 BoardWindow::~BoardWindow() {
