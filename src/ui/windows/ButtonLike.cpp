@@ -15,6 +15,12 @@ ButtonLike::ButtonLike(QWidget* control, AccessibleControl::Text name, std::func
     control->installEventFilter(this);
 }
 
+ButtonLike::ButtonLike(QWidget* control, std::function<void()> press, Qt::FocusPolicy focus)
+    : QObject(control), m_press(std::move(press)) {
+    control->setFocusPolicy(focus);
+    control->installEventFilter(this);
+}
+
 bool ButtonLike::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::KeyPress) {
         return QObject::eventFilter(watched, event);

@@ -20,6 +20,9 @@ class ButtonLike final : public QObject {
 public:
     ButtonLike(QWidget* control, AccessibleControl::Text name, std::function<void()> press,
                Qt::FocusPolicy focus = Qt::StrongFocus);
+    // The keys alone, for a control that a screen reader already hears as a
+    // button some other way.
+    ButtonLike(QWidget* control, std::function<void()> press, Qt::FocusPolicy focus);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -81,6 +81,13 @@ bool FocusRing::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::Hide:
         place();
         break;
+    case QEvent::ZOrderChange:
+        // A panel that puts itself on top of the board would cover the ring
+        // around its own control.
+        if (isVisible()) {
+            raise();
+        }
+        break;
     default:
         break;
     }

@@ -1,17 +1,21 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/BoardFixture.h"
+#include "support/Keys.h"
+#include "windows/FocusRing.h"
 #include "windows/board/HistoryPanel.h"
 #include "windows/board/KeyboardAccessible.h"
 #include "windows/board/KeyboardView.h"
 #include "windows/board/PhraseView.h"
 #include "windows/board/SessionPanel.h"
+#include "windows/board/SoundButton.h"
 
 #include <QAccessible>
 #include <QApplication>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QSet>
 
 #include <functional>
 
@@ -173,6 +177,120 @@ TEST_F(BoardAccess, TheKeyboardReachesTheMenuAndEveryFocusedControlShowsAMark) {
         EXPECT_TRUE(window->controls().sessionPanel->isAncestorOf(QApplication::focusWidget()))
             << QApplication::focusWidget()->metaObject()->className();
     }
+}
+
+TEST_F(BoardAccess, TabReachesTheBoardsButtonsWithARingAndLettersStillGuess) {
+    window.reset();
+    random.queue({0.0});
+    window = std::make_unique<BoardWindow>(shared, dialogs, random, sounds, desktop.lookUp);
+    window->show();
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    EXPECT_EQ(QApplication::focusWidget(), window.get()) << "a board opens playing on Enter";
+    QTest::keyClick(window.get(), Qt::Key_A, Qt::ControlModifier); // shows the "A" marker
+    const BoardControls& ui = window->controls();
+    const FocusRing* ring = FocusRing::of(window.get());
+    ASSERT_NE(ring, nullptr);
+    QSet<QWidget*> reached;
+    for (int tab = 0; tab < 12; ++tab) {
+        pressKey(Qt::Key_Tab);
+        QWidget* focus = QApplication::focusWidget();
+        if (focus != window.get()) {
+            reached << focus;
+            EXPECT_EQ(ring->target(), focus) << focus->metaObject()->className();
+        }
+    }
+    for (QWidget* stop :
+         {static_cast<QWidget*>(ui.autoMarker), static_cast<QWidget*>(ui.soundButton),
+          static_cast<QWidget*>(ui.playPanel->playButton()),
+          static_cast<QWidget*>(ui.smallPlayButton),
+          static_cast<QWidget*>(ui.strikes->correctionLabel())}) {
+        EXPECT_TRUE(reached.contains(stop)) << stop->metaObject()->className();
+    }
+
+    // Enter and Space press the focused button, not JUGAR.
+    const bool sounds = shared.settings.sounds;
+    ui.soundButton->setFocus(Qt::TabFocusReason);
+    pressKey(Qt::Key_Return);
+    EXPECT_NE(shared.settings.sounds, sounds);
+    EXPECT_EQ(window->themeWindow(), nullptr);
+    pressKey(Qt::Key_Space);
+    EXPECT_EQ(shared.settings.sounds, sounds);
+
+    ui.autoMarker->setFocus(Qt::TabFocusReason);
+    pressKey(Qt::Key_Return);
+    EXPECT_FALSE(shared.settings.autoPhrase);
+    ui.playPanel->playButton()->setFocus(Qt::TabFocusReason);
+    random.queue({0.05});
+    pressKey(Qt::Key_Enter, Qt::KeypadModifier);
+    ASSERT_NE(window->themeWindow(), nullptr);
+    QTest::mouseClick(window->themeWindow()->acceptButton(), Qt::LeftButton);
+    settle();
+    // Whatever has the focus, letters are guesses.
+    ui.smallPlayButton->setFocus(Qt::TabFocusReason);
+    type("a", ui.smallPlayButton);
+    EXPECT_EQ(name(cell(*window, 2)), "A");
+    type("z", ui.smallPlayButton);
+    EXPECT_EQ(strike(1), "Z");
+    ui.strikes->correctionLabel()->setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(ui.strikes->correctionLabel()->text(), "<") << "the focus offers the correction";
+    dialogs.answer({false});
+    pressKey(Qt::Key_Space);
+    ASSERT_FALSE(dialogs.shown.empty());
+    EXPECT_EQ(dialogs.shown.back().text, Round::correctionQuestion(3));
+}
+
+TEST_F(BoardAccess, TheSessionPanelIsPlayedFromTheKeysAlone) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    const auto openPanel = [this] {
+        window->setFocus();
+        QTest::keyClick(window.get(), Qt::Key_F4);
+        while (window->model().sessions().panel().animating()) {
+            window->model().sessions().panel().tick();
+        }
+        window->sync();
+    };
+    openPanel();
+    SessionPanel* panel = window->controls().sessionPanel;
+    ASSERT_TRUE(panel->keyBox()->hasFocus());
+    // Round the panel: ">", " Cerrar ", the user and the name box.
+    QList<QWidget*> stops;
+    for (int tab = 0; tab < 4; ++tab) {
+        pressKey(Qt::Key_Tab);
+        stops << QApplication::focusWidget();
+    }
+    EXPECT_EQ(stops, (QList<QWidget*>{panel->enterButton(), panel->cancelLabel(),
+                                      panel->userLabel(), panel->userBox()}));
+    type("Beto", panel->userBox());
+    random.queue({0.1}); // the new file's theme
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(shared.currentSlot, 1);
+    EXPECT_TRUE(fs::exists(folder / "Beto.txt"));
+    EXPECT_TRUE(window->model().commands().restartRequested());
+
+    // The board opens again for Beto; the list takes him back to the main user.
+    SetUpBoard();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    openPanel();
+    panel = window->controls().sessionPanel;
+    pressKey(Qt::Key_Tab, Qt::ShiftModifier);
+    pressKey(Qt::Key_Tab, Qt::ShiftModifier);
+    ASSERT_EQ(QApplication::focusWidget(), panel->userLabel());
+    pressKey(Qt::Key_Space);
+    ASSERT_TRUE(panel->sessionList()->hasFocus());
+    ASSERT_EQ(panel->sessionList()->count(), 2);
+    pressKey(Qt::Key_Down);
+    pressKey(Qt::Key_Up);
+    pressKey(Qt::Key_Return);
+    EXPECT_EQ(shared.currentSlot, 0);
+
+    // Esc closes an unlocked panel and hands the keys back to the board.
+    SetUpBoard();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    openPanel();
+    pressKey(Qt::Key_Escape);
+    EXPECT_TRUE(window->model().sessions().panel().closing());
+    EXPECT_TRUE(window->hasFocus());
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "ports/Random.h"
 #include "storage/ConfigFile.h"
 #include "support/BoardFixture.h"
+#include "support/Keys.h"
 #include "windows/board/KeyboardView.h"
 #include "windows/board/PhraseView.h"
 #include "windows/board/SessionPanel.h"
@@ -209,11 +210,13 @@ TEST_F(BoardPanels, EstadisticasUnrollsTheCountsAndEscRollsThemUp) {
         window->sync();
     };
 
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     QAction* entry = popupEntry(QStringLiteral("Estadísticas"));
     ASSERT_NE(entry, nullptr);
     ASSERT_TRUE(entry->isEnabled());
     entry->trigger();
     EXPECT_TRUE(panel->isVisible());
+    EXPECT_TRUE(panel->hasFocus()) << "a screen reader reads it as it opens";
     EXPECT_FALSE(panel->valuesFrame()->isVisible()) << "the values come at the full height";
     settle();
     ASSERT_TRUE(panel->valuesFrame()->isVisible());
@@ -241,6 +244,17 @@ TEST_F(BoardPanels, EstadisticasUnrollsTheCountsAndEscRollsThemUp) {
     window->model().panels().openStats();
     settle();
     QTest::mouseClick(panel->closeLabel(), Qt::LeftButton);
+    settle();
+    EXPECT_FALSE(panel->isVisible());
+
+    // Tab reaches " Cerrar " and Enter rolls the panel up.
+    popupEntry(QStringLiteral("Estadísticas"))->trigger();
+    settle();
+    ASSERT_TRUE(panel->hasFocus());
+    pressKey(Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), panel->closeLabel());
+    pressKey(Qt::Key_Return);
+    EXPECT_TRUE(window->hasFocus()) << "the board takes the keys back";
     settle();
     EXPECT_FALSE(panel->isVisible());
 }

@@ -126,6 +126,17 @@ TEST_F(OptionsWindowTest, SaveWritesTheFileAndMenuHandsOver) {
     }
 }
 
+TEST_F(OptionsWindowTest, EnterPressesTheFocusedButtonAsSpaceDoes) {
+    open();
+    showPage(Page::Functional);
+    window->checkBox(9)->setFocus(Qt::TabFocusReason);
+    pressKey(Qt::Key_Return);
+    EXPECT_TRUE(window->model().choices().box(9));
+    window->saveButton()->setFocus(Qt::TabFocusReason);
+    pressKey(Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(savedLine(16), "1");
+}
+
 TEST_F(OptionsWindowTest, KeysOnThePageListFollowTheModel) {
     open();
     QTest::keyClick(window->pageList(), Qt::Key_S);

@@ -33,6 +33,7 @@ public:
     // The panel's growing and shrinking share this tick.
     void tick();
     bool animating() const { return m_growing || m_shrinking; }
+    bool closing() const { return m_shrinking; }
 
     // Enter in the key box in use (or the ">" button).
     void enterKey(const std::string& typed);

@@ -40,6 +40,7 @@ public:
     // One step of the panel's roll.
     void tick();
     bool animating() const { return m_opening || m_closing; }
+    bool closing() const { return m_closing; }
 
     bool shown() const { return m_shown; }
     bool valuesShown() const { return m_valuesShown; }

@@ -5,6 +5,7 @@
 #include "look/Twips.h"
 #include "models/board/SurvivalSwitch.h"
 #include "platform/Fonts.h"
+#include "windows/ButtonLike.h"
 #include "windows/board/BoardAccessible.h"
 
 #include <QLabel>
@@ -39,6 +40,19 @@ AgainLabels::AgainLabels(SurvivalSwitch& survival, std::function<void()> changed
         makeLabel(QStringLiteral("Consigue puntos"), kGetPointsLeft, kGetPointsWidth, board);
     m_restart->installEventFilter(this);
     m_getPoints->installEventFilter(this);
+    new ButtonLike(
+        m_restart, [this] { press(m_restart); }, Qt::TabFocus);
+    new ButtonLike(
+        m_getPoints, [this] { press(m_getPoints); }, Qt::TabFocus);
+}
+
+void AgainLabels::press(QObject* label) {
+    if (label == m_restart) {
+        m_survival.againRestart();
+    } else {
+        m_survival.againGetPoints();
+    }
+    m_changed();
 }
 
 void AgainLabels::paint(const QString& gameColour) {
@@ -68,12 +82,7 @@ bool AgainLabels::eventFilter(QObject* watched, QEvent* event) {
         return false;
     }
     if (event->type() == QEvent::MouseButtonRelease) {
-        if (watched == m_restart) {
-            m_survival.againRestart();
-        } else {
-            m_survival.againGetPoints();
-        }
-        m_changed();
+        press(watched);
     }
     return true;
 }

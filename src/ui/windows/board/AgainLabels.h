@@ -29,6 +29,9 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    // A click or a key on one of the two labels.
+    void press(QObject* label);
+
     SurvivalSwitch& m_survival;
     std::function<void()> m_changed;
     QLabel* m_restart = nullptr;

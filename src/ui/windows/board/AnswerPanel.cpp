@@ -6,6 +6,7 @@
 #include "platform/Fonts.h"
 #include "round/AnswerBox.h"
 #include "round/Keyboard.h"
+#include "windows/ButtonLike.h"
 #include "windows/QtColour.h"
 #include "windows/TypedTextFilter.h"
 #include "windows/board/BoardAccessible.h"
@@ -48,7 +49,8 @@ AnswerPanel::AnswerPanel(AnswerBox& box, std::function<void()> changed,
     });
     m_okButton = new QPushButton(QStringLiteral("OK"), this);
     m_okButton->setGeometry(px(7470), px(60), px(765), px(420));
-    m_okButton->setFocusPolicy(Qt::NoFocus);
+    new ButtonLike(
+        m_okButton, [this] { m_okButton->click(); }, Qt::TabFocus);
     m_okButton->setFont(Fonts::display(10));
     connect(m_okButton, &QPushButton::clicked, this, &AnswerPanel::okPressed);
 }

@@ -6,6 +6,7 @@
 #include "models/board/BoardSpeech.h"
 #include "platform/Fonts.h"
 #include "round/PhraseChoice.h"
+#include "windows/ButtonLike.h"
 #include "windows/QtColour.h"
 #include "windows/board/BoardAccessible.h"
 
@@ -22,6 +23,10 @@ AutoMarker::AutoMarker(PhraseChoice& choice, std::function<void()> changed, QWid
     setFont(Fonts::display(9));
     setCursor(Qt::PointingHandCursor);
     setAccessibleRole(this, QAccessible::Button);
+    // Tab reaches it, and the mouse leaves the focus on the board, where
+    // Enter plays.
+    new ButtonLike(
+        this, [this] { toggle(); }, Qt::TabFocus);
     setStyleSheet(QStringLiteral("background: %1; color: %2; border-radius: 3px;")
                       .arg(css(kPictureButtonBack), css(kAutoMarkerText)));
 }
@@ -40,6 +45,10 @@ void AutoMarker::mousePressEvent(QMouseEvent*) {
 }
 
 void AutoMarker::mouseReleaseEvent(QMouseEvent*) {
+    toggle();
+}
+
+void AutoMarker::toggle() {
     m_choice.toggleAutoPhrase();
     m_changed();
 }

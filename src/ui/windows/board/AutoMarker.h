@@ -23,6 +23,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    void toggle();
+
     PhraseChoice& m_choice;
     std::function<void()> m_changed;
 };

@@ -32,6 +32,11 @@
 #include "windows/board/TipStrip.h"
 
 #include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+
+#include <array>
 
 namespace quillora {
 
@@ -92,6 +97,30 @@ BoardControls::BoardControls(BoardModel& model, QWidget* board, const BoardActio
     soundButton = new SoundButton(model.commands(), model.keyFaces(), settings, changed, board);
     againLabels = new AgainLabels(model.survival(), changed, board);
     sessionPanel = new SessionPanel(model.sessions(), model.appearance(), changed, board);
+
+    // Tab goes round the board as it reads: a side panel on the left when
+    // one is open, the markers beside the status, JUGAR, then what stands
+    // under the phrase. Hidden controls are passed over.
+    const std::array<QWidget*, 17> tabOrder{statsPanel,
+                                            statsPanel->closeLabel(),
+                                            historyPanel->list(),
+                                            historyPanel->closeLabel(),
+                                            themesPanel->list(),
+                                            themesPanel->closeLabel(),
+                                            autoMarker,
+                                            soundButton,
+                                            playPanel->playButton(),
+                                            playPanel->restoreLabel(),
+                                            smallPlayButton,
+                                            strikes->correctionLabel(),
+                                            lookUpLabel,
+                                            answerPanel->answerBox(),
+                                            answerPanel->okButton(),
+                                            againLabels->getPointsLabel(),
+                                            againLabels->restartLabel()};
+    for (std::size_t i = 1; i < tabOrder.size(); ++i) {
+        QWidget::setTabOrder(tabOrder[i - 1], tabOrder[i]);
+    }
 }
 
 void BoardControls::paint() {

@@ -4,6 +4,7 @@
 
 #include "look/Twips.h"
 #include "ports/SoundPlayer.h"
+#include "windows/FocusRing.h"
 #include "windows/QtColour.h"
 #include "windows/board/BoardAccessible.h"
 #include "windows/board/BoardControls.h"
@@ -21,6 +22,7 @@
 #include "windows/players/PlayersWindow.h"
 #include "windows/theme/ThemeWindow.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
@@ -71,6 +73,9 @@ BoardWindow::BoardWindow(SharedState& shared, Dialogs& dialogs, Random& random, 
             [this] { playPressed(); }, [this](QKeyEvent* key) { return windowShortcut(key); },
             [this](QKeyEvent* key) { return boardKey(key); }, [this] { openPlayersWindow(); }});
     m_design.keepInSight(m_ui->phrase);
+    // The board itself holding the focus shows no ring: letters guess and
+    // Enter plays. A button reached with Tab wears it.
+    new FocusRing(this);
     buildTimers();
     // Every release of the mouse on the board puts the hover faces back. A
     // release goes to the control the press began on, so the board watches
@@ -80,9 +85,17 @@ BoardWindow::BoardWindow(SharedState& shared, Dialogs& dialogs, Random& random, 
         control->installEventFilter(this);
     }
     sync();
+    // The board opens with the keys: letters guess and Enter plays, where
+    // Qt would hand a window that names no focus to its first button.
+    setFocus();
 }
 
 BoardWindow::~BoardWindow() {
+    // A control that loses the focus may look at the model: it loses it
+    // now, while the model is still there, not as the window goes.
+    if (isAncestorOf(QApplication::focusWidget())) {
+        setFocus();
+    }
     // The board watches itself and its controls; the watch ends before the
     // controls and the windows over the board go, since their going sends
     // the board events of its own.
@@ -452,6 +465,14 @@ void BoardWindow::openPlayersWindow() {
                         QPoint(m_namesWindow->width() / 2, m_namesWindow->height() / 2));
     hide();
     m_namesWindow->show();
+}
+
+bool BoardWindow::focusNextPrevChild(bool next) {
+    // The session panel covers the board: no button behind it is reached.
+    if (m_model.sessions().panel().shown()) {
+        return m_ui->sessionPanel->tabWithin(next);
+    }
+    return QWidget::focusNextPrevChild(next);
 }
 
 void BoardWindow::mousePressEvent(QMouseEvent* event) {

@@ -6,6 +6,7 @@
 #include "models/board/BoardLookUps.h"
 #include "platform/Fonts.h"
 #include "round/Round.h"
+#include "windows/ButtonLike.h"
 #include "windows/board/BoardAccessible.h"
 
 #include <QMouseEvent>
@@ -23,6 +24,8 @@ LookUpLabel::LookUpLabel(const Round& round, BoardLookUps& lookUps, QWidget* boa
     setFont(Fonts::display(10));
     setCursor(Qt::PointingHandCursor);
     setAccessibleRole(this, QAccessible::PushButton);
+    new ButtonLike(
+        this, [this] { m_lookUps.lookUpAnswer(); }, Qt::TabFocus);
 }
 
 void LookUpLabel::sync() {

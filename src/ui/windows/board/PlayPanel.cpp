@@ -8,6 +8,7 @@
 #include "round/Round.h"
 #include "scoring/Points.h"
 #include "state/Settings.h"
+#include "windows/ButtonLike.h"
 #include "windows/QtColour.h"
 #include "windows/board/BoardAccessible.h"
 
@@ -35,7 +36,9 @@ PlayPanel::PlayPanel(const Round& round, const Scoring& scoring, BoardCommands& 
     setAccessibleName(QStringLiteral("JUGAR"));
     m_gameButton = new QPushButton(this);
     m_gameButton->setGeometry(0, 0, px(kWidth), px(kHeight));
-    m_gameButton->setFocusPolicy(Qt::NoFocus);
+    // Tab reaches JUGAR, a click leaves the focus on the board.
+    new ButtonLike(
+        m_gameButton, [this] { m_gameButton->click(); }, Qt::TabFocus);
     m_gameButton->setFont(Fonts::display(13));
     m_gameButton->setCursor(Qt::PointingHandCursor);
     connect(m_gameButton, &QPushButton::clicked, this, [this] { m_play(); });
@@ -49,6 +52,13 @@ PlayPanel::PlayPanel(const Round& round, const Scoring& scoring, BoardCommands& 
     m_restoreLabel->installEventFilter(this);
     setAccessibleRole(m_restoreLabel, QAccessible::Button);
     m_restoreLabel->setAccessibleName(QStringLiteral("Regresar botón JUGAR"));
+    new ButtonLike(
+        m_restoreLabel, [this] { restore(); }, Qt::TabFocus);
+}
+
+void PlayPanel::restore() {
+    m_commands.hidePlayButton(false);
+    m_changed();
 }
 
 void PlayPanel::paint(const QString& buttonStyle, const QString& restoreStyle) {
@@ -96,8 +106,7 @@ bool PlayPanel::eventFilter(QObject* watched, QEvent* event) {
     }
     if (event->type() == QEvent::MouseButtonRelease &&
         static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
-        m_commands.hidePlayButton(false);
-        m_changed();
+        restore();
         return true;
     }
     return false;

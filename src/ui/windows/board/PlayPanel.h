@@ -37,6 +37,9 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    // Brings JUGAR back.
+    void restore();
+
     const Round& m_round;
     const Scoring& m_scoring;
     BoardCommands& m_commands;

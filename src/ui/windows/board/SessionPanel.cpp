@@ -7,6 +7,7 @@
 #include "models/board/BoardSessions.h"
 #include "platform/Fonts.h"
 #include "storage/ConfigFile.h"
+#include "windows/ButtonLike.h"
 #include "windows/QtColour.h"
 #include "windows/board/BoardAccessible.h"
 
@@ -66,16 +67,23 @@ SessionPanel::SessionPanel(BoardSessions& sessions, const BoardAppearance& look,
     // The user's name is the label's text; a click opens the list of sessions.
     setAccessibleRole(m_userLabel, QAccessible::Button);
     m_userLabel->setAccessibleDescription(QStringLiteral("Usuario"));
-    connect(m_userLabel, &QLabel::customContextMenuRequested, this, [this](const QPoint& at) {
-        QMenu menu(this);
-        QAction* add = menu.addAction(QStringLiteral("+ Agregar sesión"));
-        if (menu.exec(m_userLabel->mapToGlobal(at)) == add) {
-            std::string shown;
-            m_sessions.add(m_userBox->text().toStdString(), shown);
-            m_userBox->setText(qs(shown));
+    connect(m_userLabel, &QLabel::customContextMenuRequested, this,
+            [this](const QPoint& at) { offerAdd(m_userLabel->mapToGlobal(at)); });
+    // From the keyboard, Enter or Space on the label opens the list and
+    // walks into it.
+    new ButtonLike(
+        m_userLabel,
+        [this] {
+            m_sessions.toggleList();
             m_changed();
-        }
-    });
+            if (m_sessionsList->isVisible()) {
+                if (!m_sessionsList->currentItem()) {
+                    m_sessionsList->setCurrentRow(0);
+                }
+                m_sessionsList->setFocus();
+            }
+        },
+        Qt::TabFocus);
 
     m_userBox = new QLineEdit(this);
     m_userBox->setPlaceholderText(QStringLiteral("Nombre"));
@@ -83,16 +91,19 @@ SessionPanel::SessionPanel(BoardSessions& sessions, const BoardAppearance& look,
     m_userBox->setValidator(new StorableNameValidator(m_userBox));
     m_userBox->setGeometry(px(5880), px(180), px(3240), px(420));
     m_userBox->setFont(Fonts::display(11));
+    m_userBox->installEventFilter(this);
 
     m_sessionsList = new QListWidget(this);
     m_sessionsList->setFont(Fonts::display(12));
     m_sessionsList->setFrameShape(QFrame::NoFrame);
     m_sessionsList->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_sessionsList->setAccessibleName(QStringLiteral("Sesiones"));
-    connect(m_sessionsList, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
-        m_sessions.switchTo(item->data(Qt::UserRole).toInt());
-        m_changed();
-    });
+    connect(m_sessionsList, &QListWidget::itemClicked, this, &SessionPanel::switchTo);
+    // The arrows walk the list; Enter or Space chooses. Only the keyboard
+    // gives it the focus: after a click, what is typed still goes into the
+    // key box.
+    new ButtonLike(
+        m_sessionsList, [this] { switchTo(m_sessionsList->currentItem()); }, Qt::TabFocus);
 
     m_keyFrame = new QWidget(this);
     m_keyFrame->setGeometry(px(kKeyFrameLeft), px(kKeyFrameTop), px(kKeyFrameWidth),
@@ -113,7 +124,8 @@ SessionPanel::SessionPanel(BoardSessions& sessions, const BoardAppearance& look,
     m_enterButton = new QPushButton(QStringLiteral(">"), m_keyFrame);
     m_enterButton->setGeometry(px(kKeyFrameWidth - 1080), px(660), px(600), px(540));
     m_enterButton->setFont(Fonts::display(14));
-    m_enterButton->setFocusPolicy(Qt::NoFocus);
+    new ButtonLike(
+        m_enterButton, [this] { enter(); }, Qt::TabFocus);
     m_enterButton->setAccessibleName(QStringLiteral("Entrar"));
     connect(m_enterButton, &QPushButton::clicked, this, &SessionPanel::enter);
 
@@ -122,6 +134,13 @@ SessionPanel::SessionPanel(BoardSessions& sessions, const BoardAppearance& look,
     m_cancelLabel->setCursor(Qt::PointingHandCursor);
     m_cancelLabel->installEventFilter(this);
     setAccessibleRole(m_cancelLabel, QAccessible::Button);
+    new ButtonLike(
+        m_cancelLabel,
+        [this] {
+            m_sessions.panel().close();
+            m_changed();
+        },
+        Qt::TabFocus);
 
     m_warningLabel = new QLabel(
         QStringLiteral("El progreso de la partida no se guarda, termine si piensa continuar."),
@@ -131,6 +150,28 @@ SessionPanel::SessionPanel(BoardSessions& sessions, const BoardAppearance& look,
     m_warningLabel->setWordWrap(true);
 
     hide();
+}
+
+void SessionPanel::offerAdd(QPoint at) {
+    QMenu menu(this);
+    QAction* add = menu.addAction(QStringLiteral("+ Agregar sesión"));
+    if (menu.exec(at) == add) {
+        addSession();
+    }
+}
+
+void SessionPanel::addSession() {
+    std::string shown;
+    m_sessions.add(m_userBox->text().toStdString(), shown);
+    m_userBox->setText(qs(shown));
+    m_changed();
+}
+
+void SessionPanel::switchTo(QListWidgetItem* item) {
+    if (item) {
+        m_sessions.switchTo(item->data(Qt::UserRole).toInt());
+        m_changed();
+    }
 }
 
 QLineEdit* SessionPanel::activeKeyBox() const {
@@ -164,6 +205,15 @@ void SessionPanel::sync() {
     const SessionPanelModel& panel = m_sessions.panel();
     const int boardWidth = parentWidget()->width();
     setGeometry(0, 0, boardWidth, px(panel.height()));
+    QWidget* focused = QApplication::focusWidget();
+    const bool inside = focused && (focused == this || isAncestorOf(focused));
+    const bool onKeyBox = focused && (focused == m_keyBox || focused == m_key2Box);
+    const bool frameArrives = panel.keyFrameShown() && !m_keyFrame->isVisible();
+    // A panel on its way up hands the keys back to the board, before its
+    // controls go and Qt hands them to the board's next button.
+    if (inside && (!panel.shown() || panel.closing())) {
+        parentWidget()->setFocus();
+    }
     setVisible(panel.shown());
     // A style sheet polishes every child again: applied only when the
     // colours change, not at every step of the board.
@@ -216,7 +266,10 @@ void SessionPanel::sync() {
     m_cancelLabel->setVisible(panel.cancelShown());
     m_warningLabel->setGeometry(px(1200), px(3720), boardWidth - px(2400), px(720));
     m_warningLabel->setVisible(panel.warningShown() && panel.keyFrameShown());
-    if (panel.keyFrameShown() && !activeKeyBox()->hasFocus() && !m_userBox->hasFocus()) {
+    // The key box takes the focus as the panel arrives, when it is locked or
+    // unlocked, and whenever the focus is outside the panel; a control the
+    // player went to with Tab keeps it.
+    if (panel.keyFrameShown() && (frameArrives || onKeyBox || !inside)) {
         activeKeyBox()->setFocus();
     }
 }
@@ -233,6 +286,20 @@ bool SessionPanel::eventFilter(QObject* watched, QEvent* event) {
         m_changed();
         return true;
     }
+    if ((watched == m_userLabel || watched == m_userBox) && event->type() == QEvent::KeyPress) {
+        auto* key = static_cast<QKeyEvent*>(event);
+        // The menu key, or Shift+F10, offers "+ Agregar sesión" as the right
+        // button does; Enter in the name box adds the session at once.
+        if (key->key() == Qt::Key_Menu ||
+            (key->key() == Qt::Key_F10 && key->modifiers() == Qt::ShiftModifier)) {
+            offerAdd(m_userLabel->mapToGlobal(m_userLabel->rect().center()));
+            return true;
+        }
+        if (watched == m_userBox && (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter)) {
+            addSession();
+            return true;
+        }
+    }
     if ((watched == m_keyBox || watched == m_key2Box) &&
         (event->type() == QEvent::KeyPress || event->type() == QEvent::MouseButtonPress)) {
         if (event->type() == QEvent::KeyPress) {
@@ -247,6 +314,10 @@ bool SessionPanel::eventFilter(QObject* watched, QEvent* event) {
             if (m_sessions.panel().wrongShown()) {
                 return true;
             }
+            // Tab and the like move on; only typing puts the list away.
+            if (key->text().isEmpty() || !key->text().front().isPrint()) {
+                return false;
+            }
         }
         if (m_sessions.panel().listShown() || m_sessions.panel().userBoxShown()) {
             m_sessions.panel().hideListAndUserBox();
@@ -257,6 +328,12 @@ bool SessionPanel::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void SessionPanel::keyPressEvent(QKeyEvent* event) {
+    // Esc closes the panel as F4 does, only while the session is unlocked.
+    if (event->key() == Qt::Key_Escape && m_sessions.panel().f4Closes()) {
+        m_sessions.panel().close();
+        m_changed();
+        return;
+    }
     if (event->key() == Qt::Key_F4 || event->key() == Qt::Key_Escape) {
         event->ignore();
         return;
@@ -274,11 +351,17 @@ void SessionPanel::keyPressEvent(QKeyEvent* event) {
 }
 
 bool SessionPanel::focusNextPrevChild(bool next) {
+    return tabWithin(next);
+}
+
+bool SessionPanel::tabWithin(bool next) {
     QList<QWidget*> stops;
-    for (QWidget* box : {static_cast<QWidget*>(m_userBox), static_cast<QWidget*>(m_sessionsList),
-                         static_cast<QWidget*>(activeKeyBox())}) {
-        if (box->isVisible()) {
-            stops.append(box);
+    for (QWidget* stop :
+         {static_cast<QWidget*>(m_userLabel), static_cast<QWidget*>(m_userBox),
+          static_cast<QWidget*>(m_sessionsList), static_cast<QWidget*>(activeKeyBox()),
+          static_cast<QWidget*>(m_enterButton), static_cast<QWidget*>(m_cancelLabel)}) {
+        if (stop->isVisible()) {
+            stops.append(stop);
         }
     }
     if (!isVisible() || stops.isEmpty()) {

@@ -13,6 +13,7 @@
 class QLabel;
 class QLineEdit;
 class QListWidget;
+class QListWidgetItem;
 class QPushButton;
 
 namespace quillora {
@@ -29,6 +30,9 @@ public:
 
     // Brings the panel in step with the model.
     void sync();
+    // Tab and Shift+Tab while the panel covers the board: round its own
+    // controls only, wherever the focus was.
+    bool tabWithin(bool next);
 
     QLabel* userLabel() const { return m_userLabel; }
     QLineEdit* userBox() const { return m_userBox; }
@@ -44,11 +48,15 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
-    // While the panel covers the board, Tab walks its own boxes only: the
+    // While the panel covers the board, Tab walks its own controls only: the
     // board behind it can take no key.
     bool focusNextPrevChild(bool next) override;
 
 private:
+    // The "+ Agregar sesión" menu at `at`, and what its entry does.
+    void offerAdd(QPoint at);
+    void addSession();
+    void switchTo(QListWidgetItem* item);
     QLineEdit* activeKeyBox() const;
     void enter();
 

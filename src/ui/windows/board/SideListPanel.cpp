@@ -4,6 +4,7 @@
 
 #include "look/Twips.h"
 #include "platform/Fonts.h"
+#include "windows/ButtonLike.h"
 #include "windows/QtColour.h"
 #include "windows/board/BoardAccessible.h"
 
@@ -45,6 +46,8 @@ SideListPanel::SideListPanel(const QString& name, const QString& title, std::fun
     m_closeLabel->setCursor(Qt::PointingHandCursor);
     m_closeLabel->installEventFilter(this);
     setAccessibleRole(m_closeLabel, QAccessible::Button);
+    new ButtonLike(
+        m_closeLabel, [this] { m_close(); }, Qt::TabFocus);
 
     m_list = new QListWidget(this);
     m_list->setGeometry(px(kMargin), px(kListTop), px(kWidth - 2 * kMargin),

@@ -7,6 +7,7 @@
 #include "round/Round.h"
 #include "scoring/Points.h"
 #include "state/Settings.h"
+#include "windows/ButtonLike.h"
 
 namespace quillora {
 
@@ -22,7 +23,10 @@ SmallPlayButton::SmallPlayButton(const Round& round, const Scoring& scoring,
     setGeometry(px(kLeft), px(kTop), px(kWidth), px(kHeight));
     setFont(Fonts::display(5));
     setCursor(Qt::PointingHandCursor);
-    setFocusPolicy(Qt::NoFocus);
+    // Only Tab gives it the focus: after a click, Enter still plays from
+    // the board, and letters typed on it are guesses either way.
+    new ButtonLike(
+        this, [this] { click(); }, Qt::TabFocus);
     connect(this, &QPushButton::clicked, this, std::move(play));
 }
 

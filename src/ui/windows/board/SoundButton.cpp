@@ -6,6 +6,7 @@
 #include "models/board/BoardCommands.h"
 #include "models/board/KeyFaces.h"
 #include "state/Settings.h"
+#include "windows/ButtonLike.h"
 #include "windows/QtColour.h"
 #include "windows/board/BoardAccessible.h"
 
@@ -33,6 +34,13 @@ SoundButton::SoundButton(BoardCommands& commands, KeyFaces& faces, const Setting
     setCursor(Qt::PointingHandCursor);
     setMouseTracking(true);
     setAccessibleRole(this, QAccessible::Button);
+    new ButtonLike(
+        this,
+        [this] {
+            m_commands.toggleSounds();
+            m_changed();
+        },
+        Qt::TabFocus);
 }
 
 void SoundButton::sync() {

@@ -5,9 +5,11 @@
 #include "look/Twips.h"
 #include "models/board/StatsPanelModel.h"
 #include "platform/Fonts.h"
+#include "windows/ButtonLike.h"
 #include "windows/QtColour.h"
 #include "windows/board/BoardAccessible.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QLabel>
 #include <QMouseEvent>
@@ -70,6 +72,13 @@ StatsPanel::StatsPanel(StatsPanelModel& model, std::function<void()> changed, QW
     m_closeLabel->setCursor(Qt::PointingHandCursor);
     m_closeLabel->installEventFilter(this);
     setAccessibleRole(m_closeLabel, QAccessible::Button);
+    // The panel takes the focus as it opens, so a screen reader reads it;
+    // Enter or Space on it, or on " Cerrar ", rolls it up, Esc goes on to
+    // the board, which puts every panel away, and letters still guess.
+    new ButtonLike(
+        this, [this] { rollUp(); }, Qt::TabFocus);
+    new ButtonLike(
+        m_closeLabel, [this] { rollUp(); }, Qt::TabFocus);
 
     m_statsFrame = new QWidget(this);
     m_statsFrame->setGeometry(0, px(kFrameTop), px(kWidth), px(kFrameHeight));
@@ -114,9 +123,23 @@ void StatsPanel::paint(const QString& gameColour, const QString& shade) {
                       .arg(shade));
 }
 
+void StatsPanel::rollUp() {
+    m_model.close();
+    m_changed();
+}
+
 void StatsPanel::sync() {
     setGeometry(px(kLeft), px(kTop), px(kWidth), px(m_model.height()));
+    const bool opening = m_model.shown() && !isVisible();
+    // A panel on its way up hands the keys back to the board.
+    const bool focused = hasFocus() || isAncestorOf(QApplication::focusWidget());
+    if (focused && (!m_model.shown() || m_model.closing())) {
+        parentWidget()->setFocus();
+    }
     setVisible(m_model.shown());
+    if (opening) {
+        setFocus();
+    }
     m_statsFrame->setVisible(m_model.valuesShown());
     for (int i = 0; i < StatsPanelModel::kValues; ++i) {
         valueLabel(i)->setText(qs(m_model.value(i)));
@@ -128,8 +151,7 @@ void StatsPanel::sync() {
 
 bool StatsPanel::eventFilter(QObject* watched, QEvent* event) {
     if (watched == m_closeLabel && event->type() == QEvent::MouseButtonRelease) {
-        m_model.close();
-        m_changed();
+        rollUp();
         return true;
     }
     return QWidget::eventFilter(watched, event);

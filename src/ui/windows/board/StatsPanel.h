@@ -36,6 +36,9 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
+    // Rolls the panel up.
+    void rollUp();
+
     StatsPanelModel& m_model;
     std::function<void()> m_changed;
     QLabel* m_closeLabel = nullptr;

@@ -8,6 +8,7 @@
 #include "models/board/SidePanels.h"
 #include "platform/Fonts.h"
 #include "round/Round.h"
+#include "windows/ButtonLike.h"
 #include "windows/QtColour.h"
 #include "windows/RoundedLabel.h"
 #include "windows/board/BoardAccessible.h"
@@ -59,6 +60,8 @@ StrikeStrip::StrikeStrip(Round& round, KeyFaces& faces, SidePanels& panels,
     m_correctionLabel->setAccessibleName(QStringLiteral("Borrar un strike"));
     m_correctionLabel->setAccessibleDescription(QStringLiteral("Corrección de strikes"));
     m_correctionLabel->installEventFilter(this);
+    new ButtonLike(
+        m_correctionLabel, [this] { takeBackStrike(); }, Qt::TabFocus);
     QPalette white = m_correctionLabel->palette();
     white.setColor(QPalette::WindowText, Qt::white);
     m_correctionLabel->setPalette(white);
@@ -95,6 +98,12 @@ void StrikeStrip::sync() {
     m_correctionLabel->raise();
 }
 
+void StrikeStrip::takeBackStrike() {
+    m_round.takeBackStrike();
+    m_faces.restore();
+    m_changed();
+}
+
 void StrikeStrip::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton) {
         m_panels.closeAll();
@@ -118,10 +127,17 @@ bool StrikeStrip::eventFilter(QObject* watched, QEvent* event) {
         // its background.
         return true;
     case QEvent::MouseButtonRelease:
-        m_round.takeBackStrike();
-        m_faces.restore();
-        m_changed();
+        takeBackStrike();
         return true;
+    // The keyboard's focus offers the correction as the mouse over it does.
+    case QEvent::FocusIn:
+        m_faces.hoverCorrection();
+        sync();
+        return false;
+    case QEvent::FocusOut:
+        m_faces.restore();
+        sync();
+        return false;
     default:
         return false;
     }

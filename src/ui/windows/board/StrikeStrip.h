@@ -44,6 +44,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void takeBackStrike();
+
     Round& m_round;
     KeyFaces& m_faces;
     SidePanels& m_panels;

@@ -5,6 +5,7 @@
 #include "look/Twips.h"
 #include "platform/Fonts.h"
 #include "windows/AccessibleControl.h"
+#include "windows/EnterPresses.h"
 #include "windows/FocusRing.h"
 #include "windows/QtColour.h"
 #include "windows/design/DesignToggle.h"
@@ -201,6 +202,7 @@ void DesignWindow::buildControls() {
     });
 
     new FocusRing(this);
+    new EnterPresses(this);
 
     m_styleTimer = new QTimer(this);
     m_styleTimer->setInterval(DesignModel::kStyleTickMs);

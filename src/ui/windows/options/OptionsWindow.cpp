@@ -6,6 +6,7 @@
 #include "platform/Fonts.h"
 #include "storage/ConfigFile.h"
 #include "windows/CurrentRowDelegate.h"
+#include "windows/EnterPresses.h"
 #include "windows/FocusRing.h"
 #include "windows/QtColour.h"
 #include "windows/TypedTextFilter.h"
@@ -117,6 +118,7 @@ OptionsWindow::OptionsWindow(SharedState& shared, Dialogs& dialogs, Random& rand
     sync();
     m_pagesList->setFocus();
     new FocusRing(this);
+    new EnterPresses(this);
 }
 
 void OptionsWindow::keyPressEvent(QKeyEvent* event) {

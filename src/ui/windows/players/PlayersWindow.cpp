@@ -4,6 +4,7 @@
 
 #include "look/Twips.h"
 #include "platform/Fonts.h"
+#include "windows/EnterPresses.h"
 #include "windows/FocusRing.h"
 #include "windows/QtColour.h"
 
@@ -74,6 +75,7 @@ PlayersWindow::PlayersWindow(SharedState& shared, std::function<void()> closed, 
     first->setFocus();
     first->selectAll();
     new FocusRing(this);
+    new EnterPresses(this);
 }
 
 void PlayersWindow::keyPressEvent(QKeyEvent* event) {
