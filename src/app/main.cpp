@@ -1,9 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/DisplayServer.h"
 #include "desktop/WebLookUp.h"
 #include "look/Twips.h"
 #include "platform/AlsaSoundPlayer.h"
 #include "platform/AppIcon.h"
+#include "platform/CommandLine.h"
 #include "platform/Fonts.h"
 #include "platform/HelpPage.h"
 #include "platform/ProgramRestart.h"
@@ -28,9 +30,12 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <cstdlib>
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -177,8 +182,24 @@ private:
 } // namespace
 
 int main(int argc, char** argv) {
-    QApplication app(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("quillora-vesta"));
+    quillora::answerTerminalQuestions(argc, argv);
+
+    // The toolkit reads its platform from the command line it is given, so
+    // the choice reaches no program the game starts (a browser, the game
+    // itself on a restart), which makes its own.
+    std::vector<char*> arguments(argv, argv + argc);
+    std::string platform =
+        quillora::preferredPlatform(std::vector<std::string>(argv, argv + argc),
+                                    std::getenv("QT_QPA_PLATFORM"), std::getenv("DISPLAY"));
+    std::string platformOption = "-platform";
+    if (!platform.empty()) {
+        arguments.insert(arguments.empty() ? arguments.end() : arguments.begin() + 1,
+                         {platformOption.data(), platform.data()});
+    }
+    int count = static_cast<int>(arguments.size());
+    arguments.push_back(nullptr);
+    QApplication app(count, arguments.data());
+    quillora::nameApplication();
     QApplication::setWindowIcon(quillora::appIcon());
 
     // The standard buttons of the message boxes speak Spanish like the rest
