@@ -12,6 +12,7 @@
 #include "platform/QtDialogs.h"
 #include "platform/QtNetworkCheck.h"
 #include "platform/QtWeb.h"
+#include "platform/ScreenKeeper.h"
 #include "ports/ClockRandom.h"
 #include "state/SharedState.h"
 #include "windows/board/BoardWindow.h"
@@ -201,6 +202,8 @@ int main(int argc, char** argv) {
     QApplication app(count, arguments.data());
     quillora::nameApplication();
     QApplication::setWindowIcon(quillora::appIcon());
+    quillora::ScreenKeeper keeper;
+    app.installEventFilter(&keeper);
 
     // The standard buttons of the message boxes speak Spanish like the rest
     // of the game, whatever the desktop's language.
