@@ -22,8 +22,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QLibraryInfo>
-#include <QLocale>
 #include <QScreen>
 #include <QStandardPaths>
 #include <QTranslator>
@@ -205,13 +203,8 @@ int main(int argc, char** argv) {
     quillora::ScreenKeeper keeper;
     app.installEventFilter(&keeper);
 
-    // The standard buttons of the message boxes speak Spanish like the rest
-    // of the game, whatever the desktop's language.
     QTranslator qtSpanish;
-    if (qtSpanish.load(QLocale(QLocale::Spanish), QStringLiteral("qtbase"), QStringLiteral("_"),
-                       QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-        QApplication::installTranslator(&qtSpanish);
-    }
+    quillora::speakSpanish(qtSpanish);
     quillora::Fonts::registerEmbedded();
 
     Game game;

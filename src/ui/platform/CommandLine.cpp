@@ -7,6 +7,9 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QGuiApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
 
 namespace quillora {
 
@@ -18,38 +21,60 @@ void nameApplication() {
     QGuiApplication::setDesktopFileName(QString::fromLatin1(build::kAppId));
 }
 
-void answerTerminalQuestions(int argc, char** argv) {
-    QStringList arguments;
-    for (int i = 0; i < argc; ++i) {
-        arguments << QString::fromLocal8Bit(argv[i]);
-    }
-    QCommandLineParser parser;
+namespace {
+
+// The game's own questions; the toolkit's options are not listed but left to
+// it.
+void describe(QCommandLineParser& parser) {
     // The toolkit's "-reverse" is one option, not "-r -e -v...", which would
     // read as a question for the version.
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     parser.setApplicationDescription(
         QStringLiteral("Quillora Vesta: el juego del ahorcado, en español."));
-    const QCommandLineOption help = parser.addHelpOption();
-    const QCommandLineOption version = parser.addVersionOption();
+    // Qt's own help and version options would describe themselves in
+    // English.
+    parser.addOption(QCommandLineOption({QStringLiteral("h"), QStringLiteral("help")},
+                                        QStringLiteral("Muestra esta ayuda y termina.")));
+    parser.addOption(QCommandLineOption({QStringLiteral("v"), QStringLiteral("version")},
+                                        QStringLiteral("Muestra la versión y termina.")));
+}
+
+} // namespace
+
+void speakSpanish(QTranslator& qtSpanish) {
+    if (qtSpanish.load(QLocale(QLocale::Spanish), QStringLiteral("qtbase"), QStringLiteral("_"),
+                       QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QCoreApplication::installTranslator(&qtSpanish);
+    }
+}
+
+void answerTerminalQuestions(int argc, char** argv) {
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i) {
+        arguments << QString::fromLocal8Bit(argv[i]);
+    }
+    QCommandLineParser question;
+    describe(question);
     // Options the game does not know belong to the toolkit; they are no
     // question for the terminal.
-    parser.parse(arguments);
-    const bool helpAll = parser.isSet(QStringLiteral("help-all"));
-    if (!parser.isSet(help) && !parser.isSet(version) && !helpAll) {
+    question.parse(arguments);
+    const bool version = question.isSet(QStringLiteral("version"));
+    if (!version && !question.isSet(QStringLiteral("help"))) {
         return;
     }
-    // A core application needs no display, and gives the parser the
-    // program's name for its usage line.
+    // A core application needs no display; it gives the parser the
+    // program's name for its usage line, and the answer the game's Spanish.
     QCoreApplication app(argc, argv);
     nameApplication();
-    if (parser.isSet(version)) {
-        parser.showVersion();
+    QTranslator qtSpanish;
+    speakSpanish(qtSpanish);
+    QCommandLineParser answer;
+    describe(answer);
+    answer.parse(arguments);
+    if (version) {
+        answer.showVersion();
     }
-    if (helpAll) {
-        // Qt's own options are listed only by the parser's full pass.
-        parser.process(app);
-    }
-    parser.showHelp(0);
+    answer.showHelp(0);
 }
 
 } // namespace quillora
