@@ -1,15 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "desktop/DisplayServer.h"
 #include "desktop/WebLookUp.h"
 #include "look/Twips.h"
 #include "platform/AlsaSoundPlayer.h"
 #include "platform/AppIcon.h"
+#include "platform/CommandLine.h"
 #include "platform/Fonts.h"
 #include "platform/HelpPage.h"
 #include "platform/ProgramRestart.h"
 #include "platform/QtDialogs.h"
 #include "platform/QtNetworkCheck.h"
 #include "platform/QtWeb.h"
+#include "platform/ScreenKeeper.h"
 #include "ports/ClockRandom.h"
 #include "state/SharedState.h"
 #include "windows/board/BoardWindow.h"
@@ -19,8 +22,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QLibraryInfo>
-#include <QLocale>
 #include <QScreen>
 #include <QStandardPaths>
 #include <QTranslator>
@@ -28,9 +29,12 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <cstdlib>
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -177,17 +181,30 @@ private:
 } // namespace
 
 int main(int argc, char** argv) {
-    QApplication app(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("quillora-vesta"));
-    QApplication::setWindowIcon(quillora::appIcon());
+    quillora::answerTerminalQuestions(argc, argv);
 
-    // The standard buttons of the message boxes speak Spanish like the rest
-    // of the game, whatever the desktop's language.
-    QTranslator qtSpanish;
-    if (qtSpanish.load(QLocale(QLocale::Spanish), QStringLiteral("qtbase"), QStringLiteral("_"),
-                       QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-        QApplication::installTranslator(&qtSpanish);
+    // The toolkit reads its platform from the command line it is given, so
+    // the choice reaches no program the game starts (a browser, the game
+    // itself on a restart), which makes its own.
+    std::vector<char*> arguments(argv, argv + argc);
+    std::string platform =
+        quillora::preferredPlatform(std::vector<std::string>(argv, argv + argc),
+                                    std::getenv("QT_QPA_PLATFORM"), std::getenv("DISPLAY"));
+    std::string platformOption = "-platform";
+    if (!platform.empty()) {
+        arguments.insert(arguments.empty() ? arguments.end() : arguments.begin() + 1,
+                         {platformOption.data(), platform.data()});
     }
+    int count = static_cast<int>(arguments.size());
+    arguments.push_back(nullptr);
+    QApplication app(count, arguments.data());
+    quillora::nameApplication();
+    QApplication::setWindowIcon(quillora::appIcon());
+    quillora::ScreenKeeper keeper;
+    app.installEventFilter(&keeper);
+
+    QTranslator qtSpanish;
+    quillora::speakSpanish(qtSpanish);
     quillora::Fonts::registerEmbedded();
 
     Game game;

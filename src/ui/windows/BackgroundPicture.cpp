@@ -14,10 +14,30 @@ namespace quillora {
 
 namespace {
 
-// A phone's largest photos stay under this and decode in a fraction of a
-// second; a file that claims more is more likely a trap than a background,
-// and decoding it would hold the window up and eat the memory.
-constexpr qint64 kMaxPixels = 64LL * 1000 * 1000;
+// A picture whose decoder cannot shrink it on the way is decoded whole: up
+// to this, which is also what the toolkit lets one picture take (256 MB at
+// four bytes a pixel). A camera's photo is a JPEG, decoded already shrunk to
+// what is shown, so no camera comes near it.
+constexpr qint64 kMaxWholePixels = 64LL * 1024 * 1024;
+
+// The part of a picture as stored that becomes the top left corner of the
+// given size once the picture is turned or mirrored as its file asks: the
+// decoder clips before it turns.
+QRect storedCorner(QSize stored, QSize corner, QImageIOHandler::Transformations turn) {
+    QRect part(QPoint(0, 0), corner);
+    if (turn & QImageIOHandler::TransformationRotate90) {
+        // Turned a quarter clockwise, the shown left edge was the bottom.
+        part =
+            QRect(part.y(), stored.height() - part.x() - part.width(), part.height(), part.width());
+    }
+    if (turn & QImageIOHandler::TransformationMirror) {
+        part.moveLeft(stored.width() - part.x() - part.width());
+    }
+    if (turn & QImageIOHandler::TransformationFlip) {
+        part.moveTop(stored.height() - part.y() - part.height());
+    }
+    return part;
+}
 
 } // namespace
 
@@ -45,17 +65,30 @@ QPixmap BackgroundPicture::load() const {
     const QSize target(static_cast<int>(std::ceil(m_area.width() * m_pixelRatio)),
                        static_cast<int>(std::ceil(m_area.height() * m_pixelRatio)));
     const QSize size = reader.size();
-    if (!size.isValid() || target.isEmpty() ||
-        static_cast<qint64>(size.width()) * size.height() > kMaxPixels) {
+    if (!size.isValid() || target.isEmpty()) {
         return {};
     }
-    // A photo many times the board's size is decoded straight to what is
-    // shown where the format allows it, so a large file opens quickly.
+    // The decoder works on the picture as stored; a photo taken upright is
+    // turned only after it.
+    const QImageIOHandler::Transformations turn = reader.transformation();
+    const bool quarter = turn & QImageIOHandler::TransformationRotate90;
+    const QSize stored = quarter ? target.transposed() : target;
+    // Only what is shown is decoded, where the format allows it: the corner
+    // the board shows at the real size, or, stretched, a picture shrunk to
+    // twice the board (the rest of the way is smoothed here). So a photo of
+    // any size opens quickly and in little memory.
+    bool shrunk = false;
     if (m_realSize && reader.supportsOption(QImageIOHandler::ClipRect)) {
-        reader.setClipRect(QRect(QPoint(0, 0), size.boundedTo(target)));
+        const QSize shown = (quarter ? size.transposed() : size).boundedTo(target);
+        reader.setClipRect(storedCorner(size, shown, turn));
+        shrunk = true;
     } else if (!m_realSize && reader.supportsOption(QImageIOHandler::ScaledSize) &&
-               size.width() >= 2 * target.width() && size.height() >= 2 * target.height()) {
-        reader.setScaledSize(target * 2);
+               (size.width() > 2 * stored.width() || size.height() > 2 * stored.height())) {
+        reader.setScaledSize(size.boundedTo(stored * 2));
+        shrunk = true;
+    }
+    if (!shrunk && static_cast<qint64>(size.width()) * size.height() > kMaxWholePixels) {
+        return {};
     }
     QImage image = reader.read();
     if (image.isNull()) {

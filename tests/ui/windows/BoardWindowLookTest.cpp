@@ -6,8 +6,11 @@
 #include "windows/BackgroundPicture.h"
 #include "windows/board/SoundButton.h"
 
+#include <QBuffer>
 #include <QImage>
+#include <QImageReader>
 #include <QMenu>
+#include <QPainter>
 #include <QTimer>
 
 #include <fstream>
@@ -30,8 +33,9 @@ protected:
         timer->setInterval(0);
         QCoreApplication::processEvents();
     }
-    fs::path picture(const char* name, QSize size, QColor colour) {
-        QImage image(size, QImage::Format_RGB32);
+    fs::path picture(const char* name, QSize size, QColor colour,
+                     QImage::Format format = QImage::Format_RGB32) {
+        QImage image(size, format);
         image.fill(colour);
         const fs::path path = folder / name;
         EXPECT_TRUE(image.save(QString::fromStdString(path.string())));
@@ -145,6 +149,52 @@ TEST_F(BoardLooks, OnADenseScreenThePictureIsFittedToItsPixelsNotScaledTwice) {
     EXPECT_EQ(picture.pixmap().size(), QSize(783, 356));
     ASSERT_TRUE(picture.follow(QString(), true, QSize(783, 356), 1.0));
     EXPECT_FALSE(picture.shown());
+}
+
+TEST_F(BoardLooks, APhotoOfAnySizeIsDecodedOnlyAsLargeAsTheBoardShowsIt) {
+    // More pixels than any picture decoded whole may have, and the toolkit
+    // allowed a fraction of what decoding it whole would take.
+    const QString file = QString::fromStdString(
+        picture("foto.jpg", QSize(8200, 8200), Qt::gray, QImage::Format_Grayscale8).string());
+    struct Limit {
+        int before = QImageReader::allocationLimit();
+        Limit() { QImageReader::setAllocationLimit(32); }
+        ~Limit() { QImageReader::setAllocationLimit(before); }
+    } limit;
+    BackgroundPicture picture;
+    ASSERT_TRUE(picture.follow(file, false, QSize(783, 356), 1.0));
+    EXPECT_EQ(picture.pixmap().size(), QSize(783, 356));
+    EXPECT_NEAR(qGray(picture.pixmap().toImage().pixel(700, 300)), qGray(QColor(Qt::gray).rgb()),
+                4);
+    ASSERT_TRUE(picture.follow(file, true, QSize(783, 356), 1.0));
+    EXPECT_EQ(picture.pixmap().size(), QSize(783, 356)) << "the corner the board shows";
+}
+
+TEST_F(BoardLooks, APhotoStoredOnItsSideShowsItsUprightCornerAtRealSize) {
+    // As a phone stores a photo taken upright: on its side, with a mark where
+    // the upright photo's top left corner is, and the file saying to turn it
+    // a quarter clockwise.
+    QImage stored(400, 300, QImage::Format_RGB32);
+    stored.fill(Qt::white);
+    QPainter(&stored).fillRect(0, 250, 50, 50, Qt::red);
+    QByteArray jpeg;
+    QBuffer buffer(&jpeg);
+    buffer.open(QIODevice::WriteOnly);
+    ASSERT_TRUE(stored.save(&buffer, "JPG", 95));
+    const QByteArray exif("\xFF\xE1\x00\x22"
+                          "Exif\0\0II*\0\x08\0\0\0\x01\0\x12\x01\x03\0\x01\0\0\0\x06\0\0\0\0\0\0\0",
+                          36);
+    const fs::path path = folder / "movil.jpg";
+    std::ofstream(path, std::ios::binary) << (jpeg.left(2) + exif + jpeg.mid(2)).toStdString();
+
+    BackgroundPicture picture;
+    for (const bool realSize : {true, false}) {
+        ASSERT_TRUE(
+            picture.follow(QString::fromStdString(path.string()), realSize, QSize(120, 110), 1.0));
+        EXPECT_EQ(picture.pixmap().size(), QSize(120, 110));
+        EXPECT_GT(qRed(picture.pixmap().toImage().pixel(3, 3)), 220) << realSize;
+        EXPECT_LT(qGreen(picture.pixmap().toImage().pixel(3, 3)), 40) << realSize;
+    }
 }
 
 } // namespace

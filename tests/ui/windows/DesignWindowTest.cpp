@@ -21,6 +21,7 @@
 #include <QMenu>
 #include <QSignalSpy>
 #include <QTimer>
+#include <QWindow>
 
 #include <fstream>
 
@@ -135,6 +136,9 @@ TEST_F(DesignWindowTest, TheMenuEntryAndCtrlDOpenOneWindowButNotAfterADeath) {
     ASSERT_NE(design, nullptr);
     EXPECT_TRUE(design->isVisible());
     EXPECT_EQ(design->windowTitle(), QStringLiteral("Diseño:"));
+    // Where windows cannot place themselves (Wayland), the compositor keeps
+    // it with the board only as the board's own.
+    EXPECT_EQ(design->windowHandle()->transientParent(), window->windowHandle());
     design->close();
     settle();
     EXPECT_EQ(window->designWindow(), nullptr);
