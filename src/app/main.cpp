@@ -28,7 +28,6 @@
 
 #include <QTimer>
 
-#include <algorithm>
 #include <cstdlib>
 #include <functional>
 #include <memory>
@@ -109,13 +108,7 @@ private:
     // caption, at a height of its own.
     void openMenuInPlaceOf(QPoint at, int width, const QString& caption) {
         auto menu = newMenu();
-        // Never shorter than the menu's own tiles and legend, which would
-        // otherwise be cut off at the foot.
-        menu->model().sizeWindow(width, std::max(quillora::OptionsModel::kMenuHeightTwips,
-                                                 quillora::MainMenuModel::kHeightTwips));
-        menu->sync();
-        menu->setWindowTitle(caption);
-        menu->move(at);
+        menu->takePlaceOf(at, width, caption);
         menu->show();
         replace(std::move(menu));
     }

@@ -94,10 +94,11 @@ TEST(NamesModelTest, ShowsThePlayersRowsAndGoesRoundThemOnEnter) {
 
 TEST(NamesModelTest, TwoTicksSwapAndAThirdIsRefused) {
     PlayersModel model(players(4));
-    EXPECT_TRUE(model.tick(3));
+    EXPECT_TRUE(model.setTicked(3, true));
     EXPECT_FALSE(model.changeTimerRunning());
-    EXPECT_TRUE(model.tick(1));
-    EXPECT_FALSE(model.tick(4));
+    EXPECT_TRUE(model.setTicked(1, true));
+    EXPECT_FALSE(model.setTicked(4, true));
+    EXPECT_TRUE(model.setTicked(1, true)) << "a box told again what it is stays ticked";
     model.tickChange();
     EXPECT_EQ(model.text(1), "Ciro");
     EXPECT_EQ(model.text(3), "Ana");

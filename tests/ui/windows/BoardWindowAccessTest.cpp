@@ -3,6 +3,7 @@
 #include "support/BoardFixture.h"
 #include "support/Keys.h"
 #include "windows/FocusRing.h"
+#include "windows/board/GallowsView.h"
 #include "windows/board/HistoryPanel.h"
 #include "windows/board/KeyboardAccessible.h"
 #include "windows/board/KeyboardView.h"
@@ -130,6 +131,31 @@ TEST_F(BoardAccess, NoTextOfAnyWindowGivesTheHiddenPhraseAwayUntilTheGameEnds) {
     EXPECT_EQ(cell(*window, 1)->text(QAccessible::Description), "fila 1, columna 1, no adivinada");
     EXPECT_EQ(name(access(window->controls().strikes->strikeLabel(1)->parentWidget())),
               "Strikes: 8 de 8");
+}
+
+// A right answer with few letters shown empties the marks, but the figure
+// keeps the parts it had: the strikes are heard as the figure shows them.
+// Alone, the points standing in the player's place say so.
+TEST_F(BoardAccess, AfterAHalfBonusTheStrikesSayWhatTheFigureShows) {
+    startVaca();
+    type("xz!");
+    QLineEdit* box = window->controls().answerPanel->answerBox();
+    type("vaca", box);
+    dialogs.answer({true});
+    QTest::keyClick(box, Qt::Key_Return);
+    ASSERT_EQ(window->controls().statusLabel->text(), QStringLiteral("¡VICTORIA!"));
+    ASSERT_EQ(strike(1), "");
+    EXPECT_EQ(name(access(window->controls().gallows)), "Ahorcado: paso 2 de 8");
+    EXPECT_EQ(name(access(window->controls().strikes->strikeLabel(1)->parentWidget())),
+              "Strikes: 2 de 8");
+
+    QStringList heard;
+    walk(access(window.get()), [&heard](QAccessibleInterface* item) {
+        if (!item->state().invisible) {
+            heard << textsOf(item);
+        }
+    });
+    EXPECT_TRUE(heard.contains(QStringLiteral("Jugando solo"))) << heard.join(" | ").toStdString();
 }
 
 TEST_F(BoardAccess, TheKeyboardReachesTheMenuAndEveryFocusedControlShowsAMark) {

@@ -232,6 +232,15 @@ TEST_F(DesignWindowTest, TheKeysAloneChooseAPictureAndAToggleAndAScreenReaderHea
     const AccessibleTree tree(design);
     EXPECT_EQ(tree.root()->text(QAccessible::Name), QStringLiteral("Diseño:"));
     EXPECT_EQ(tree.unheardControls(), "");
+    // Every picture listed is heard, not only the first one read.
+    QAccessibleInterface* fileRows = tree.find(design->fileList());
+    ASSERT_NE(fileRows, nullptr);
+    QStringList heardFiles;
+    for (int i = 0; i < fileRows->childCount(); ++i) {
+        heardFiles << fileRows->child(i)->text(QAccessible::Name);
+    }
+    heardFiles.sort();
+    EXPECT_EQ(heardFiles, QStringList({"azul.png", "rojo.png"}));
     EXPECT_EQ(tree.find(design->goButton())->text(QAccessible::Name), "Actualizar Dirección");
     QAccessibleInterface* lines = tree.find(design->toggleButton(DesignModel::Toggle::White));
     EXPECT_EQ(lines->role(), QAccessible::CheckBox);
@@ -259,6 +268,9 @@ TEST_F(DesignWindowTest, TheKeysAloneChooseAPictureAndAToggleAndAScreenReaderHea
     EXPECT_EQ(boardPixel(), colourOf(first));
     pressKey(Qt::Key_Down);
     EXPECT_NE(chosen(), first);
+    ASSERT_NE(fileRows->focusChild(), nullptr);
+    EXPECT_EQ(fileRows->focusChild()->text(QAccessible::Name).toStdString(),
+              chosen().filename().string());
     EXPECT_EQ(boardPixel(), colourOf(chosen()));
     EXPECT_EQ(design->model().picture(), chosen().string());
 

@@ -92,6 +92,20 @@ TEST_F(MenuWindowTest, TheMouseAndTheKeysReachTheModel) {
     EXPECT_EQ(window->numberBox()->text(), "7");
 }
 
+// Back from the options the menu stands where they stood, as wide, under
+// their caption, but short: the legend and every tile still whole.
+TEST_F(MenuWindowTest, BackFromTheOptionsItTakesTheirPlaceShortWithEveryTileInSight) {
+    window = std::make_unique<MainMenu>(shared, dialogs);
+    window->takePlaceOf(QPoint(90, 70), 6945, QStringLiteral("Configuración:"));
+    window->show();
+    EXPECT_EQ(window->pos(), QPoint(90, 70));
+    EXPECT_EQ(window->size(), QSize(px(6945), px(2115)));
+    EXPECT_EQ(window->windowTitle(), QStringLiteral("Configuración:"));
+    for (Spot spot : {Spot::Legend, Spot::Solo, Spot::Friend, Spot::Several, Spot::Options}) {
+        EXPECT_TRUE(window->rect().contains(window->spotRect(spot))) << static_cast<int>(spot);
+    }
+}
+
 TEST_F(MenuWindowTest, TheTilesAreHeardByTheirLegendsAndPlayedFromTheKeys) {
     open(false);
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));

@@ -12,6 +12,7 @@
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QTimer>
 
 #include <vector>
 
@@ -144,6 +145,36 @@ TEST_F(PhraseWindows, TheFriendSeesHisPhraseWhileAScreenReaderHearsAPasswordBox)
     pressKey(Qt::Key_Return);
     EXPECT_EQ(window->controls().themeBox->themeLabel()->text(), "Frase de Ana");
     EXPECT_EQ(window->controls().statusLabel->text(), "JUGANDO...");
+}
+
+// Space on a box and a screen reader's toggle tick as a click does: two
+// ticks swap the names and clear both, and a third tick is undone at once.
+TEST(PlayersWindowSwap, TheKeysAndAScreenReaderTickAsTheMouseDoes) {
+    SharedState shared;
+    setUpRoster(shared, true, 3);
+    shared.sessions[0].playerNames = {"Ana", "Beto", "Ciro"};
+    PlayersWindow names(shared, [] {});
+    names.show();
+    ASSERT_TRUE(takeKeys(&names));
+    names.checkBox(1)->setFocus(Qt::TabFocusReason);
+    pressKey(Qt::Key_Space);
+    EXPECT_TRUE(names.model().checked(1));
+    QAccessibleInterface* third = QAccessible::queryAccessibleInterface(names.checkBox(3));
+    ASSERT_NE(third->actionInterface(), nullptr);
+    third->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_TRUE(names.model().checked(3));
+    ASSERT_TRUE(names.changeTimer()->isActive());
+
+    names.checkBox(2)->setFocus(Qt::TabFocusReason);
+    pressKey(Qt::Key_Space);
+    EXPECT_FALSE(names.checkBox(2)->isChecked() || names.model().checked(2));
+
+    names.changeTimer()->setInterval(0);
+    names.changeTimer()->start();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(names.nameBox(1)->text(), "Ciro");
+    EXPECT_EQ(names.nameBox(3)->text(), "Ana");
+    EXPECT_FALSE(names.checkBox(1)->isChecked() || names.checkBox(3)->isChecked());
 }
 
 // However many play, the names window shows one row for each, every row

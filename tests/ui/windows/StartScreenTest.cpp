@@ -5,6 +5,7 @@
 #include "support/AccessibleTree.h"
 #include "support/Fakes.h"
 #include "support/Keys.h"
+#include "windows/QtColour.h"
 
 #include <QLabel>
 #include <QTest>
@@ -49,6 +50,29 @@ TEST(StartScreenWindow, TheMenuComesAfterTheLineOrTheNoticeStaysAndItsButtonsWor
             EXPECT_EQ(restarts, 1);
         }
     }
+}
+
+// " Cerrar " shows the screen through it, and fills only while it is held.
+TEST(StartScreenWindow, CloseIsAnOutlineThatFillsOnlyWhilePressed) {
+    SharedState shared;
+    ScriptedDialogs dialogs;
+    FakeDesktop desktop(dialogs);
+    StartScreen screen(shared, desktop.lookUp, true);
+    int closes = 0;
+    screen.onClose = [&closes] { ++closes; };
+    screen.show();
+    QLabel* close = screen.closeLabel();
+    // Beside the text, inside the outline.
+    const auto inside = [&] {
+        const QRect at = close->geometry();
+        return screen.grab(at).toImage().pixelColor(4, at.height() / 2);
+    };
+    EXPECT_EQ(inside(), qc(kNearWhite));
+    QTest::mousePress(close, Qt::LeftButton);
+    EXPECT_EQ(inside(), qc(kDefaultBlue));
+    QTest::mouseRelease(close, Qt::LeftButton);
+    EXPECT_EQ(inside(), qc(kNearWhite));
+    EXPECT_EQ(closes, 1);
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "round/Round.h"
 #include "words/Text.h"
 
+#include <algorithm>
 #include <array>
 
 namespace quillora {
@@ -34,6 +35,26 @@ std::string trimmed(std::string_view text) {
         return {};
     }
     return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
+}
+
+// The strikes the figure shows by its parts.
+int figureStep(const Figure& figure) {
+    // One part for each of the first six strikes; the seventh is the panic,
+    // the eighth the hanging.
+    constexpr std::array<Figure::Part, 6> kSteps{Figure::Head,    Figure::Body,
+                                                 Figure::LeftArm, Figure::RightArm,
+                                                 Figure::LeftLeg, Figure::RightLeg};
+    if (figure.hanging()) {
+        return RoundState::kSlots;
+    }
+    if (figure.visible(Figure::PanicPicture)) {
+        return RoundState::kSlots - 1;
+    }
+    int step = 0;
+    for (Figure::Part part : kSteps) {
+        step += figure.visible(part) ? 1 : 0;
+    }
+    return step;
 }
 
 std::string outOf(const char* what, int count, int total) {
@@ -81,12 +102,12 @@ std::string spokenCounter(const PhraseBoard& board) {
     return outOf("Letras reveladas", board.revealedCount(), board.letterTotal());
 }
 
-std::string spokenStrikes(const RoundState& state) {
+std::string spokenStrikes(const RoundState& state, const Figure& figure) {
     int marks = 0;
     for (int slot = 1; slot <= RoundState::kSlots; ++slot) {
         marks += state.slot(slot).empty() ? 0 : 1;
     }
-    return outOf("Strikes", marks, RoundState::kSlots);
+    return outOf("Strikes", std::max(marks, figureStep(figure)), RoundState::kSlots);
 }
 
 std::string spokenStrikeMark(const RoundState& state, int slot) {
@@ -99,21 +120,8 @@ std::string spokenStrikeMark(const RoundState& state, int slot) {
 }
 
 std::string spokenFigure(const Figure& figure) {
-    // One part for each of the first six strikes; the seventh is the panic,
-    // the eighth the hanging.
-    constexpr std::array<Figure::Part, 6> kSteps{Figure::Head,    Figure::Body,
-                                                 Figure::LeftArm, Figure::RightArm,
-                                                 Figure::LeftLeg, Figure::RightLeg};
-    int step = 0;
-    for (Figure::Part part : kSteps) {
-        step += figure.visible(part) ? 1 : 0;
-    }
-    if (figure.hanging()) {
-        step = 8;
-    } else if (figure.visible(Figure::PanicPicture)) {
-        step = 7;
-    }
-    return "Ahorcado: paso " + std::to_string(step) + " de " + std::to_string(RoundState::kSlots);
+    return "Ahorcado: paso " + std::to_string(figureStep(figure)) + " de " +
+           std::to_string(RoundState::kSlots);
 }
 
 std::string spokenStatus(const std::string& status) {

@@ -34,8 +34,10 @@ std::string spokenKeyDescription(const Round& round, int key);
 
 // "Letras reveladas: 5 de 14".
 std::string spokenCounter(const PhraseBoard& board);
-// "Strikes: 3 de 8", counting the marks the strip shows.
-std::string spokenStrikes(const RoundState& state);
+// "Strikes: 3 de 8", counting the marks the strip shows, or the strikes the
+// figure shows where more: a right answer given early empties the marks but
+// leaves the figure as it stood.
+std::string spokenStrikes(const RoundState& state, const Figure& figure);
 // A strike mark: its wrong letter, "vacío", or the mark of a wrong answer.
 std::string spokenStrikeMark(const RoundState& state, int slot);
 // "Ahorcado: paso 3 de 8", by the parts drawn.

@@ -232,9 +232,9 @@ void MainMenuModel::placeWindow(int left, int top) {
     m_top = top;
 }
 
-void MainMenuModel::sizeWindow(int width, int height) {
+void MainMenuModel::takeOptionsWidth(int width) {
     m_width = width;
-    m_height = height;
+    m_height = kBackFromOptionsHeightTwips;
 }
 
 void MainMenuModel::showAbout() {

@@ -88,8 +88,9 @@ public:
     // window was moved; the opening towards the options changes all four.
     void placeWindow(int left, int top);
     // The menu that comes back from the options takes their window's width
-    // and a height of its own.
-    void sizeWindow(int width, int height);
+    // and a height of its own, shorter than its panel.
+    static constexpr int kBackFromOptionsHeightTwips = 2115;
+    void takeOptionsWidth(int width);
     int windowLeft() const { return m_left; }
     int windowTop() const { return m_top; }
     int windowWidth() const { return m_width; }

@@ -31,8 +31,6 @@ public:
     // The window's size, in twips.
     static constexpr int kWidthTwips = 6945;
     static constexpr int kHeightTwips = 4155;
-    // The menu that takes the options window's place is this tall.
-    static constexpr int kMenuHeightTwips = 2115;
     // One tick, so the click on " &Menú" is over before the window goes.
     static constexpr int kOutTickMs = 10;
 

@@ -41,13 +41,10 @@ int PlayersModel::tickedCount() const {
     return static_cast<int>(std::count(m_checked.begin(), m_checked.end(), true));
 }
 
-bool PlayersModel::tick(int box) {
-    bool& on = m_checked[index(box)];
-    on = !on;
-    if (on && tickedCount() > 2) {
-        on = false;
-    }
-    return on;
+bool PlayersModel::setTicked(int box, bool on) {
+    bool& ticked = m_checked[index(box)];
+    ticked = on && (ticked || tickedCount() < 2);
+    return ticked;
 }
 
 void PlayersModel::tickChange() {

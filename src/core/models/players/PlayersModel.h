@@ -48,9 +48,10 @@ public:
     };
     EnterMove enter(int box) const;
 
-    // A click on check box `box`; answers whether it is ticked afterwards
-    // (a third tick is refused). Two ticks start the swap's timer.
-    bool tick(int box);
+    // Check box `box` turned on or off, by the mouse, the keys or a screen
+    // reader alike; answers whether it is ticked afterwards (a third tick is
+    // refused). Two ticks start the swap's timer.
+    bool setTicked(int box, bool on);
     bool checked(int box) const { return m_checked[index(box)]; }
     bool changeTimerRunning() const { return tickedCount() == 2; }
     // The swap's tick: swaps the names of the two ticked boxes and clears both.

@@ -98,7 +98,14 @@ void ScorePanel::syncScore() {
 
 void ScorePanel::syncPlayer() {
     m_player1Label->setText(qs(m_turn.label().caption));
-    m_player1Label->setToolTip(qs(m_turn.label().tooltip));
+    // Who is playing is told by the player labels' tooltip, on the points
+    // as well while they stand in the player's place; a screen reader hears
+    // it as the panel's description.
+    const QString players = qs(m_turn.label().tooltip);
+    for (QWidget* label : std::initializer_list<QWidget*>{m_player1Label, m_scoreFrame}) {
+        label->setToolTip(players);
+        setSpokenDescription(label, players.trimmed());
+    }
 }
 
 QMenu* ScorePanel::buildScoreMenu() {

@@ -91,7 +91,7 @@ void StrikeStrip::sync() {
         strikeLabel(slot)->setText(qs(state.slot(slot)));
         setSpokenName(strikeLabel(slot), qs(spokenStrikeMark(state, slot)));
     }
-    setSpokenName(this, qs(spokenStrikes(state)));
+    setSpokenName(this, qs(spokenStrikes(state, m_round.figure())));
     m_correctionLabel->setText(qs(m_faces.correctionCaption()));
     m_correctionLabel->setToolTip(qs(m_faces.correctionTooltip()));
     setAccessibleUnavailable(m_correctionLabel, !m_round.correctionOffered());

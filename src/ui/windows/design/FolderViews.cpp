@@ -5,6 +5,7 @@
 #include "look/Colour.h"
 #include "windows/CurrentRowDelegate.h"
 #include "windows/QtColour.h"
+#include "windows/design/FolderListAccessible.h"
 
 #include <QDir>
 #include <QFileSystemModel>
@@ -21,6 +22,7 @@ constexpr Rgb kRefusedList{255, 128, 128};
 // entries from holding the window up while it fills.
 QListView* makeList(QWidget* window, const QString& name, const QString& tooltip) {
     auto* list = new QListView(window);
+    makeFolderListHeard(list);
     list->setToolTip(tooltip);
     list->setAccessibleName(name);
     CurrentRowDelegate::mark(list);
@@ -78,6 +80,15 @@ void FolderViews::makeModels() {
     m_fileView->setModel(m_files);
     connect(m_fileView->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& current) { fileMoved(current); });
+    // The folder is read bit by bit, long after the lists first showed.
+    for (QListView* list : {m_folderView, m_fileView}) {
+        connect(list->model(), &QAbstractItemModel::rowsInserted, this,
+                [list](const QModelIndex& parent, int first, int last) {
+                    if (parent == list->rootIndex()) {
+                        announceFolderRows(list, first, last);
+                    }
+                });
+    }
 }
 
 void FolderViews::show(const QString& folder, int reads) {

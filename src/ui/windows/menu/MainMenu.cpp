@@ -516,8 +516,18 @@ void MainMenu::moveEvent(QMoveEvent*) {
     }
 }
 
+void MainMenu::takePlaceOf(QPoint at, int widthTwips, const QString& caption) {
+    m_model.takeOptionsWidth(widthTwips);
+    sync();
+    setWindowTitle(caption);
+    move(at);
+}
+
 void MainMenu::resizeEvent(QResizeEvent*) {
-    m_content->move((width() - m_content->width()) / 2, (height() - m_content->height()) / 2);
+    // A window shorter than the panel keeps the panel's top: the legend and
+    // the tiles stay whole, and only the strip at its foot is cut.
+    const int spare = height() - m_content->height();
+    m_content->move((width() - m_content->width()) / 2, spare >= 0 ? spare / 2 : 0);
 }
 
 void MainMenu::showEvent(QShowEvent* event) {

@@ -32,6 +32,9 @@ public:
 
     // Brings the controls, the window's size and the timers in step with the model.
     void sync();
+    // Back from the options: their window's place, width (in twips) and
+    // caption, at the menu's own height after them.
+    void takePlaceOf(QPoint at, int widthTwips, const QString& caption);
 
     // For the tests: where a spot lies, in the window's own coordinates.
     QRect spotRect(MainMenuModel::Spot spot) const;

@@ -51,9 +51,14 @@ PlayersWindow::PlayersWindow(SharedState& shared, std::function<void()> closed, 
         // Two ticks swap two players.
         check->setAccessibleName(QStringLiteral("Cambiar de lugar al jugador %1").arg(box));
         check->setGeometry(px(kWidth - 840), px(90), px(420), px(360));
-        connect(check, &QCheckBox::clicked, this, [this, box](bool) {
-            m_checks[static_cast<std::size_t>(box - 1)]->setChecked(m_model.tick(box));
-            if (m_model.changeTimerRunning()) {
+        // The box's own state is what counts, whether a click, Space or a
+        // screen reader's toggle changed it.
+        connect(check, &QCheckBox::toggled, this, [this, box](bool on) {
+            const bool kept = m_model.setTicked(box, on);
+            if (kept != on) {
+                checkBox(box)->setChecked(kept);
+            }
+            if (m_model.changeTimerRunning() && !m_changeTimer->isActive()) {
                 m_changeTimer->start();
             }
         });

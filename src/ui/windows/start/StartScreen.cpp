@@ -86,9 +86,7 @@ StartScreen::StartScreen(SharedState& shared, WebLookUp& lookUp, bool fontAvaila
     }
     m_notice->hide();
     for (QLabel* button : {m_downloadButton, m_restartButton, m_closeLabel}) {
-        button->setStyleSheet(
-            QStringLiteral("QLabel { color: white; background: %1; border-radius: 6px; }")
-                .arg(css(kDefaultBlue)));
+        paintButton(button, false);
     }
 
     for (QLabel* button : {m_closeLabel, m_downloadButton, m_restartButton}) {
@@ -150,15 +148,30 @@ bool StartScreen::eventFilter(QObject* watched, QEvent* event) {
                    event->type() != QEvent::MouseButtonRelease)) {
         return QWidget::eventFilter(watched, event);
     }
-    // A pressed button fills in; the release lets it go and acts.
+    // The release lets the button go and acts.
     const bool pressed = event->type() == QEvent::MouseButtonPress;
-    label->setStyleSheet(
-        QStringLiteral("QLabel { color: white; background: %1; border-radius: 6px; }")
-            .arg(css(pressed ? kGreenLamp : kDefaultBlue)));
+    paintButton(label, pressed);
     if (!pressed) {
         press(label);
     }
     return true;
+}
+
+void StartScreen::paintButton(QLabel* button, bool pressed) {
+    if (button == m_closeLabel) {
+        // " Cerrar " is only an outline on the screen, filled while it is
+        // held down.
+        button->setStyleSheet(
+            QStringLiteral("QLabel { color: %2; background: %3; border: 1px solid %1;"
+                           " border-radius: 6px; }")
+                .arg(css(kDefaultBlue), pressed ? QStringLiteral("white") : css(kDefaultBlue),
+                     pressed ? css(kDefaultBlue) : QStringLiteral("transparent")));
+        return;
+    }
+    // The notice's buttons stand out in blue and turn green while pressed.
+    button->setStyleSheet(
+        QStringLiteral("QLabel { color: white; background: %1; border-radius: 6px; }")
+            .arg(css(pressed ? kGreenLamp : kDefaultBlue)));
 }
 
 void StartScreen::press(QLabel* button) {

@@ -44,6 +44,8 @@ private:
     void follow();
     // " Cerrar ", "DESCARGAR" or "REINICIAR", clicked or pressed from the keys.
     void press(QLabel* button);
+    // How a button looks at rest and while the mouse holds it down.
+    void paintButton(QLabel* button, bool pressed);
 
     StartScreenModel m_model;
     WebLookUp& m_lookUp;
