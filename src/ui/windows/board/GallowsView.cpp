@@ -151,9 +151,7 @@ void GallowsView::draw(QPainter& p, const QRect& area) {
     // Only what lies in the area is drawn: a strike redraws the place of the
     // part it adds, and antialiased strokes are dear to lay out even where
     // the clip then throws them away.
-    const auto inArea = [&area](QRectF twips) {
-        return area.intersects(pixelRect(twips));
-    };
+    const auto inArea = [&area](QRectF twips) { return area.intersects(pixelRect(twips)); };
     const auto lineInArea = [&inArea](TwipLine l) {
         return inArea(QRectF(QPointF(l.x1, l.y1), QPointF(l.x2, l.y2)).normalized());
     };
