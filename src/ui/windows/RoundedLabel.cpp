@@ -4,6 +4,7 @@
 
 #include "look/Twips.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 #include <QStyle>
 
@@ -26,16 +27,28 @@ void RoundedLabel::setColours(const QColor& panel, const QColor& text) {
     update();
 }
 
-bool RoundedLabel::paintLine(QPainter& painter) {
+bool RoundedLabel::drawsPlainLine() const {
+    const QString line = text();
+    return !(wordWrap() || textFormat() == Qt::RichText ||
+             (textFormat() == Qt::AutoText && Qt::mightBeRichText(line)) || line.contains(u'\n') ||
+             line.contains(u'&') || !pixmap().isNull() || !styleSheet().isEmpty() || indent() > 0 ||
+             margin() > 0);
+}
+
+void RoundedLabel::paintGround(QPainter& painter) const {
+    if (m_panel.alpha() > 0) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(m_panel);
+        painter.drawRoundedRect(rect(), px(kRadiusTwips), px(kRadiusTwips));
+        painter.setRenderHint(QPainter::Antialiasing, false);
+    }
+}
+
+void RoundedLabel::paintLine(QPainter& painter) {
     const QString line = text();
     if (line.isEmpty()) {
-        return true;
-    }
-    if (wordWrap() || textFormat() == Qt::RichText ||
-        (textFormat() == Qt::AutoText && Qt::mightBeRichText(line)) || line.contains(u'\n') ||
-        line.contains(u'&') || !pixmap().isNull() || !styleSheet().isEmpty() || indent() > 0 ||
-        margin() > 0) {
-        return false;
+        return;
     }
     if (m_line.text() != line || m_lineFont != font()) {
         m_line.setText(line);
@@ -61,22 +74,48 @@ bool RoundedLabel::paintLine(QPainter& painter) {
     painter.setFont(m_lineFont);
     painter.setPen(palette().color(foregroundRole()));
     painter.drawStaticText(QPointF(x, y), m_line);
-    return true;
+}
+
+const QPixmap& RoundedLabel::look() {
+    const qreal ratio = devicePixelRatioF();
+    const QColor ink = palette().color(foregroundRole());
+    const QString line = text();
+    for (const Look& kept : m_looks) {
+        if (kept.panel == m_panel && kept.ink == ink && kept.text == line &&
+            kept.alignment == alignment() && kept.font == font() &&
+            kept.pixmap.deviceIndependentSize() == QSizeF(size()) &&
+            kept.pixmap.devicePixelRatio() == ratio) {
+            return kept.pixmap;
+        }
+    }
+    // The oldest of the kept looks makes room for the new one.
+    Look& drawn = m_looks[m_nextLook];
+    m_nextLook = (m_nextLook + 1) % m_looks.size();
+    drawn = Look{line, m_panel, ink, alignment(), font(), QPixmap(size() * ratio)};
+    drawn.pixmap.setDevicePixelRatio(ratio);
+    drawn.pixmap.fill(Qt::transparent);
+    QPainter painter(&drawn.pixmap);
+    paintGround(painter);
+    paintLine(painter);
+    return drawn.pixmap;
 }
 
 void RoundedLabel::paintEvent(QPaintEvent* event) {
-    QPainter p(this);
-    if (m_panel.alpha() > 0) {
-        p.setRenderHint(QPainter::Antialiasing);
-        p.setPen(Qt::NoPen);
-        p.setBrush(m_panel);
-        p.drawRoundedRect(rect(), px(kRadiusTwips), px(kRadiusTwips));
-        p.setRenderHint(QPainter::Antialiasing, false);
-    }
-    if (!paintLine(p)) {
-        p.end();
+    if (!drawsPlainLine()) {
+        QPainter ground(this);
+        paintGround(ground);
+        ground.end();
         QLabel::paintEvent(event);
+        return;
     }
+    if (m_panel.alpha() == 0 && text().isEmpty()) {
+        return;
+    }
+    const QPixmap& drawn = look();
+    const QRect area = event->rect();
+    const qreal ratio = drawn.devicePixelRatio();
+    QPainter p(this);
+    p.drawPixmap(area, drawn, QRectF(QPointF(area.topLeft()) * ratio, QSizeF(area.size()) * ratio));
 }
 
 } // namespace quillora

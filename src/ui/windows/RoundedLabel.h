@@ -4,7 +4,11 @@
 
 #include <QFont>
 #include <QLabel>
+#include <QPixmap>
 #include <QStaticText>
+
+#include <array>
+#include <cstddef>
 
 namespace quillora {
 
@@ -25,13 +29,29 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    // Draws the text from its kept layout; false for what only QLabel draws
-    // (rich text, pictures, wrapped lines, a style sheet of its own).
-    bool paintLine(QPainter& painter);
+    // True when the text is one plain line that this label draws itself;
+    // rich text, pictures, wrapped lines and style sheets are QLabel's.
+    bool drawsPlainLine() const;
+    void paintGround(QPainter& painter) const;
+    void paintLine(QPainter& painter);
+    // The panel as it looks now, drawn once and then copied: the lamp takes
+    // most panels of the board between two colours after every letter, and
+    // a copy costs a fraction of the rounded ground and the text.
+    const QPixmap& look();
 
+    struct Look {
+        QString text;
+        QColor panel;
+        QColor ink;
+        Qt::Alignment alignment;
+        QFont font;
+        QPixmap pixmap;
+    };
     QColor m_panel = Qt::transparent;
     QStaticText m_line;
     QFont m_lineFont;
+    std::array<Look, 4> m_looks{};
+    std::size_t m_nextLook = 0;
 };
 
 } // namespace quillora

@@ -31,6 +31,13 @@ QPen pen(Rgb colour, int widthPixels) {
     return p;
 }
 
+// A place in twips as pixels, with room for the widest pen around it.
+QRect pixelRect(const QRectF& twips) {
+    constexpr int kPenRoom = 6;
+    const QRectF pixels(twips.topLeft() / kTwipsPerPixel, twips.size() / kTwipsPerPixel);
+    return pixels.toAlignedRect().adjusted(-kPenRoom, -kPenRoom, kPenRoom, kPenRoom);
+}
+
 // Where a part stands, in pixels, with room for the widest pen around it; an
 // empty rectangle for a part not shown.
 QRect partRect(const Figure& figure, Figure::Part part) {
@@ -57,10 +64,7 @@ QRect partRect(const Figure& figure, Figure::Part part) {
         break;
     }
     }
-    constexpr int kPenRoom = 6;
-    const QRectF pixels(area.left() / kTwipsPerPixel, area.top() / kTwipsPerPixel,
-                        area.width() / kTwipsPerPixel, area.height() / kTwipsPerPixel);
-    return pixels.toAlignedRect().adjusted(-kPenRoom, -kPenRoom, kPenRoom, kPenRoom);
+    return pixelRect(area);
 }
 
 // The little drop of sweat that shows when the figure starts to panic.
@@ -108,7 +112,7 @@ void GallowsView::sync() {
         changed += m_painted[Figure::Face];
     }
     if (!changed.isEmpty()) {
-        m_drawn = QPixmap();
+        m_stale += changed;
         update(changed);
     }
     setSpokenName(this, qs(spokenFigure(m_figure)));
@@ -122,7 +126,20 @@ void GallowsView::paintEvent(QPaintEvent* event) {
         m_drawn.setDevicePixelRatio(ratio);
         m_drawn.fill(Qt::transparent);
         QPainter drawing(&m_drawn);
-        draw(drawing);
+        draw(drawing, rect());
+        m_stale = QRegion();
+    } else if (!m_stale.isEmpty()) {
+        // A strike changes one part: only its place is cleared and drawn
+        // again, which costs a tenth of the whole figure.
+        QPainter drawing(&m_drawn);
+        drawing.setClipRegion(m_stale);
+        drawing.setCompositionMode(QPainter::CompositionMode_Source);
+        for (const QRect& stale : m_stale) {
+            drawing.fillRect(stale, Qt::transparent);
+        }
+        drawing.setCompositionMode(QPainter::CompositionMode_SourceOver);
+        draw(drawing, m_stale.boundingRect());
+        m_stale = QRegion();
     }
     const QRect area = event->rect();
     QPainter p(this);
@@ -130,8 +147,16 @@ void GallowsView::paintEvent(QPaintEvent* event) {
                  QRectF(QPointF(area.topLeft()) * ratio, QSizeF(area.size()) * ratio));
 }
 
-void GallowsView::draw(QPainter& p) const {
+void GallowsView::draw(QPainter& p, const QRect& area) {
+    // Only what lies in the area is drawn: a strike redraws the place of the
+    // part it adds, and antialiased strokes are dear to lay out even where
+    // the clip then throws them away.
+    const auto inArea = [&area](QRectF twips) { return area.intersects(pixelRect(twips)); };
+    const auto lineInArea = [&inArea](TwipLine l) {
+        return inArea(QRectF(QPointF(l.x1, l.y1), QPointF(l.x2, l.y2)).normalized());
+    };
     p.setRenderHint(QPainter::Antialiasing);
+    p.save();
     p.scale(1.0 / kTwipsPerPixel, 1.0 / kTwipsPerPixel);
 
     p.setPen(Qt::NoPen);
@@ -139,11 +164,15 @@ void GallowsView::draw(QPainter& p) const {
     p.drawRect(box(kPost));
     p.drawRect(box(kBeam));
     for (const auto& brace : kBraces) {
-        p.setPen(pen(brace.colour, brace.width));
-        p.drawLine(line(brace.line));
+        if (lineInArea(brace.line)) {
+            p.setPen(pen(brace.colour, brace.width));
+            p.drawLine(line(brace.line));
+        }
     }
-    p.setPen(pen(kRope.colour, kRope.width));
-    p.drawLine(line(kRope.line));
+    if (lineInArea(kRope.line)) {
+        p.setPen(pen(kRope.colour, kRope.width));
+        p.drawLine(line(kRope.line));
+    }
 
     if (m_figure.visible(Figure::Trapdoor)) {
         p.setPen(Qt::NoPen);
@@ -155,35 +184,49 @@ void GallowsView::draw(QPainter& p) const {
                                             Figure::LeftLeg, Figure::RightLeg};
     p.setPen(pen(kBlack, 2));
     for (Figure::Part part : limbs) {
-        if (m_figure.visible(part)) {
+        if (m_figure.visible(part) && lineInArea(m_figure.line(part))) {
             p.drawLine(line(m_figure.line(part)));
         }
     }
-    if (m_figure.visible(Figure::Head)) {
+    if (m_figure.visible(Figure::Head) && inArea(box(m_figure.headBox()))) {
         p.setPen(pen(kBlack, 1));
         p.setBrush(Qt::white);
         p.drawEllipse(box(m_figure.headBox()));
     }
-    if (m_figure.visible(Figure::Knot)) {
+    if (m_figure.visible(Figure::Knot) && lineInArea(m_figure.line(Figure::Knot))) {
         p.setPen(pen(kKnotColour, 7));
         p.drawLine(line(m_figure.line(Figure::Knot)));
     }
-    if (m_figure.visible(Figure::Face)) {
-        QFont font = Fonts::face(12);
-        font.setPixelSize(pointsToPixels(12) * kTwipsPerPixel);
-        p.setFont(font);
-        p.setPen(Qt::black);
-        p.drawText(box(m_figure.faceBox()), Qt::AlignCenter,
-                   QString::fromStdString(m_figure.faceText()));
-    }
-    if (m_figure.visible(Figure::PanicPicture)) {
+    if (m_figure.visible(Figure::PanicPicture) && inArea(box(Figure::panicPictureBox()))) {
         paintPanicPicture(p, box(Figure::panicPictureBox()));
     }
     p.setPen(pen(kPanicStrokeColour, 1));
     for (Figure::Part part : {Figure::PanicStroke1, Figure::PanicStroke2, Figure::PanicStroke3}) {
-        if (m_figure.visible(part)) {
+        if (m_figure.visible(part) && lineInArea(m_figure.line(part))) {
             p.drawLine(line(m_figure.line(part)));
         }
+    }
+    p.restore();
+
+    // The face is written in pixels, from a font and a layout kept between
+    // strikes: a font scaled down from twips would be drawn as outlines,
+    // and one made afresh is looked up again in the system's fonts.
+    if (m_figure.visible(Figure::Face) && inArea(box(m_figure.faceBox()))) {
+        const QString face = QString::fromStdString(m_figure.faceText());
+        if (m_faceLine.text() != face) {
+            if (m_faceFont == QFont()) {
+                m_faceFont = Fonts::face(12);
+            }
+            m_faceLine.setText(face);
+            m_faceLine.setTextFormat(Qt::PlainText);
+            m_faceLine.prepare(QTransform(), m_faceFont);
+        }
+        const QRectF place = box(m_figure.faceBox());
+        const QPointF centre = place.center() / kTwipsPerPixel;
+        const QSizeF size = m_faceLine.size();
+        p.setFont(m_faceFont);
+        p.setPen(Qt::black);
+        p.drawStaticText(centre - QPointF(size.width() / 2, size.height() / 2), m_faceLine);
     }
 }
 

@@ -4,8 +4,11 @@
 
 #include "round/Figure.h"
 
+#include <QFont>
 #include <QPixmap>
 #include <QRect>
+#include <QRegion>
+#include <QStaticText>
 #include <QString>
 #include <QWidget>
 
@@ -31,17 +34,23 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void draw(QPainter& p) const;
+    // Draws the gallows and the figure; parts wholly outside area may be
+    // left out.
+    void draw(QPainter& p, const QRect& area);
 
     const Figure& m_figure;
     // The drawing as the figure stands: the score's panel over the gallows
     // wears the lamp's colour and repaints after every letter, and what lies
     // under it is then copied rather than drawn again.
     QPixmap m_drawn;
+    // What of the drawing a change of the figure left out of date.
+    QRegion m_stale;
     // Each part as last painted: a strike adds one part, and only its place
     // is painted again, not the gallows and the controls over it.
     std::array<QRect, Figure::PartCount> m_painted{};
     std::string m_paintedFace;
+    QFont m_faceFont;
+    QStaticText m_faceLine;
 };
 
 } // namespace quillora

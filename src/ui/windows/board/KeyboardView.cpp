@@ -161,10 +161,22 @@ void KeyboardView::paintEvent(QPaintEvent* event) {
         p.drawRoundedRect(r, 5, 5);
         p.setFont(key >= 38 ? m_wideKeyFont : m_keyFont);
         p.setPen(qc(look.caption));
-        const std::u32string caption =
-            key == kWriteKey ? m_answer.writeKeyCaption() : std::u32string(keyCaption(key));
-        p.drawText(r, Qt::AlignCenter, QString::fromStdU32String(caption));
+        const QStaticText& caption = captionText(key);
+        const QSizeF size = caption.size();
+        p.drawStaticText(r.center() - QPointF(size.width() / 2, size.height() / 2), caption);
     }
+}
+
+const QStaticText& KeyboardView::captionText(int key) {
+    const QString caption = QString::fromStdU32String(
+        key == kWriteKey ? m_answer.writeKeyCaption() : std::u32string(keyCaption(key)));
+    QStaticText& text = m_captions[static_cast<std::size_t>(key)];
+    if (text.text() != caption) {
+        text.setText(caption);
+        text.setTextFormat(Qt::PlainText);
+        text.prepare(QTransform(), key >= 38 ? m_wideKeyFont : m_keyFont);
+    }
+    return text;
 }
 
 void KeyboardView::mouseMoveEvent(QMouseEvent* event) {

@@ -7,6 +7,7 @@
 #include "round/Keyboard.h"
 
 #include <QFont>
+#include <QStaticText>
 #include <QString>
 #include <QWidget>
 
@@ -78,6 +79,9 @@ private:
         bool operator==(const Face&) const = default;
     };
     Face faceOf(int key) const;
+    // A key's caption laid out once in its font, and again only when it
+    // changes ("Escribir" and "Cancelar" share a key).
+    const QStaticText& captionText(int key);
 
     const Round& m_round;
     const AnswerBox& m_answer;
@@ -90,6 +94,7 @@ private:
     // of every paint.
     QFont m_keyFont;
     QFont m_wideKeyFont;
+    std::array<QStaticText, kKeyCount> m_captions;
 };
 
 } // namespace quillora

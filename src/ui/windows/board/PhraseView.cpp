@@ -35,11 +35,8 @@ PhraseView::PhraseView(const Round& round, const BoardAppearance& look, QWidget*
 }
 
 QFont PhraseView::makeCellFont() {
-    // The board's letters are the bold rounded display face; the painter
-    // works in twips, so the font is sized in twips too.
-    QFont font = Fonts::display(kCellFontPoints);
-    font.setPixelSize(pointsToPixels(kCellFontPoints) * kTwipsPerPixel);
-    return font;
+    // The board's letters are the bold rounded display face.
+    return Fonts::display(kCellFontPoints);
 }
 
 QRect PhraseView::cellRect(int cell) const {
@@ -86,10 +83,12 @@ void PhraseView::paintEvent(QPaintEvent* event) {
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
     p.setRenderHint(QPainter::TextAntialiasing);
-    p.scale(1.0 / kTwipsPerPixel, 1.0 / kTwipsPerPixel);
-
     p.setFont(m_cellFont);
 
+    // The cells are placed in twips and painted in pixels: text scaled down
+    // from twips is laid out afresh at every paint, where a letter's kept
+    // layout is only copied from the glyph cache.
+    const auto pixels = [](double twips) { return twips / kTwipsPerPixel; };
     const PhraseBoard& board = m_round.board();
     const Rgb miss = m_look.missColour();
     for (int i = 1; i <= PhraseBoard::kCells; ++i) {
@@ -99,22 +98,36 @@ void PhraseView::paintEvent(QPaintEvent* event) {
         const PhraseBoard::Cell& cell = board.cell(i);
         const int row = (i - 1) / PhraseBoard::kColumns;
         const int column = (i - 1) % PhraseBoard::kColumns;
-        const QRectF box(kColumnPitch * column, kRowPitch * row, kCellSize, kCellSize);
+        const QRectF box(pixels(kColumnPitch * column), pixels(kRowPitch * row), pixels(kCellSize),
+                         pixels(kCellSize));
         const CellLook look = m_look.cellLook(i);
         if (cell.revealed || cell.missed) {
             if (look.filled) {
                 p.fillRect(box, qc(look.background));
             }
             p.setPen(qc(cell.missed ? miss : look.letter));
-            p.drawText(box, Qt::AlignCenter, QString::fromUcs4(&cell.character, 1));
+            const QStaticText& letter = letterText(cell.character);
+            const QSizeF size = letter.size();
+            p.drawStaticText(box.center() - QPointF(size.width() / 2, size.height() / 2), letter);
         }
         if (cell.underline) {
-            p.setPen(QPen(qc(look.underline), 2 * kTwipsPerPixel, Qt::SolidLine, Qt::FlatCap));
-            const double y = kRowPitch * row + kUnderlineBelowTop;
-            p.drawLine(QPointF(kColumnPitch * column, y),
-                       QPointF(kColumnPitch * column + kUnderlineLength, y));
+            p.setPen(QPen(qc(look.underline), 2, Qt::SolidLine, Qt::FlatCap));
+            const double y = pixels(kRowPitch * row + kUnderlineBelowTop);
+            p.drawLine(QPointF(pixels(kColumnPitch * column), y),
+                       QPointF(pixels(kColumnPitch * column + kUnderlineLength), y));
         }
     }
+}
+
+const QStaticText& PhraseView::letterText(char32_t character) {
+    auto found = m_letters.find(character);
+    if (found == m_letters.end()) {
+        QStaticText text(QString::fromUcs4(&character, 1));
+        text.setTextFormat(Qt::PlainText);
+        text.prepare(QTransform(), m_cellFont);
+        found = m_letters.emplace(character, std::move(text)).first;
+    }
+    return found->second;
 }
 
 } // namespace quillora

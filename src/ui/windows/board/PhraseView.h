@@ -6,10 +6,12 @@
 #include "round/PhraseBoard.h"
 
 #include <QFont>
+#include <QStaticText>
 #include <QWidget>
 
 #include <array>
 #include <optional>
+#include <unordered_map>
 
 namespace quillora {
 
@@ -49,10 +51,13 @@ private:
     Face faceOf(int cell) const;
     // The cell with its underline and the edges of its letter.
     QRect paintedRect(int cell) const;
+    // A letter laid out once in the cells' font.
+    const QStaticText& letterText(char32_t character);
 
     const Round& m_round;
     const BoardAppearance& m_look;
     QFont m_cellFont = makeCellFont();
+    std::unordered_map<char32_t, QStaticText> m_letters;
     std::array<QString, PhraseBoard::kCells> m_spoken;
     std::array<std::optional<Face>, PhraseBoard::kCells> m_faces;
 };
