@@ -149,6 +149,9 @@ private:
             m_window.release()->deleteLater();
         }
         m_window = std::move(next);
+        if (m_window) {
+            quillora::ScreenKeeper::watch(*m_window);
+        }
     }
     static void later(std::function<void()> step) { QTimer::singleShot(0, std::move(step)); }
     static void centre(QWidget& window) {
@@ -193,8 +196,6 @@ int main(int argc, char** argv) {
     QApplication app(count, arguments.data());
     quillora::nameApplication();
     QApplication::setWindowIcon(quillora::appIcon());
-    quillora::ScreenKeeper keeper;
-    app.installEventFilter(&keeper);
 
     QTranslator qtSpanish;
     quillora::speakSpanish(qtSpanish);

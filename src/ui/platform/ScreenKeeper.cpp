@@ -11,7 +11,15 @@
 
 namespace quillora {
 
-ScreenKeeper::ScreenKeeper(QObject* parent) : QObject(parent) {}
+QMargins ScreenKeeper::s_frame;
+
+ScreenKeeper::ScreenKeeper(QWidget& window) : QObject(&window) {
+    window.installEventFilter(this);
+}
+
+void ScreenKeeper::watch(QWidget& window) {
+    new ScreenKeeper(window);
+}
 
 QPoint ScreenKeeper::fitted(const QRect& frame, const QRect& area) {
     // Right and bottom first, then left and top, so that a window larger
@@ -24,7 +32,7 @@ QPoint ScreenKeeper::fitted(const QRect& frame, const QRect& area) {
 }
 
 bool ScreenKeeper::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Show && watched->isWidgetType()) {
+    if (event->type() == QEvent::Show && watched == parent()) {
         auto* widget = static_cast<QWidget*>(watched);
         // Menus, tool tips and the like are placed by the toolkit itself.
         const Qt::WindowType type = widget->windowType();
@@ -41,9 +49,9 @@ void ScreenKeeper::keepOnScreen(QWidget& window) {
     const QMargins seen(inside.left() - frame.left(), inside.top() - frame.top(),
                         frame.right() - inside.right(), frame.bottom() - inside.bottom());
     if (!seen.isNull()) {
-        m_frame = seen;
+        s_frame = seen;
     }
-    const QRect outer(window.pos(), (inside + (seen.isNull() ? m_frame : seen)).size());
+    const QRect outer(window.pos(), (inside + (seen.isNull() ? s_frame : seen)).size());
     const QScreen* screen = QGuiApplication::screenAt(outer.center());
     if (!screen) {
         screen = window.screen();

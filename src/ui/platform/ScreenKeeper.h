@@ -17,7 +17,9 @@ namespace quillora {
 // the screen, so that its title bar and left edge do.
 class ScreenKeeper final : public QObject {
 public:
-    explicit ScreenKeeper(QObject* parent = nullptr);
+    // Checks this window each time it shows. Each window has its own
+    // keeper: the game watches its windows, not every event of the program.
+    static void watch(QWidget& window);
 
     // Where a window's frame goes so that the area holds it.
     static QPoint fitted(const QRect& frame, const QRect& area);
@@ -26,11 +28,12 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void keepOnScreen(QWidget& window);
+    explicit ScreenKeeper(QWidget& window);
+    static void keepOnScreen(QWidget& window);
 
     // What the window system's frame adds, seen on the windows already
     // shown: a window that has never been shown has no frame yet.
-    QMargins m_frame;
+    static QMargins s_frame;
 };
 
 } // namespace quillora

@@ -18,11 +18,10 @@ namespace {
 // its icon.
 
 TEST(ScreenKeeper, AWindowOpeningPartlyOffTheScreenIsMovedToShowWhole) {
-    ScreenKeeper keeper;
-    qApp->installEventFilter(&keeper);
     const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
     auto opened = [](QSize size, QPoint at) {
         auto window = std::make_unique<QWidget>();
+        ScreenKeeper::watch(*window);
         window->resize(size);
         window->move(at);
         window->show();
@@ -41,7 +40,6 @@ TEST(ScreenKeeper, AWindowOpeningPartlyOffTheScreenIsMovedToShowWhole) {
     EXPECT_EQ(wide->frameGeometry().topLeft(), area.topLeft());
     const auto inside = opened(QSize(100, 100), area.topLeft() + QPoint(10, 10));
     EXPECT_EQ(inside->frameGeometry().topLeft(), area.topLeft() + QPoint(10, 10));
-    qApp->removeEventFilter(&keeper);
 }
 
 TEST(Desktop, TheWindowsNameTheDesktopEntryThatCarriesTheIcon) {

@@ -3,6 +3,7 @@
 #include "windows/board/BoardWindow.h"
 
 #include "look/Twips.h"
+#include "platform/ScreenKeeper.h"
 #include "ports/SoundPlayer.h"
 #include "windows/FocusRing.h"
 #include "windows/QtColour.h"
@@ -356,12 +357,14 @@ void BoardWindow::handleStart(GameStart start) {
                 sync();
             },
             this);
+        ScreenKeeper::watch(*m_friendWindow);
         opened(m_friendWindow, m_friendWindow);
         m_friendWindow->open();
     } else if (start == GameStart::ThemeWindow && !m_themeWindow) {
         m_themeWindow = new ThemeWindow(
             m_model.round().phraseChoice(), m_model.shared(), m_boardDialogs, [this] { sync(); },
             this);
+        ScreenKeeper::watch(*m_themeWindow);
         opened(m_themeWindow, m_themeWindow);
         m_themeWindow->open();
     }
@@ -460,6 +463,7 @@ void BoardWindow::openPlayersWindow() {
         sync();
     });
     m_namesWindow->setAttribute(Qt::WA_DeleteOnClose);
+    ScreenKeeper::watch(*m_namesWindow);
     connect(m_namesWindow, &QObject::destroyed, this, [this] { m_namesWindow = nullptr; });
     m_namesWindow->move(geometry().center() -
                         QPoint(m_namesWindow->width() / 2, m_namesWindow->height() / 2));

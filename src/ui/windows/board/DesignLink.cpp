@@ -3,6 +3,7 @@
 #include "windows/board/DesignLink.h"
 
 #include "models/board/BoardAppearance.h"
+#include "platform/ScreenKeeper.h"
 #include "round/Round.h"
 
 #include <QDir>
@@ -78,6 +79,7 @@ void DesignLink::openDesign() {
                              QStandardPaths::writableLocation(QStandardPaths::PicturesLocation),
                              QDir::homePath(), m_board);
         m_window->setAttribute(Qt::WA_DeleteOnClose);
+        ScreenKeeper::watch(*m_window);
         // The frame the window system adds is not known before the window
         // shows: the board's own frame is a fair guess.
         const QSize frame = m_board->frameGeometry().size() - m_board->size();

@@ -4,6 +4,7 @@
 
 #include "look/Twips.h"
 #include "platform/Fonts.h"
+#include "platform/ScreenKeeper.h"
 #include "round/PhraseChoice.h"
 #include "state/SharedState.h"
 #include "windows/AccessibleControl.h"
@@ -156,6 +157,7 @@ void ThemeWindow::openThemesList() {
         },
         this);
     m_list->setAttribute(Qt::WA_DeleteOnClose);
+    ScreenKeeper::watch(*m_list);
     // The phrase window steps aside while the list is open, and comes back
     // when the list closes without playing.
     connect(m_list, &QObject::destroyed, this, [this] {
