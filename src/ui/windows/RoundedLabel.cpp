@@ -88,11 +88,21 @@ const QPixmap& RoundedLabel::look() {
             return kept.pixmap;
         }
     }
-    // The oldest of the kept looks makes room for the new one.
+    // The oldest of the kept looks makes room for the new one, in its
+    // pixmap when the size is the same: a new pixmap needs a new paint
+    // engine, which costs more than the drawing.
     Look& drawn = m_looks[m_nextLook];
     m_nextLook = (m_nextLook + 1) % m_looks.size();
-    drawn = Look{line, m_panel, ink, alignment(), font(), QPixmap(size() * ratio)};
-    drawn.pixmap.setDevicePixelRatio(ratio);
+    if (drawn.pixmap.deviceIndependentSize() != QSizeF(size()) ||
+        drawn.pixmap.devicePixelRatio() != ratio) {
+        drawn.pixmap = QPixmap(size() * ratio);
+        drawn.pixmap.setDevicePixelRatio(ratio);
+    }
+    drawn.text = line;
+    drawn.panel = m_panel;
+    drawn.ink = ink;
+    drawn.alignment = alignment();
+    drawn.font = font();
     drawn.pixmap.fill(Qt::transparent);
     QPainter painter(&drawn.pixmap);
     paintGround(painter);
@@ -108,7 +118,10 @@ void RoundedLabel::paintEvent(QPaintEvent* event) {
         QLabel::paintEvent(event);
         return;
     }
-    if (m_panel.alpha() == 0 && text().isEmpty()) {
+    if (m_panel.alpha() == 0) {
+        // Without a ground there is only the text, whose layout is kept.
+        QPainter p(this);
+        paintLine(p);
         return;
     }
     const QPixmap& drawn = look();
