@@ -19,6 +19,10 @@ ScreenKeeper::ScreenKeeper(QWidget& window) : QObject(&window) {
 
 void ScreenKeeper::watch(QWidget& window) {
     new ScreenKeeper(window);
+    // A window already shown is checked now: its next Show is later.
+    if (window.isVisible() && window.isWindow()) {
+        keepOnScreen(window);
+    }
 }
 
 QPoint ScreenKeeper::fitted(const QRect& frame, const QRect& area) {

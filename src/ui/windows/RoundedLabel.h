@@ -50,7 +50,7 @@ private:
     QColor m_panel = Qt::transparent;
     QStaticText m_line;
     QFont m_lineFont;
-    std::array<Look, 4> m_looks{};
+    std::array<Look, 3> m_looks{};
     std::size_t m_nextLook = 0;
 };
 
