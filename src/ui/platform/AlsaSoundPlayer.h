@@ -31,7 +31,8 @@ public:
     void load() override;
     void play(int number, std::function<void()> ended) override;
 
-    // Plays a decoded sound; what play() does once it has the number.
+    // Plays a decoded sound at once; what play() does a frame after it is
+    // asked, once it has the number.
     void playPcm(std::shared_ptr<const Pcm> pcm, std::function<void()> ended);
 
 private:
