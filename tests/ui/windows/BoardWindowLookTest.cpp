@@ -48,6 +48,41 @@ protected:
     }
 };
 
+TEST_F(BoardLooks, ThePanelsWearEachLampInTurnAndTheirNewTextAfterEveryLetter) {
+    startVaca();
+    RoundedLabel* status = window->controls().statusLabel;
+    StrikeStrip* strikes = window->controls().strikes;
+    // The panels keep the looks they wore: each must still show the lamp
+    // and the text of the moment, however often the colours come round.
+    const auto ground = [](QWidget* panel) {
+        return panel->grab().toImage().pixelColor(8, panel->height() / 2);
+    };
+    const auto lamp = [this](Lamp which) {
+        return qc(window->model().appearance().lampColours(which).light);
+    };
+    const auto fade = [this] {
+        for (int tick = 0; tick < 100 && window->model().round().lamp() != Lamp::None; ++tick) {
+            window->model().round().tickLamp();
+        }
+        window->sync();
+    };
+    const QColor calm = ground(status);
+    EXPECT_EQ(calm, lamp(Lamp::None));
+    // VACA: two right letters and two wrong ones, the game still on.
+    for (const char* letter : {"a", "x", "c", "z"}) {
+        const bool right = *letter == 'a' || *letter == 'c';
+        type(QString::fromLatin1(letter));
+        EXPECT_EQ(ground(status), lamp(right ? Lamp::Green : Lamp::Red)) << letter;
+        EXPECT_EQ(ground(strikes->strikeLabel(1)), ground(status)) << letter;
+        fade();
+        EXPECT_EQ(ground(status), calm) << letter;
+    }
+    // The second miss wrote its letter into the second mark's kept looks.
+    const QImage second = strikes->strikeLabel(2)->grab().toImage();
+    strikes->strikeLabel(2)->setText(QStringLiteral("Q"));
+    EXPECT_NE(strikes->strikeLabel(2)->grab().toImage(), second) << "a new text is drawn anew";
+}
+
 TEST_F(BoardLooks, TheButtonTheMenuAndCtrlSEachToggleSoundsAndRewriteTheFile) {
     SoundButton* button = window->controls().soundButton;
     const bool on = shared.settings.sounds;
