@@ -130,7 +130,7 @@ void GallowsView::paintEvent(QPaintEvent* event) {
         m_stale = QRegion();
     } else if (!m_stale.isEmpty()) {
         // A strike changes one part: only its place is cleared and drawn
-        // again, which costs a tenth of the whole figure.
+        // again, not the whole figure.
         QPainter drawing(&m_drawn);
         drawing.setClipRegion(m_stale);
         drawing.setCompositionMode(QPainter::CompositionMode_Source);
