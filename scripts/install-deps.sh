@@ -10,7 +10,7 @@ packages=(
     build-essential cmake pkg-config ninja-build
     qt6-base-dev qt6-translations-l10n libgl-dev
     libgtest-dev
-    libsndfile1-dev libasound2-dev libmp3lame-dev
+    libsndfile1-dev libasound2-dev libmp3lame-dev libfontconfig-dev
     fonts-quicksand fonts-comic-neue
     clang-format
     desktop-file-utils appstream lintian

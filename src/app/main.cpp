@@ -33,6 +33,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace {
@@ -193,15 +194,18 @@ int main(int argc, char** argv) {
     }
     int count = static_cast<int>(arguments.size());
     arguments.push_back(nullptr);
+    std::thread systemFonts = quillora::Fonts::readSystemFontsAhead();
     QApplication app(count, arguments.data());
+    systemFonts.join();
     quillora::nameApplication();
     QApplication::setWindowIcon(quillora::appIcon());
-
-    QTranslator qtSpanish;
-    quillora::speakSpanish(qtSpanish);
     quillora::Fonts::registerEmbedded();
 
     Game game;
     game.start();
+    // Qt's Spanish is for its message boxes' buttons, and none can open
+    // before the start screen is up: reading it waits until then.
+    QTranslator qtSpanish;
+    QTimer::singleShot(0, [&qtSpanish] { quillora::speakSpanish(qtSpanish); });
     return QApplication::exec();
 }

@@ -7,6 +7,8 @@
 #include <QFontDatabase>
 #include <QStringList>
 
+#include <fontconfig/fontconfig.h>
+
 namespace quillora {
 
 namespace {
@@ -32,6 +34,12 @@ bool installed(const QString& family) {
 }
 
 } // namespace
+
+std::thread Fonts::readSystemFontsAhead() {
+    // Fontconfig keeps the configuration it loads for every later caller,
+    // Qt's font database among them.
+    return std::thread([] { FcInit(); });
+}
 
 void Fonts::registerEmbedded() {
     if (embeddedDisplay.isEmpty()) {

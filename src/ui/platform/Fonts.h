@@ -5,6 +5,8 @@
 #include <QFont>
 #include <QString>
 
+#include <thread>
+
 namespace quillora {
 
 // The board's rounded display font and the figure's handwritten face font.
@@ -12,6 +14,11 @@ namespace quillora {
 // ship inside the program stand in for them.
 class Fonts {
 public:
+    // Reading the system's font configuration takes several milliseconds,
+    // and the start screen cannot draw a letter before it is read. Started on
+    // a thread of its own before the application connects to the display, it
+    // is done by the time the connection is; join it before the first font.
+    static std::thread readSystemFontsAhead();
     // Registers the embedded display font once; call after the application
     // exists. The figure's face font follows when it is first wanted.
     static void registerEmbedded();

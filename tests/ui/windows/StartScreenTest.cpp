@@ -31,7 +31,7 @@ TEST(StartScreenWindow, TheMenuComesAfterTheLineOrTheNoticeStaysAndItsButtonsWor
         }
         EXPECT_FALSE(screen.timer()->isActive());
         EXPECT_EQ(menus, 1) << "only with the font";
-        EXPECT_EQ(screen.notice()->isVisible(), !font);
+        EXPECT_EQ(screen.notice() && screen.notice()->isVisible(), !font);
         if (!font) {
             QTest::mouseClick(screen.downloadButton(), Qt::LeftButton);
             EXPECT_EQ(desktop.web.opened.size(), 1U);

@@ -45,7 +45,9 @@ private:
     // " Cerrar ", "DESCARGAR" or "REINICIAR", clicked or pressed from the keys.
     void press(QLabel* button);
     // How a button looks at rest and while the mouse holds it down.
-    void paintButton(QLabel* button, bool pressed);
+    // Clicks, keys and screen readers press the button.
+    void listenTo(QLabel* button);
+    void buildNotice();
 
     StartScreenModel m_model;
     WebLookUp& m_lookUp;
