@@ -3,6 +3,7 @@
 #include "platform/SoundBank.h"
 
 #include <QFile>
+#include <QLibrary>
 
 #include <sndfile.h>
 
@@ -52,13 +53,43 @@ sf_count_t memoryTell(void* user) {
     return static_cast<MemoryFile*>(user)->at;
 }
 
-} // namespace
+// libsndfile and the codecs it brings along (FLAC, Vorbis, Opus, two for
+// MPEG) take a millisecond to load and 1.5 MB of memory, and the game wants
+// them only while the board decodes its seven sounds: the library is opened
+// for that and closed after. Without it, no sound decodes and the game is
+// silent, as it is without a sound card.
+class Decoder {
+public:
+    Decoder() : m_library(QStringLiteral("sndfile"), 1) {
+        if (m_library.load()) {
+            open = reinterpret_cast<decltype(open)>(m_library.resolve("sf_open_virtual"));
+            readFrames =
+                reinterpret_cast<decltype(readFrames)>(m_library.resolve("sf_readf_short"));
+            close = reinterpret_cast<decltype(close)>(m_library.resolve("sf_close"));
+        }
+    }
+    ~Decoder() { m_library.unload(); }
+    Decoder(const Decoder&) = delete;
+    Decoder& operator=(const Decoder&) = delete;
 
-std::shared_ptr<const Pcm> SoundBank::decode(const QByteArray& wave) {
+    bool usable() const { return open && readFrames && close; }
+    std::shared_ptr<const Pcm> decode(const QByteArray& wave) const;
+
+private:
+    QLibrary m_library;
+    decltype(&sf_open_virtual) open = nullptr;
+    decltype(&sf_readf_short) readFrames = nullptr;
+    decltype(&sf_close) close = nullptr;
+};
+
+std::shared_ptr<const Pcm> Decoder::decode(const QByteArray& wave) const {
+    if (!usable()) {
+        return nullptr;
+    }
     SF_VIRTUAL_IO io{memoryLength, memorySeek, memoryRead, memoryWrite, memoryTell};
     MemoryFile file{wave};
     SF_INFO info{};
-    SNDFILE* sf = sf_open_virtual(&io, SFM_READ, &info, &file);
+    SNDFILE* sf = open(&io, SFM_READ, &info, &file);
     if (!sf) {
         return nullptr;
     }
@@ -66,7 +97,7 @@ std::shared_ptr<const Pcm> SoundBank::decode(const QByteArray& wave) {
     pcm->channels = info.channels;
     pcm->rate = info.samplerate;
     if (info.channels < 1 || info.channels > 2 || info.samplerate <= 0) {
-        sf_close(sf);
+        close(sf);
         return nullptr;
     }
     // The frame count of an MPEG stream is only a guess: read until the
@@ -74,26 +105,33 @@ std::shared_ptr<const Pcm> SoundBank::decode(const QByteArray& wave) {
     constexpr sf_count_t kChunk = 4096;
     std::vector<std::int16_t> chunk(static_cast<std::size_t>(kChunk * info.channels));
     while (true) {
-        const sf_count_t got = sf_readf_short(sf, chunk.data(), kChunk);
+        const sf_count_t got = readFrames(sf, chunk.data(), kChunk);
         if (got <= 0) {
             break;
         }
         pcm->samples.insert(pcm->samples.end(), chunk.begin(),
                             chunk.begin() + static_cast<std::ptrdiff_t>(got * info.channels));
     }
-    sf_close(sf);
+    close(sf);
     if (pcm->samples.empty()) {
         return nullptr;
     }
     return pcm;
 }
 
+} // namespace
+
+std::shared_ptr<const Pcm> SoundBank::decode(const QByteArray& wave) {
+    return Decoder().decode(wave);
+}
+
 SoundBank SoundBank::loadEmbedded() {
     SoundBank bank;
+    const Decoder decoder;
     for (int n = 1; n <= static_cast<int>(bank.m_sounds.size()); ++n) {
         QFile file(QStringLiteral(":/sounds/%1.wav").arg(100 + n));
         if (file.open(QIODevice::ReadOnly)) {
-            bank.m_sounds[static_cast<std::size_t>(n - 1)] = decode(file.readAll());
+            bank.m_sounds[static_cast<std::size_t>(n - 1)] = decoder.decode(file.readAll());
         }
     }
     return bank;
