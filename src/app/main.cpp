@@ -10,7 +10,7 @@
 #include "platform/HelpPage.h"
 #include "platform/ProgramRestart.h"
 #include "platform/QtDialogs.h"
-#include "platform/QtNetworkCheck.h"
+#include "platform/SystemNetworkCheck.h"
 #include "platform/QtWeb.h"
 #include "platform/ScreenKeeper.h"
 #include "ports/ClockRandom.h"
@@ -165,7 +165,7 @@ private:
     quillora::SharedState m_shared;
     quillora::QtDialogs m_dialogs;
     quillora::ClockRandom m_random;
-    quillora::QtNetworkCheck m_network;
+    quillora::SystemNetworkCheck m_network;
     quillora::QtWeb m_web;
     quillora::WebLookUp m_lookUp{m_network, m_web, m_dialogs,
                                  quillora::Endpoints::fromBuild(quillora::installedHelpPage())};
