@@ -55,8 +55,10 @@ private:
 
 } // namespace
 
-ScreenReaderAnnouncer::ScreenReaderAnnouncer(QObject* parent)
-    : QObject(parent), m_statusBar(new QObject(this)), m_notification(new QObject(m_statusBar)) {
+ScreenReaderAnnouncer::ScreenReaderAnnouncer(std::function<bool()> listening, Send send,
+                                             QObject* parent)
+    : QObject(parent), m_listening(std::move(listening)), m_send(std::move(send)),
+      m_statusBar(new QObject(this)), m_notification(new QObject(m_statusBar)) {
     // Qt keeps these interfaces and drops them when their objects go.
     QAccessible::registerAccessibleInterface(
         new UnseenPart(m_statusBar, QAccessible::StatusBar, [] { return QString(); }));
@@ -72,7 +74,7 @@ ScreenReaderAnnouncer::~ScreenReaderAnnouncer() {
 }
 
 void ScreenReaderAnnouncer::announce(const std::string& text, Urgency urgency) {
-    if (!QAccessible::isActive() || text.empty()) {
+    if (!m_listening() || text.empty()) {
         return;
     }
     const QString said = QString::fromStdString(text);
@@ -102,7 +104,7 @@ void ScreenReaderAnnouncer::tick() {
     const bool urgent = !m_urgent.isEmpty();
     m_urgent.clear();
     m_polite.clear();
-    if (text.isEmpty() || !QAccessible::isActive()) {
+    if (text.isEmpty() || !m_listening()) {
         return;
     }
     m_said = text;
@@ -110,15 +112,15 @@ void ScreenReaderAnnouncer::tick() {
     QAccessibleAnnouncementEvent announcement(m_notification, text);
     announcement.setPoliteness(urgent ? QAccessible::AnnouncementPoliteness::Assertive
                                       : QAccessible::AnnouncementPoliteness::Polite);
-    QAccessible::updateAccessibility(&announcement);
+    m_send(&announcement);
 #else
     Q_UNUSED(urgent)
     // The new name first, so that a screen reader that keeps names does not
     // read the old one when it hears the notification show.
     QAccessibleEvent renamed(m_notification, QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&renamed);
+    m_send(&renamed);
     QAccessibleEvent shown(m_notification, QAccessible::ObjectShow);
-    QAccessible::updateAccessibility(&shown);
+    m_send(&shown);
 #endif
 }
 

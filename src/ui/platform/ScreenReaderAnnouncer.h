@@ -4,9 +4,12 @@
 
 #include "ports/Announcer.h"
 
+#include <QAccessible>
 #include <QObject>
 #include <QString>
 #include <QTimer>
+
+#include <functional>
 
 namespace quillora {
 
@@ -26,7 +29,14 @@ public:
     // out on the next turn of the event loop.
     static constexpr int kPoliteWaitMs = 40;
 
-    explicit ScreenReaderAnnouncer(QObject* parent = nullptr);
+    using Send = std::function<void(QAccessibleEvent*)>;
+
+    // `listening` tells whether a screen reader is there to hear, `send`
+    // hands it an event: by default Qt's own, which drop every event while
+    // no screen reader has asked for the game.
+    explicit ScreenReaderAnnouncer(std::function<bool()> listening = &QAccessible::isActive,
+                                   Send send = &QAccessible::updateAccessibility,
+                                   QObject* parent = nullptr);
     ~ScreenReaderAnnouncer() override;
 
     void announce(const std::string& text, Urgency urgency) override;
@@ -42,6 +52,8 @@ public:
     QObject* notification() const { return m_notification; }
 
 private:
+    std::function<bool()> m_listening;
+    Send m_send;
     QTimer m_wait;
     QString m_urgent;
     QString m_polite;
