@@ -13,6 +13,7 @@
 #include "platform/QtNetworkCheck.h"
 #include "platform/QtWeb.h"
 #include "platform/ScreenKeeper.h"
+#include "ports/Announcer.h"
 #include "ports/ClockRandom.h"
 #include "state/SharedState.h"
 #include "windows/board/BoardWindow.h"
@@ -119,8 +120,8 @@ private:
         const QRect menuFrame = m_window ? m_window->frameGeometry() : QRect();
         const QPoint menuCentre =
             menuFrame.topLeft() + QPoint(menuFrame.width() / 2, menuFrame.height() / 2);
-        auto board = std::make_unique<quillora::BoardWindow>(m_shared, m_dialogs, m_random,
-                                                             m_sounds, m_lookUp);
+        auto board = std::make_unique<quillora::BoardWindow>(m_shared, m_dialogs, m_announcer,
+                                                             m_random, m_sounds, m_lookUp);
         board->onRestart = [this] { later([this] { start(); }); };
         board->onClose = [] { QCoreApplication::quit(); };
         board->onMenu = [this, window = board.get()] {
@@ -163,6 +164,7 @@ private:
 
     quillora::SharedState m_shared;
     quillora::QtDialogs m_dialogs;
+    quillora::SilentAnnouncer m_announcer;
     quillora::ClockRandom m_random;
     quillora::QtNetworkCheck m_network;
     quillora::QtWeb m_web;

@@ -276,7 +276,7 @@ struct BrokenRandom : Random {
 TEST_F(BoardPanels, AStepThatFailsOnOpeningIsToldInTheTitleAndTheBoardPlays) {
     window.reset();
     BrokenRandom broken;
-    BoardWindow board(shared, dialogs, broken, sounds, desktop.lookUp);
+    BoardWindow board(shared, dialogs, announcer, broken, sounds, desktop.lookUp);
     board.show();
     EXPECT_EQ(board.windowTitle(), "Quillora Vesta | Puntos | Error al cargar datos");
     QTest::keyClick(&board, Qt::Key_Return);

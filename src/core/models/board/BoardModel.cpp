@@ -15,10 +15,11 @@ constexpr int kSoundWarning = 1;
 constexpr int kSoundNewPhrase = 2;
 } // namespace
 
-BoardModel::BoardModel(SharedState& shared, Dialogs& dialogs, Random& random, WebLookUp& lookUp,
-                       RoundEvents* events)
-    : m_shared(shared), m_dialogs(dialogs), m_outer(events ? *events : m_noEvents),
-      m_random(random), m_round(shared, dialogs, random, this), m_scoring(shared, dialogs),
+BoardModel::BoardModel(SharedState& shared, Dialogs& dialogs, Announcer& announcer, Random& random,
+                       WebLookUp& lookUp, RoundEvents* events)
+    : m_shared(shared), m_dialogs(dialogs), m_announcer(announcer),
+      m_outer(events ? *events : m_noEvents), m_random(random),
+      m_round(shared, dialogs, random, this), m_scoring(shared, dialogs),
       m_sessions(shared, dialogs, random, m_round, m_commands, m_appearance),
       m_lookUps(shared, dialogs, lookUp, m_round, m_panels.history()) {
     // Scoring calls these only when points count. A loss is counted before
@@ -216,6 +217,7 @@ GameStart BoardModel::keyTyped(WindowKey key, char32_t character) {
     case WindowKey::F1:
         m_lookUps.openHelp();
         break;
+    case WindowKey::ReadBoard:
     case WindowKey::DeadKey:
     case WindowKey::MenuKey:
     case WindowKey::Names:

@@ -24,6 +24,7 @@
 
 namespace quillora {
 
+class Announcer;
 class WebLookUp;
 
 // The board's coordinator. It holds the round and the parts that each own
@@ -42,8 +43,8 @@ public:
     static constexpr int kNamesDelayMs = 500;
     static constexpr int kGiftTickMs = 1;
 
-    BoardModel(SharedState& shared, Dialogs& dialogs, Random& random, WebLookUp& lookUp,
-               RoundEvents* events = nullptr);
+    BoardModel(SharedState& shared, Dialogs& dialogs, Announcer& announcer, Random& random,
+               WebLookUp& lookUp, RoundEvents* events = nullptr);
 
     // The board's opening: the options of the current session are read and
     // applied, and a locked session shows its key panel at once. A step that
@@ -89,6 +90,9 @@ public:
         F3,
         F4,
         F5,
+        // F6, which no rule of the game uses: a player who cannot see the
+        // board hears it read out.
+        ReadBoard,
         MenuKey,
         ToggleAuto,
         ToggleSounds,
@@ -144,6 +148,7 @@ private:
 
     SharedState& m_shared;
     Dialogs& m_dialogs;
+    Announcer& m_announcer;
     RoundEvents m_noEvents;
     RoundEvents& m_outer;
     Random& m_random;
