@@ -13,7 +13,7 @@
 #include "platform/QtNetworkCheck.h"
 #include "platform/QtWeb.h"
 #include "platform/ScreenKeeper.h"
-#include "ports/Announcer.h"
+#include "platform/ScreenReaderAnnouncer.h"
 #include "ports/ClockRandom.h"
 #include "state/SharedState.h"
 #include "windows/board/BoardWindow.h"
@@ -164,7 +164,7 @@ private:
 
     quillora::SharedState m_shared;
     quillora::QtDialogs m_dialogs;
-    quillora::SilentAnnouncer m_announcer;
+    quillora::ScreenReaderAnnouncer m_announcer;
     quillora::ClockRandom m_random;
     quillora::QtNetworkCheck m_network;
     quillora::QtWeb m_web;
