@@ -68,7 +68,7 @@ BoardWindow::BoardWindow(SharedState& shared, Dialogs& dialogs, Announcer& annou
     installBoardAccessibility();
     setAccessibleRole(this, QAccessible::Window);
     m_ui = std::make_unique<BoardControls>(
-        m_model, this,
+        m_model, announcer, this,
         BoardActions{
             [this] { sync(); }, [this](BoardAreas areas) { sync(areas); },
             [this] { playPressed(); }, [this](QKeyEvent* key) { return windowShortcut(key); },
