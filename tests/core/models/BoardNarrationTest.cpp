@@ -160,6 +160,12 @@ TEST_F(BoardNarrationTest, SurvivalWithoutPointsACorrectionAndTheTurnAreSaid) {
     EXPECT_EQ(announcer.last(), "Tema: CIELO. 1 palabra, 4 letras. Turno de Ana.");
     type(U"l");
     EXPECT_EQ(announcer.last(), "L: 1 letra. 1 de 4. Turno de Beto.");
+    model.turn().moveForward();
+    EXPECT_EQ(announcer.last(), "Turno de Ciro.");
+    model.turn().toggleFreeTurn();
+    EXPECT_EQ(announcer.last(), "Turno libre.");
+    type(U"u");
+    EXPECT_EQ(announcer.last(), "U: 1 letra. 2 de 4.") << "a free turn is nobody's";
 }
 
 } // namespace

@@ -33,6 +33,7 @@ BoardModel::BoardModel(SharedState& shared, Dialogs& dialogs, Announcer& announc
     };
     // Points moved into survival start both records afresh.
     m_scoring.onStatisticsReset = [this] { m_shared.current().stats.reset(); };
+    m_turn.onMoved = [this] { m_narration.turnMoved(); };
 }
 
 void BoardModel::load() {

@@ -195,6 +195,15 @@ void BoardNarration::gameEnded() {
     m_announcer.announce(text, Urgency::Urgent);
 }
 
+void BoardNarration::turnMoved() {
+    if (m_turn.freeTurn()) {
+        m_turnSaid.clear();
+        m_announcer.announce(trimmed(m_turn.label().caption) + ".");
+    } else if (const std::string news = turnNews(); !news.empty()) {
+        m_announcer.announce(news.substr(1));
+    }
+}
+
 void BoardNarration::clockWarning() {
     m_announcer.announce("Quedan " + counted(m_countdown.seconds(), "segundo", "segundos") + ".",
                          Urgency::Urgent);

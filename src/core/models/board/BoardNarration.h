@@ -47,6 +47,8 @@ public:
     // The clock ran out: the loss that follows says so.
     void clockRanOut() { m_timeUp = true; }
     void strikeTakenBack();
+    // The turn menu moved the turn, or freed it.
+    void turnMoved();
     // The score's count is over: survival without points says it cannot go on.
     void scoreSettled();
     // F6: the whole board.
