@@ -166,6 +166,11 @@ TEST_F(BoardNarrationTest, SurvivalWithoutPointsACorrectionAndTheTurnAreSaid) {
     EXPECT_EQ(announcer.last(), "Turno libre.");
     type(U"u");
     EXPECT_EQ(announcer.last(), "U: 1 letra. 2 de 4.") << "a free turn is nobody's";
+    type(U"na");
+    model.keyTyped(Key::ReadBoard);
+    EXPECT_EQ(announcer.last(), "¡VICTORIA! Tema: sin tema. Frase: L U N A. Strikes: 0 de 8. "
+                                "Aciertos: L, U, N, A. Fallos: ninguno.")
+        << "a friend's game ends under no theme, and with no points to tell";
 }
 
 } // namespace

@@ -72,6 +72,13 @@ std::string triedLetters(const PhraseBoard& board) {
            ". Fallos: " + (wrong.empty() ? "ninguno" : wrong) + ".";
 }
 
+// The theme as the board shows it; a game with no theme shows question
+// marks, which a screen reader would read out one by one.
+std::string spokenTheme(const std::string& label) {
+    const std::string theme = trimmed(label);
+    return theme.find_first_not_of('?') == std::string::npos ? "sin tema" : theme;
+}
+
 bool accented(char32_t c) {
     constexpr std::u32string_view kAccented = U"ÁÉÍÓÚÜÀÈÌÒÙÂÊÎÔÛÄËÏÖáéíóúüàèìòùâêîôûäëïö";
     return kAccented.find(c) != std::u32string_view::npos;
@@ -123,7 +130,7 @@ void BoardNarration::phraseLaid() {
     const PhraseBoard& board = m_round.board();
     m_timeUp = false;
     m_turnSaid.clear();
-    std::string text = "Tema: " + trimmed(m_round.themeLabel()) + ". " +
+    std::string text = "Tema: " + spokenTheme(m_round.themeLabel()) + ". " +
                        counted(wordCount(board.answerText()), "palabra", "palabras") + ", " +
                        counted(board.letterTotal(), "letra", "letras") + ".";
     if (m_countdown.visible()) {
@@ -232,7 +239,8 @@ void BoardNarration::readBoard() {
         if (m_round.state().over) {
             text = m_round.status() + " ";
         }
-        text += "Tema: " + trimmed(m_round.themeLabel()) + ". Frase: " + spokenPhrase(board) + ". ";
+        text +=
+            "Tema: " + spokenTheme(m_round.themeLabel()) + ". Frase: " + spokenPhrase(board) + ". ";
         if (m_round.counterVisible()) {
             text += spokenCounter(board) + ". ";
         }
