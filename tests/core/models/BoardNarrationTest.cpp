@@ -50,7 +50,7 @@ TEST_F(BoardNarrationTest, EachKeySaysWhatItDidAndNothingGivesAHiddenLetterAway)
 
     type(U"sws");
     model.keyTyped(Key::Character, U'\u00E1'); // á
-    model.keyTyped(Key::Character, U'#');      // the digit panel says itself
+    model.keyTyped(Key::Character, U'#');      // not a guess: nothing to say
     model.keyTyped(Key::DeadKey, U'\u00B4');
     model.keyTyped(Key::Character, U'e'); // composes "é"
     const std::vector<std::string> keys(announcer.said.begin() + 1, announcer.said.end());
@@ -70,7 +70,7 @@ TEST_F(BoardNarrationTest, EachKeySaysWhatItDidAndNothingGivesAHiddenLetterAway)
     model.keyTyped(Key::Character, U'y');
     EXPECT_EQ(announcer.last(), "Y griega: fallo, strike 2 de 8.");
 
-    // Until the loss paints the phrase, nothing said names a hidden letter.
+    // The reading names no letter the board hides, nor a word of the phrase.
     std::set<std::string> heard;
     for (const std::string& text : announcer.said) {
         const std::set<std::string> words = capitals(text);
