@@ -33,6 +33,7 @@ BoardModel::BoardModel(SharedState& shared, Dialogs& dialogs, Announcer& announc
     };
     // Points moved into survival start both records afresh.
     m_scoring.onStatisticsReset = [this] { m_shared.current().stats.reset(); };
+    m_turn.onMoved = [this] { m_narration.turnMoved(); };
 }
 
 void BoardModel::load() {
@@ -79,11 +80,15 @@ std::string BoardModel::windowTitle() const {
 
 void BoardModel::correctionAsked(bool asking) {
     if (asking) {
+        m_strikesBeforeCorrection = m_round.state().strikeCount;
         m_countdown.pause();
         m_panels.side().showEmpty();
     } else {
         m_countdown.resume();
         m_panels.side().closeSidePanels();
+        if (m_round.state().strikeCount < m_strikesBeforeCorrection) {
+            m_narration.strikeTakenBack();
+        }
     }
     m_outer.correctionAsked(asking);
 }
@@ -110,6 +115,7 @@ void BoardModel::phraseLaid() {
     if (!m_shared.settings.sounds) {
         m_scoring.startCounting();
     }
+    m_narration.phraseLaid();
     m_outer.phraseLaid();
 }
 
@@ -184,6 +190,9 @@ GameStart BoardModel::keyTyped(WindowKey key, char32_t character) {
             const bool wasInPlay = m_round.inPlay();
             m_round.typeKey(character);
             m_changed = guessAreas(wasInPlay);
+            if (m_round.lastGuess() == Round::GuessEffect::None) {
+                m_narration.keyIgnored(character);
+            }
         }
         break;
     case WindowKey::F2:
@@ -218,6 +227,8 @@ GameStart BoardModel::keyTyped(WindowKey key, char32_t character) {
         m_lookUps.openHelp();
         break;
     case WindowKey::ReadBoard:
+        m_narration.readBoard();
+        break;
     case WindowKey::DeadKey:
     case WindowKey::MenuKey:
     case WindowKey::Names:
@@ -254,12 +265,22 @@ void BoardModel::soundEnded(int number) {
     }
 }
 
+void BoardModel::tickScore() {
+    const bool wasCounting = m_scoring.counting();
+    m_scoring.tick(m_round.strikeCountForScore());
+    if (wasCounting && !m_scoring.counting()) {
+        m_narration.scoreSettled();
+    }
+}
+
 void BoardModel::tickCountdown() {
     switch (m_countdown.tick()) {
     case Countdown::Tick::Warning:
         m_round.pendingSound().request(kSoundWarning, m_shared.settings.sounds);
+        m_narration.clockWarning();
         break;
     case Countdown::Tick::TimeUp:
+        m_narration.clockRanOut();
         m_round.timeUp();
         break;
     case Countdown::Tick::Nothing:

@@ -7,6 +7,7 @@
 #include "models/board/BoardAreas.h"
 #include "models/board/BoardCommands.h"
 #include "models/board/BoardLookUps.h"
+#include "models/board/BoardNarration.h"
 #include "models/board/BoardSessions.h"
 #include "models/board/KeyFaces.h"
 #include "models/board/KeyboardSlide.h"
@@ -119,7 +120,7 @@ public:
     // --- timers ----------------------------------------------------------------------
     // A new game's score waits for its opening sound, until it ends.
     void soundEnded(int number);
-    void tickScore() { m_scoring.tick(m_round.strikeCountForScore()); }
+    void tickScore();
     // One second of countdown mode gone.
     void tickCountdown();
 
@@ -136,6 +137,8 @@ private:
     void phraseLaid() override;
     void roundWon() override;
     void roundLost() override;
+    void guessPlayed() override { m_narration.letterPlayed(); }
+    void endShown() override { m_narration.gameEnded(); }
     void roundEnded(const std::string& answerText) override { m_panels.history().add(answerText); }
     void answerBoxOpened() override { m_panels.side().closeSidePanels(); }
     void countdownStopped() override;
@@ -166,6 +169,9 @@ private:
     BoardSessions m_sessions;
     BoardLookUps m_lookUps;
     KeyboardSlide m_slide{m_shared.settings};
+    BoardNarration m_narration{m_announcer, m_round, m_scoring, m_countdown, m_turn};
+    // The strikes before a correction is asked, to tell whether one was taken.
+    int m_strikesBeforeCorrection = 0;
     char32_t m_deadKey = 0;
     BoardAreas m_changed = BoardAreas::everything();
     bool m_loadFailed = false;
