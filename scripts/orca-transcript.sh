@@ -63,6 +63,7 @@ fi
 work=$2
 log="$work/orca.log"
 exec >&3 3>&-
+trap 'kill $(jobs -p) 2>/dev/null || true' EXIT
 openbox >/dev/null 2>&1 &
 # Orca writes its log through a buffer; the transcript reads it line by line
 # as it grows.

@@ -20,6 +20,10 @@ namespace quillora {
 // gives the notification the text and tells that it showed. A Qt with its own
 // announcement event (6.8 on) sends that instead.
 //
+// Orca speaks each notification at once, over whatever it was saying, so on
+// this stack a polite text cannot wait for the speech in progress: its
+// politeness is the short wait below, in which a newer text replaces it.
+//
 // Nothing happens at all while no screen reader listens, and the work waits
 // for the key that caused it to be painted.
 class ScreenReaderAnnouncer final : public QObject, public Announcer {
@@ -46,9 +50,7 @@ public:
     const QTimer& timer() const { return m_wait; }
     // What will be said next: urgent texts first, then the newest polite one.
     QString waiting() const;
-    // What a screen reader reads from the notification now, and the
-    // notification itself, which the announcement events come from.
-    QString lastSaid() const { return m_said; }
+    // The notification the announcement events come from.
     QObject* notification() const { return m_notification; }
 
 private:
