@@ -11,12 +11,13 @@
 # would have said), and the game with Qt's accessibility on.
 #
 # The games: two players, so that the friend's phrase window lays a known
-# phrase; one game won with a hit, a miss, a letter tried again and F6, one
-# lost. Then a game alone, whose phrase is drawn, played letter by letter
-# until it ends. Needs xvfb, xdotool, openbox, orca, at-spi2-core and
-# python3-pyatspi (installed when missing). With TRANSCRIPT_LOG=FILE it also
-# keeps Orca's whole debug log there; with TRANSCRIPT_SHOTS=DIR, a picture of
-# the screen (ImageMagick's import) wherever a window it waits for is late.
+# phrase; one game won with a hit, a miss taken back (with its two message
+# boxes), a letter tried again and F6, one lost. Then a game alone, whose
+# phrase is drawn, played letter by letter until it ends. Needs xvfb,
+# xdotool, openbox, orca, at-spi2-core and python3-pyatspi (installed when
+# missing). With TRANSCRIPT_LOG=FILE it also keeps Orca's whole debug log
+# there; with TRANSCRIPT_SHOTS=DIR, a picture of the screen (ImageMagick's
+# import) wherever a window it waits for is late.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -146,7 +147,7 @@ for key in "${phrase[@]}"; do xdotool key "$key"; sleep 0.05; done
 heard >/dev/null
 press Return
 press s
-press a
+press a Delete Return Return
 press s
 press F6
 for letter in l o t r e c d i; do press "$letter"; done
