@@ -13,6 +13,7 @@
 #include "platform/SystemNetworkCheck.h"
 #include "platform/QtWeb.h"
 #include "platform/ScreenKeeper.h"
+#include "platform/ScreenReaderAnnouncer.h"
 #include "ports/ClockRandom.h"
 #include "state/SharedState.h"
 #include "windows/board/BoardWindow.h"
@@ -120,8 +121,8 @@ private:
         const QRect menuFrame = m_window ? m_window->frameGeometry() : QRect();
         const QPoint menuCentre =
             menuFrame.topLeft() + QPoint(menuFrame.width() / 2, menuFrame.height() / 2);
-        auto board = std::make_unique<quillora::BoardWindow>(m_shared, m_dialogs, m_random,
-                                                             m_sounds, m_lookUp);
+        auto board = std::make_unique<quillora::BoardWindow>(m_shared, m_dialogs, m_announcer,
+                                                             m_random, m_sounds, m_lookUp);
         board->onRestart = [this] { later([this] { start(); }); };
         board->onClose = [] { QCoreApplication::quit(); };
         board->onMenu = [this, window = board.get()] {
@@ -164,6 +165,7 @@ private:
 
     quillora::SharedState m_shared;
     quillora::QtDialogs m_dialogs;
+    quillora::ScreenReaderAnnouncer m_announcer;
     quillora::ClockRandom m_random;
     quillora::SystemNetworkCheck m_network;
     quillora::QtWeb m_web;

@@ -51,7 +51,8 @@ protected:
     void SetUpBoard() {
         // No file yet: the theme is drawn, and a 0 reads as theme 1.
         random.queue({0.0});
-        window = std::make_unique<BoardWindow>(shared, dialogs, random, sounds, desktop.lookUp);
+        window = std::make_unique<BoardWindow>(shared, dialogs, announcer, random, sounds,
+                                               desktop.lookUp);
         window->show();
         window->activateWindow();
         window->setFocus();
@@ -118,6 +119,7 @@ protected:
     const fs::path& folder = temp.path();
     SharedState shared;
     ScriptedDialogs dialogs;
+    RecordingAnnouncer announcer;
     QueuedRandom random;
     RecordingSounds sounds;
     FakeDesktop desktop{dialogs};

@@ -46,10 +46,11 @@ protected:
     TempFolder temp{"quillora-model"};
     SharedState shared;
     ScriptedDialogs dialogs;
+    RecordingAnnouncer announcer;
     QueuedRandom random;
     RecordingEvents events;
     FakeDesktop desktop{dialogs};
-    BoardModel model{shared, dialogs, random, desktop.lookUp, &events};
+    BoardModel model{shared, dialogs, announcer, random, desktop.lookUp, &events};
 };
 
 } // namespace quillora

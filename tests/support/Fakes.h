@@ -3,6 +3,7 @@
 #pragma once
 
 #include "desktop/WebLookUp.h"
+#include "ports/Announcer.h"
 #include "ports/Dialogs.h"
 #include "ports/NetworkCheck.h"
 #include "ports/Random.h"
@@ -123,6 +124,24 @@ public:
 private:
     std::deque<double> m_fractions;
     bool m_dry = false;
+};
+
+// Keeps what the game said to a screen reader, in order, with its urgency.
+class RecordingAnnouncer : public Announcer {
+public:
+    void announce(const std::string& text, Urgency urgency) override {
+        said.push_back(text);
+        urgent.push_back(urgency == Urgency::Urgent);
+    }
+    // The last thing said, or "" when nothing was.
+    std::string last() const { return said.empty() ? std::string() : said.back(); }
+    void clear() {
+        said.clear();
+        urgent.clear();
+    }
+
+    std::vector<std::string> said;
+    std::vector<bool> urgent;
 };
 
 // Counts what a game hands over to the rest of the program.

@@ -13,6 +13,7 @@
 #include "desktop/WebLookUp.h"
 #include "models/board/BoardModel.h"
 #include "models/start/StartScreenModel.h"
+#include "ports/Announcer.h"
 #include "ports/Dialogs.h"
 #include "ports/NetworkCheck.h"
 #include "ports/Random.h"
@@ -97,12 +98,13 @@ int main(int argc, char** argv) {
     shared.settings.userName = "Quillora VS";
     loadAtStart(shared);
     RestlessDialogs dialogs;
+    SilentAnnouncer quiet;
     SeededRandom random;
     Offline network;
     NoBrowser browser;
     WebLookUp lookUp(network, browser, dialogs, Endpoints::fromBuild("file:///ayuda.html"));
 
-    auto board = std::make_unique<BoardModel>(shared, dialogs, random, lookUp);
+    auto board = std::make_unique<BoardModel>(shared, dialogs, quiet, random, lookUp);
     board->load();
     long wins = 0, losses = 0, switches = 0;
     for (long game = 1; game <= games; ++game) {
@@ -148,7 +150,7 @@ int main(int argc, char** argv) {
                 board->sessions().switchTo(pick(4));
             }
             ++switches;
-            board = std::make_unique<BoardModel>(shared, dialogs, random, lookUp);
+            board = std::make_unique<BoardModel>(shared, dialogs, quiet, random, lookUp);
             board->load();
         }
         if (!std::filesystem::exists(shared.currentSession().filePath)) {

@@ -226,12 +226,14 @@ void Round::playGuessedLetter() {
         m_lastGuess = GuessEffect::AlreadyTried;
         lightYellowLamp();
         m_state.alreadyTried = false;
+        m_events.guessPlayed();
         return;
     }
     m_state.hit = m_board.reveal(m_state.guessedLetter);
     m_lastGuess = m_state.hit ? GuessEffect::Hit : GuessEffect::Miss;
     recordMiss();
     checkWin();
+    m_events.guessPlayed();
 }
 
 void Round::recordMiss() {
@@ -278,6 +280,7 @@ void Round::advanceFigure() {
     if (pointsCount()) {
         m_events.roundLost();
     }
+    m_events.endShown();
     m_events.settingsChanged();
 }
 
@@ -307,6 +310,7 @@ void Round::checkWin() {
     if (pointsCount()) {
         m_events.roundWon();
     }
+    m_events.endShown();
     m_events.settingsChanged();
 }
 

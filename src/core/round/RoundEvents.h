@@ -16,6 +16,11 @@ public:
     virtual void phraseLaid() {}
     virtual void roundWon() {}
     virtual void roundLost() {}
+    // A letter was played, new or tried before, and the board shows what it
+    // did.
+    virtual void guessPlayed() {}
+    // The end of a game is on the board and, where points count, scored.
+    virtual void endShown() {}
     // Every game, won or lost, with or without points, ends with the text
     // the player had to find.
     virtual void roundEnded(const std::string& /*answerText*/) {}

@@ -167,6 +167,8 @@ void Scoring::scoreWin(int revealed, int strikes, bool& earlyAnswerBonus) {
     }
     refreshTitle();
     m_title += " | +" + std::to_string(points) + note;
+    m_lastChange = points;
+    m_lastNote = note;
     accountInUse() += points;
     m_upwardsAfterGift = false;
     m_counting = true;
@@ -184,6 +186,8 @@ void Scoring::scoreLoss(int revealed, int total) {
         const int points = lossPoints(revealed, total, m_shared.settings.moreNegativePoints);
         refreshTitle();
         m_title += " | -" + std::to_string(points);
+        m_lastChange = -points;
+        m_lastNote.clear();
         accountInUse() -= points;
         if (m_shared.settings.survival && m_shared.survivalPoints <= 0) {
             m_shared.survivalPoints = 0;
@@ -202,6 +206,8 @@ void Scoring::compensate() {
     m_shown = accountInUse();
     refreshTitle();
     m_title += " | +" + std::to_string(kCompensation) + " de regalo";
+    m_lastChange = kCompensation;
+    m_lastNote = " de regalo";
     accountInUse() += kCompensation;
     m_upwardsAfterGift = true;
     m_counting = true;

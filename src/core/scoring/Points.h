@@ -75,6 +75,10 @@ public:
     std::function<void(int)> onWinStatistics;
 
     const std::string& title() const { return m_title; }
+    // What the last game did to the account in use, as its title tells it:
+    // the points won (or the gift) and lost, and the note after them.
+    int lastChange() const { return m_lastChange; }
+    const std::string& lastNote() const { return m_lastNote; }
     double shownScore() const { return m_shown; }
     std::string scoreText() const;
     bool counting() const { return m_counting; }
@@ -93,6 +97,8 @@ private:
     SharedState& m_shared;
     Dialogs& m_dialogs;
     std::string m_title;
+    int m_lastChange = 0;
+    std::string m_lastNote;
     double m_shown = 0;
     bool m_counting = false;
     bool m_playEnabled = true;

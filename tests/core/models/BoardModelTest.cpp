@@ -186,7 +186,7 @@ TEST_F(BoardModelTest, KeyboardGrowsInEqualStepsAndLampsFollowTheRound) {
 TEST_F(BoardModelTest, AKeptKeyboardIsThereAtOnceAndOnlyASlidingOneClimbs) {
     shared.settings.keyboardKeptOpen = true;
     ASSERT_TRUE(saveSettings(shared, dialogs)); // the board takes it from the file
-    BoardModel kept{shared, dialogs, random, desktop.lookUp};
+    BoardModel kept{shared, dialogs, announcer, random, desktop.lookUp};
     kept.load();
     EXPECT_TRUE(kept.slide().shown());
     EXPECT_EQ(kept.slide().heightTwips(),
@@ -198,7 +198,7 @@ TEST_F(BoardModelTest, AKeptKeyboardIsThereAtOnceAndOnlyASlidingOneClimbs) {
     // steps, never by more than the keyboard added.
     shared.settings.keyboardKeptOpen = false;
     ASSERT_TRUE(saveSettings(shared, dialogs));
-    BoardModel sliding{shared, dialogs, random, desktop.lookUp};
+    BoardModel sliding{shared, dialogs, announcer, random, desktop.lookUp};
     sliding.load();
     EXPECT_EQ(sliding.slide().openingDropTwips(), 0);
     shared.settings.keyboardKeptOpen = true;

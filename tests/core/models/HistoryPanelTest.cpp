@@ -36,7 +36,7 @@ protected:
     }
     // The board as the next opening builds it.
     Entries reopened() {
-        BoardModel board{shared, dialogs, random, desktop.lookUp};
+        BoardModel board{shared, dialogs, announcer, random, desktop.lookUp};
         board.load();
         return board.panels().history().entries();
     }

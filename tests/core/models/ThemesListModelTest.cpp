@@ -208,7 +208,7 @@ TEST_F(TourTest, TheTourStaysWithItsUserThroughASwitchAndBack) {
     EXPECT_EQ(shared.tourPosition, 4);
 
     // The switch opens a fresh board for the user who came back.
-    BoardModel board{shared, dialogs, random, desktop.lookUp};
+    BoardModel board{shared, dialogs, announcer, random, desktop.lookUp};
     board.load();
     EXPECT_TRUE(shared.settings.autoPhrase);
     EXPECT_EQ(board.round().phraseChoice().autoMarkerCaption(), "T");

@@ -99,7 +99,7 @@ TEST_F(Survival, SwitchingSavesReopensAndIsToldOnce) {
     ASSERT_TRUE(saved);
     EXPECT_EQ((*saved)[12], "1") << "line 13 keeps the mode";
 
-    BoardModel reopened{shared, dialogs, random, desktop.lookUp};
+    BoardModel reopened{shared, dialogs, announcer, random, desktop.lookUp};
     reopened.load();
     EXPECT_EQ(reopened.windowTitle(), "Quillora Vesta | Supervivencia");
     reopened.survival().tickAnnounce();

@@ -112,7 +112,7 @@ TEST_F(BoardStatistics, TheCountsStayWithTheirUserAcrossASwitchAndANewBoard) {
     ASSERT_EQ(shared.currentSlot, 1);
     play(U"bdefghij");
 
-    BoardModel next{shared, dialogs, random, desktop.lookUp};
+    BoardModel next{shared, dialogs, announcer, random, desktop.lookUp};
     next.panels().stats().open();
     EXPECT_EQ(next.panels().stats().value(StatsPanelModel::Games, false), "1");
     EXPECT_EQ(next.panels().stats().value(StatsPanelModel::Errors, false), "8");
@@ -120,7 +120,7 @@ TEST_F(BoardStatistics, TheCountsStayWithTheirUserAcrossASwitchAndANewBoard) {
 
     next.sessions().switchTo(0);
     ASSERT_EQ(shared.currentSlot, 0);
-    BoardModel main{shared, dialogs, random, desktop.lookUp};
+    BoardModel main{shared, dialogs, announcer, random, desktop.lookUp};
     main.panels().stats().open();
     EXPECT_EQ(main.panels().stats().value(StatsPanelModel::Games, false), "1");
     EXPECT_EQ(main.panels().stats().value(StatsPanelModel::Best, false), "400");

@@ -208,7 +208,8 @@ TEST_F(BoardAccess, TheKeyboardReachesTheMenuAndEveryFocusedControlShowsAMark) {
 TEST_F(BoardAccess, TabReachesTheBoardsButtonsWithARingAndLettersStillGuess) {
     window.reset();
     random.queue({0.0});
-    window = std::make_unique<BoardWindow>(shared, dialogs, random, sounds, desktop.lookUp);
+    window =
+        std::make_unique<BoardWindow>(shared, dialogs, announcer, random, sounds, desktop.lookUp);
     window->show();
     window->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));

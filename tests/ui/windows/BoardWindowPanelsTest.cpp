@@ -226,6 +226,12 @@ TEST_F(BoardPanels, EstadisticasUnrollsTheCountsAndEscRollsThemUp) {
     for (int i = 0; i < 14; ++i) {
         EXPECT_EQ(panel->valueLabel(i)->text(), shown[i]) << i;
     }
+    // No key reaches the figures: a screen reader says them all as they show.
+    const QString figures = QString::fromStdString(announcer.last());
+    EXPECT_TRUE(figures.startsWith(
+        QStringLiteral("Estadísticas. Puntos -800 normal, 1000 supervivencia. Errores 9 normal")))
+        << announcer.last();
+    EXPECT_TRUE(figures.contains(QStringLiteral("Récord: Máximo/p. 200 normal, 0 supervivencia.")));
     // Every row of counts has a tip of its own.
     QSet<QString> tips;
     for (const QLabel* l : panel->findChildren<QLabel*>()) {
@@ -241,8 +247,10 @@ TEST_F(BoardPanels, EstadisticasUnrollsTheCountsAndEscRollsThemUp) {
     settle();
     EXPECT_FALSE(panel->isVisible());
 
+    announcer.clear();
     window->model().panels().openStats();
     settle();
+    EXPECT_EQ(announcer.said.size(), 1U) << "said again on every opening, once";
     QTest::mouseClick(panel->closeLabel(), Qt::LeftButton);
     settle();
     EXPECT_FALSE(panel->isVisible());
@@ -276,7 +284,7 @@ struct BrokenRandom : Random {
 TEST_F(BoardPanels, AStepThatFailsOnOpeningIsToldInTheTitleAndTheBoardPlays) {
     window.reset();
     BrokenRandom broken;
-    BoardWindow board(shared, dialogs, broken, sounds, desktop.lookUp);
+    BoardWindow board(shared, dialogs, announcer, broken, sounds, desktop.lookUp);
     board.show();
     EXPECT_EQ(board.windowTitle(), "Quillora Vesta | Puntos | Error al cargar datos");
     QTest::keyClick(&board, Qt::Key_Return);

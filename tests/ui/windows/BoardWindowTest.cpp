@@ -110,10 +110,13 @@ TEST_F(BoardWindowTest, ClicksOnTheOnScreenKeyboardGuessAndOpenTheDigits) {
     click(1);
     EXPECT_EQ(window->controls().counterLabel->text(), "2/4");
     EXPECT_EQ(keys->keyAt(keys->keyRect(1).center()), -1) << "a tried key is hidden";
+    EXPECT_EQ(announcer.last(), "A: 2 letras. 2 de 4.") << "a click is heard like a key";
     click(kDigitPanelKey);
     ASSERT_TRUE(window->model().round().digitPanelVisible());
     click(28);
     EXPECT_EQ(strike(1), "1");
+    QTest::keyClick(window.get(), Qt::Key_F6);
+    EXPECT_EQ(announcer.last().rfind("Tema: ", 0), 0u) << "F6 reads the board";
     click(kCloseDigitsKey);
     EXPECT_FALSE(window->model().round().digitPanelVisible());
 }

@@ -43,6 +43,8 @@ TEST_F(PhraseWindows, TheDrawnPhraseIsNeverHeardAndTheThemesAreChosenFromTheKeys
     {
         const AccessibleTree tree(words);
         EXPECT_EQ(tree.root()->text(QAccessible::Name), "EL TEMA ES:");
+        // Read with the title as the window opens, before any control.
+        EXPECT_EQ(tree.root()->text(QAccessible::Description), words->themeLabel()->text());
         EXPECT_EQ(tree.unheardControls(), "");
         const QString heard = tree.everything();
         EXPECT_TRUE(heard.contains(words->themeLabel()->text())) << "the walk hears the theme";
@@ -74,6 +76,7 @@ TEST_F(PhraseWindows, TheDrawnPhraseIsNeverHeardAndTheThemesAreChosenFromTheKeys
     EXPECT_EQ(words->themesList(), nullptr);
     EXPECT_TRUE(shared.current().selectedThemes[1] && shared.current().selectedThemes[2]);
     EXPECT_EQ(words->themeLabel()->text(), "????");
+    EXPECT_EQ(words->accessibleDescription(), "????");
     const QString redrawn =
         QString::fromStdString(window->model().round().phraseChoice().drawnPhrase());
     EXPECT_FALSE(AccessibleTree(words).everything().contains(redrawn, Qt::CaseInsensitive));

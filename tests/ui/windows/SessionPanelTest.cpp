@@ -28,7 +28,8 @@ TEST(SessionPanelUserBox, TakesOnlyCharactersAConfigurationLineCanHold) {
     ScriptedDialogs dialogs;
     QueuedRandom random;
     FakeDesktop desktop(dialogs);
-    BoardModel model(shared, dialogs, random, desktop.lookUp);
+    SilentAnnouncer announcer;
+    BoardModel model(shared, dialogs, announcer, random, desktop.lookUp);
     QWidget board;
     board.resize(800, 500);
     SessionPanel panel(

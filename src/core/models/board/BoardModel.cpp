@@ -15,10 +15,11 @@ constexpr int kSoundWarning = 1;
 constexpr int kSoundNewPhrase = 2;
 } // namespace
 
-BoardModel::BoardModel(SharedState& shared, Dialogs& dialogs, Random& random, WebLookUp& lookUp,
-                       RoundEvents* events)
-    : m_shared(shared), m_dialogs(dialogs), m_outer(events ? *events : m_noEvents),
-      m_random(random), m_round(shared, dialogs, random, this), m_scoring(shared, dialogs),
+BoardModel::BoardModel(SharedState& shared, Dialogs& dialogs, Announcer& announcer, Random& random,
+                       WebLookUp& lookUp, RoundEvents* events)
+    : m_shared(shared), m_dialogs(dialogs), m_announcer(announcer),
+      m_outer(events ? *events : m_noEvents), m_random(random),
+      m_round(shared, dialogs, random, this), m_scoring(shared, dialogs),
       m_sessions(shared, dialogs, random, m_round, m_commands, m_appearance),
       m_lookUps(shared, dialogs, lookUp, m_round, m_panels.history()) {
     // Scoring calls these only when points count. A loss is counted before
@@ -32,6 +33,7 @@ BoardModel::BoardModel(SharedState& shared, Dialogs& dialogs, Random& random, We
     };
     // Points moved into survival start both records afresh.
     m_scoring.onStatisticsReset = [this] { m_shared.current().stats.reset(); };
+    m_turn.onMoved = [this] { m_narration.turnMoved(); };
 }
 
 void BoardModel::load() {
@@ -78,11 +80,15 @@ std::string BoardModel::windowTitle() const {
 
 void BoardModel::correctionAsked(bool asking) {
     if (asking) {
+        m_strikesBeforeCorrection = m_round.state().strikeCount;
         m_countdown.pause();
         m_panels.side().showEmpty();
     } else {
         m_countdown.resume();
         m_panels.side().closeSidePanels();
+        if (m_round.state().strikeCount < m_strikesBeforeCorrection) {
+            m_narration.strikeTakenBack();
+        }
     }
     m_outer.correctionAsked(asking);
 }
@@ -109,6 +115,7 @@ void BoardModel::phraseLaid() {
     if (!m_shared.settings.sounds) {
         m_scoring.startCounting();
     }
+    m_narration.phraseLaid();
     m_outer.phraseLaid();
 }
 
@@ -183,6 +190,9 @@ GameStart BoardModel::keyTyped(WindowKey key, char32_t character) {
             const bool wasInPlay = m_round.inPlay();
             m_round.typeKey(character);
             m_changed = guessAreas(wasInPlay);
+            if (m_round.lastGuess() == Round::GuessEffect::None) {
+                m_narration.keyIgnored(character);
+            }
         }
         break;
     case WindowKey::F2:
@@ -215,6 +225,9 @@ GameStart BoardModel::keyTyped(WindowKey key, char32_t character) {
         break;
     case WindowKey::F1:
         m_lookUps.openHelp();
+        break;
+    case WindowKey::ReadBoard:
+        m_narration.readBoard();
         break;
     case WindowKey::DeadKey:
     case WindowKey::MenuKey:
@@ -252,12 +265,22 @@ void BoardModel::soundEnded(int number) {
     }
 }
 
+void BoardModel::tickScore() {
+    const bool wasCounting = m_scoring.counting();
+    m_scoring.tick(m_round.strikeCountForScore());
+    if (wasCounting && !m_scoring.counting()) {
+        m_narration.scoreSettled();
+    }
+}
+
 void BoardModel::tickCountdown() {
     switch (m_countdown.tick()) {
     case Countdown::Tick::Warning:
         m_round.pendingSound().request(kSoundWarning, m_shared.settings.sounds);
+        m_narration.clockWarning();
         break;
     case Countdown::Tick::TimeUp:
+        m_narration.clockRanOut();
         m_round.timeUp();
         break;
     case Countdown::Tick::Nothing:

@@ -7,6 +7,7 @@
 #include "models/board/BoardAreas.h"
 #include "models/board/BoardCommands.h"
 #include "models/board/BoardLookUps.h"
+#include "models/board/BoardNarration.h"
 #include "models/board/BoardSessions.h"
 #include "models/board/KeyFaces.h"
 #include "models/board/KeyboardSlide.h"
@@ -24,6 +25,7 @@
 
 namespace quillora {
 
+class Announcer;
 class WebLookUp;
 
 // The board's coordinator. It holds the round and the parts that each own
@@ -42,8 +44,8 @@ public:
     static constexpr int kNamesDelayMs = 500;
     static constexpr int kGiftTickMs = 1;
 
-    BoardModel(SharedState& shared, Dialogs& dialogs, Random& random, WebLookUp& lookUp,
-               RoundEvents* events = nullptr);
+    BoardModel(SharedState& shared, Dialogs& dialogs, Announcer& announcer, Random& random,
+               WebLookUp& lookUp, RoundEvents* events = nullptr);
 
     // The board's opening: the options of the current session are read and
     // applied, and a locked session shows its key panel at once. A step that
@@ -89,6 +91,9 @@ public:
         F3,
         F4,
         F5,
+        // F6, which no rule of the game uses: a player who cannot see the
+        // board hears it read out.
+        ReadBoard,
         MenuKey,
         ToggleAuto,
         ToggleSounds,
@@ -115,7 +120,7 @@ public:
     // --- timers ----------------------------------------------------------------------
     // A new game's score waits for its opening sound, until it ends.
     void soundEnded(int number);
-    void tickScore() { m_scoring.tick(m_round.strikeCountForScore()); }
+    void tickScore();
     // One second of countdown mode gone.
     void tickCountdown();
 
@@ -132,6 +137,8 @@ private:
     void phraseLaid() override;
     void roundWon() override;
     void roundLost() override;
+    void guessPlayed() override { m_narration.letterPlayed(); }
+    void endShown() override { m_narration.gameEnded(); }
     void roundEnded(const std::string& answerText) override { m_panels.history().add(answerText); }
     void answerBoxOpened() override { m_panels.side().closeSidePanels(); }
     void countdownStopped() override;
@@ -144,6 +151,7 @@ private:
 
     SharedState& m_shared;
     Dialogs& m_dialogs;
+    Announcer& m_announcer;
     RoundEvents m_noEvents;
     RoundEvents& m_outer;
     Random& m_random;
@@ -161,6 +169,9 @@ private:
     BoardSessions m_sessions;
     BoardLookUps m_lookUps;
     KeyboardSlide m_slide{m_shared.settings};
+    BoardNarration m_narration{m_announcer, m_round, m_scoring, m_countdown, m_turn};
+    // The strikes before a correction is asked, to tell whether one was taken.
+    int m_strikesBeforeCorrection = 0;
     char32_t m_deadKey = 0;
     BoardAreas m_changed = BoardAreas::everything();
     bool m_loadFailed = false;

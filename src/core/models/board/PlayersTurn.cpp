@@ -27,17 +27,24 @@ bool PlayersTurn::freeTurn() const {
 
 void PlayersTurn::moveForward() {
     moveTurnForward(m_shared);
-    refresh();
+    moved();
 }
 
 void PlayersTurn::moveBack() {
     moveTurnBack(m_shared);
-    refresh();
+    moved();
 }
 
 void PlayersTurn::toggleFreeTurn() {
     quillora::toggleFreeTurn(m_shared);
+    moved();
+}
+
+void PlayersTurn::moved() {
     refresh();
+    if (onMoved) {
+        onMoved();
+    }
 }
 
 void PlayersTurn::pass() {

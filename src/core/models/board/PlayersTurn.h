@@ -4,6 +4,8 @@
 
 #include "players/Players.h"
 
+#include <functional>
+
 namespace quillora {
 
 class Dialogs;
@@ -30,8 +32,12 @@ public:
     void namesClosed();
     // A moment after the board opens, a game with friends starts with their names.
     bool namesAtStart() const;
+    // Told when the turn menu moves the turn or frees it.
+    std::function<void()> onMoved;
 
 private:
+    void moved();
+
     SharedState& m_shared;
     Dialogs& m_dialogs;
     PlayerLabel m_label;

@@ -52,7 +52,8 @@ constexpr int kCounterLeft = 10200, kCounterTop = 1050, kCounterWidth = 1095, kC
 
 } // namespace
 
-BoardControls::BoardControls(BoardModel& model, QWidget* board, const BoardActions& actions)
+BoardControls::BoardControls(BoardModel& model, Announcer& announcer, QWidget* board,
+                             const BoardActions& actions)
     : m_model(model), m_board(board) {
     const auto& changed = actions.changed;
     background = new BackgroundView(model.appearance(), board);
@@ -60,7 +61,7 @@ BoardControls::BoardControls(BoardModel& model, QWidget* board, const BoardActio
     phrase = new PhraseView(model.round(), model.appearance(), board);
     SidePanels& panels = model.panels();
     sidePanel = new SidePanel(panels.side(), board);
-    statsPanel = new StatsPanel(panels.stats(), changed, board);
+    statsPanel = new StatsPanel(panels.stats(), announcer, changed, board);
     historyPanel = new HistoryPanel(panels, model.lookUps(), changed, actions.boardKeys, board);
     themesPanel = new ThemesPanel(panels, changed, actions.boardKeys, board);
 

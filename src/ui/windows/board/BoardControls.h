@@ -15,6 +15,7 @@ class QWidget;
 namespace quillora {
 
 class AgainLabels;
+class Announcer;
 class AnswerPanel;
 class AutoMarker;
 class BackgroundView;
@@ -59,7 +60,9 @@ struct BoardActions {
 // the same pointers.
 class BoardControls {
 public:
-    BoardControls(BoardModel& model, QWidget* board, const BoardActions& actions);
+    // `announcer` tells a screen reader what a panel shows as it opens.
+    BoardControls(BoardModel& model, Announcer& announcer, QWidget* board,
+                  const BoardActions& actions);
 
     // Brings every control in step with the model.
     void syncAll();

@@ -49,10 +49,10 @@ void follow(QTimer* timer, bool running) {
 
 } // namespace
 
-BoardWindow::BoardWindow(SharedState& shared, Dialogs& dialogs, Random& random, SoundPlayer& sounds,
-                         WebLookUp& lookUp, QWidget* parent)
+BoardWindow::BoardWindow(SharedState& shared, Dialogs& dialogs, Announcer& announcer,
+                         Random& random, SoundPlayer& sounds, WebLookUp& lookUp, QWidget* parent)
     : QWidget(parent), m_boardDialogs(dialogs, [this] { drawNow(); }),
-      m_model(shared, m_boardDialogs, random, lookUp),
+      m_model(shared, m_boardDialogs, announcer, random, lookUp),
       m_design(m_model.appearance(), m_model.round(), shared, m_boardDialogs, this,
                [this] { sync(); }),
       m_sounds(sounds) {
@@ -68,7 +68,7 @@ BoardWindow::BoardWindow(SharedState& shared, Dialogs& dialogs, Random& random, 
     installBoardAccessibility();
     setAccessibleRole(this, QAccessible::Window);
     m_ui = std::make_unique<BoardControls>(
-        m_model, this,
+        m_model, announcer, this,
         BoardActions{
             [this] { sync(); }, [this](BoardAreas areas) { sync(areas); },
             [this] { playPressed(); }, [this](QKeyEvent* key) { return windowShortcut(key); },

@@ -29,8 +29,8 @@ class ThemeWindow;
 // move the board on its own, and opens the windows that come over it.
 class BoardWindow final : public QWidget {
 public:
-    BoardWindow(SharedState& shared, Dialogs& dialogs, Random& random, SoundPlayer& sounds,
-                WebLookUp& lookUp, QWidget* parent = nullptr);
+    BoardWindow(SharedState& shared, Dialogs& dialogs, Announcer& announcer, Random& random,
+                SoundPlayer& sounds, WebLookUp& lookUp, QWidget* parent = nullptr);
     ~BoardWindow() override;
 
     BoardModel& model() { return m_model; }

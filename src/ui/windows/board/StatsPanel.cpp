@@ -5,6 +5,7 @@
 #include "look/Twips.h"
 #include "models/board/StatsPanelModel.h"
 #include "platform/Fonts.h"
+#include "ports/Announcer.h"
 #include "windows/ButtonLike.h"
 #include "windows/QtColour.h"
 #include "windows/board/BoardAccessible.h"
@@ -13,6 +14,7 @@
 #include <QEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QStringList>
 
 namespace quillora {
 
@@ -59,8 +61,9 @@ QLabel* label(const QString& text, QWidget* parent, QRect twips, double points,
 
 } // namespace
 
-StatsPanel::StatsPanel(StatsPanelModel& model, std::function<void()> changed, QWidget* board)
-    : QWidget(board), m_model(model), m_changed(std::move(changed)) {
+StatsPanel::StatsPanel(StatsPanelModel& model, Announcer& announcer, std::function<void()> changed,
+                       QWidget* board)
+    : QWidget(board), m_model(model), m_announcer(announcer), m_changed(std::move(changed)) {
     setObjectName(QStringLiteral("statsFrame"));
     setAttribute(Qt::WA_StyledBackground);
     setAccessibleRole(this, QAccessible::Grouping);
@@ -140,13 +143,34 @@ void StatsPanel::sync() {
     if (opening) {
         setFocus();
     }
+    // The figures are labels, which no key reaches: a screen reader says
+    // them all as they show, as it reads a dialog's text when it opens.
+    const bool unrolled = m_model.valuesShown() && !m_statsFrame->isVisible();
     m_statsFrame->setVisible(m_model.valuesShown());
     for (int i = 0; i < StatsPanelModel::kValues; ++i) {
         valueLabel(i)->setText(qs(m_model.value(i)));
     }
+    if (unrolled) {
+        m_announcer.announce(spokenFigures().toStdString(), Announcer::Urgency::Polite);
+    }
     if (isVisible()) {
         raise();
     }
+}
+
+QString StatsPanel::spokenFigures() const {
+    QStringList said{QStringLiteral("Estadísticas.")};
+    for (const Line& line : kLines) {
+        const QString name = QString::fromUtf8(line.name);
+        if (line.row < 0) {
+            said << name;
+            continue;
+        }
+        said << QStringLiteral("%1 %2 normal, %3 supervivencia.")
+                    .arg(name, qs(m_model.value(static_cast<Row>(line.row), false)),
+                         qs(m_model.value(static_cast<Row>(line.row), true)));
+    }
+    return said.join(QLatin1Char(' '));
 }
 
 bool StatsPanel::eventFilter(QObject* watched, QEvent* event) {

@@ -11,13 +11,15 @@ class QLabel;
 
 namespace quillora {
 
+class Announcer;
 class StatsPanelModel;
 
 // The statistics panel, unrolled over the side of the board: the current
 // user's points, errors, games, averages and records in two columns.
 class StatsPanel final : public QWidget {
 public:
-    StatsPanel(StatsPanelModel& model, std::function<void()> changed, QWidget* board);
+    StatsPanel(StatsPanelModel& model, Announcer& announcer, std::function<void()> changed,
+               QWidget* board);
 
     // Brings the panel in step with the model.
     void sync();
@@ -38,8 +40,12 @@ protected:
 private:
     // Rolls the panel up.
     void rollUp();
+    // The title and every figure with its row and column, as a screen
+    // reader says them.
+    QString spokenFigures() const;
 
     StatsPanelModel& m_model;
+    Announcer& m_announcer;
     std::function<void()> m_changed;
     QLabel* m_closeLabel = nullptr;
     QWidget* m_statsFrame = nullptr;

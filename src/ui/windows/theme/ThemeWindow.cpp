@@ -115,6 +115,9 @@ void ThemeWindow::keyPressEvent(QKeyEvent* event) {
 
 void ThemeWindow::showDraw() {
     m_themeLabel->setText(qs(m_choice.themeWindowLabel()));
+    // The theme stands on a button, which a screen reader does not read
+    // with the window's title; as the window's description it does.
+    setAccessibleDescription(m_themeLabel->text());
     m_wordBox->setText(qs(m_choice.drawnPhrase()));
 }
 
