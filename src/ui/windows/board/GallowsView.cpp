@@ -92,6 +92,10 @@ GallowsView::GallowsView(const Figure& figure, QWidget* parent)
     : QWidget(parent), m_figure(figure) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setGeometry(0, 0, px(kWidthTwips), px(kHeightTwips));
+    // Nothing of the figure reaches above the beam, where the score panel
+    // flashes with every lamp: without the mask, this transparent view would
+    // be painted again over the panel after every letter.
+    setMask(QRect(0, px(kTopTwips), width(), height() - px(kTopTwips)));
     setAccessibleRole(this, QAccessible::Graphic);
 }
 

@@ -25,6 +25,8 @@ public:
     // The area of the board the drawing covers, in twips.
     static constexpr int kWidthTwips = 2760;
     static constexpr int kHeightTwips = 4320;
+    // Where the view starts to draw: the beam's top, less the rope's cap.
+    static constexpr int kTopTwips = 780;
 
     // Repaints what changed of the figure, and names it by the strikes it
     // shows.
