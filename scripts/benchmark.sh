@@ -21,24 +21,10 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-bench_packages=(
-    xvfb xdotool python3
-    libx11-dev libxtst-dev libxdamage-dev libxfixes-dev
+bash scripts/install-deps.sh \
+    xvfb xdotool python3 \
+    libx11-dev libxtst-dev libxdamage-dev libxfixes-dev \
     pulseaudio pulseaudio-utils libasound2-plugins alsa-utils
-)
-need=()
-for p in "${bench_packages[@]}"; do
-    if ! dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed'; then
-        need+=("$p")
-    fi
-done
-if [ ${#need[@]} -gt 0 ]; then
-    sudo_cmd=(); [ "$(id -u)" -ne 0 ] && sudo_cmd=(sudo)
-    export DEBIAN_FRONTEND=noninteractive
-    "${sudo_cmd[@]}" apt-get update -qq >/dev/null
-    "${sudo_cmd[@]}" apt-get install -y -qq --no-install-recommends "${need[@]}" >/dev/null
-fi
-bash scripts/install-deps.sh
 cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
 cmake --build build --target quillora-vesta >/dev/null
 

@@ -3,7 +3,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
 # Installs from Debian's packages whatever the game needs to build, run and be
-# tested, and nothing when it is all there already.
+# tested, and nothing when it is all there already. A script that needs more
+# (the benchmark, Orca's transcript) names its own packages as arguments.
 set -euo pipefail
 
 packages=(
@@ -14,6 +15,7 @@ packages=(
     fonts-quicksand fonts-comic-neue
     clang-format
     desktop-file-utils appstream lintian
+    "$@"
 )
 
 missing=()

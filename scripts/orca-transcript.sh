@@ -22,20 +22,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 if [ "${1:-}" != --inside ]; then
-    packages=(xvfb xdotool openbox orca at-spi2-core python3-pyatspi dbus)
-    need=()
-    for p in "${packages[@]}"; do
-        if ! dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed'; then
-            need+=("$p")
-        fi
-    done
-    if [ ${#need[@]} -gt 0 ]; then
-        sudo_cmd=(); [ "$(id -u)" -ne 0 ] && sudo_cmd=(sudo)
-        export DEBIAN_FRONTEND=noninteractive
-        "${sudo_cmd[@]}" apt-get update -qq >/dev/null
-        "${sudo_cmd[@]}" apt-get install -y -qq --no-install-recommends "${need[@]}" >/dev/null
-    fi
-    bash scripts/install-deps.sh
+    bash scripts/install-deps.sh xvfb xdotool openbox orca at-spi2-core python3-pyatspi dbus
     cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
     cmake --build build --target quillora-vesta >/dev/null
 
