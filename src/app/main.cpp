@@ -200,14 +200,18 @@ int main(int argc, char** argv) {
     QApplication app(count, arguments.data());
     systemFonts.join();
     quillora::nameApplication();
-    QApplication::setWindowIcon(quillora::appIcon());
     quillora::Fonts::registerEmbedded();
 
     Game game;
     game.start();
-    // Qt's Spanish is for its message boxes' buttons, and none can open
-    // before the start screen is up: reading it waits until then.
+    // Neither the icon, whose pictures are decoded for the window system as
+    // it is set, nor Qt's Spanish for its message boxes' buttons is wanted
+    // before the start screen is up, so both wait until then: the screen,
+    // which has no title bar, takes the icon a moment after it shows.
     QTranslator qtSpanish;
-    QTimer::singleShot(0, [&qtSpanish] { quillora::speakSpanish(qtSpanish); });
+    QTimer::singleShot(0, [&qtSpanish] {
+        QApplication::setWindowIcon(quillora::appIcon());
+        quillora::speakSpanish(qtSpanish);
+    });
     return QApplication::exec();
 }
