@@ -113,7 +113,7 @@ protected:
     }
     // Windows closed with WA_DeleteOnClose are gone once their deletion runs.
     static void settle() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
-    QString strike(int slot) const { return window->controls().strikes->strikeLabel(slot)->text(); }
+    QString strike(int slot) const { return window->controls().strikes->markText(slot); }
 
     TempFolder temp{"quillora-board"};
     const fs::path& folder = temp.path();

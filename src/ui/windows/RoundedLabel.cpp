@@ -17,32 +17,49 @@ constexpr int kRadiusTwips = 90;
 RoundedLabel::RoundedLabel(QWidget* parent, const QString& text) : QLabel(text, parent) {}
 
 void RoundedLabel::setColours(const QColor& panel, const QColor& text) {
-    if (panel == m_panel && palette().color(QPalette::WindowText) == text) {
+    // The lamps change the panel after every letter and the ink hardly ever:
+    // a new palette is resolved and sent to the label and its children, so it
+    // is set only when the ink is new.
+    if (palette().color(QPalette::WindowText) != text) {
+        QPalette colours = palette();
+        colours.setColor(QPalette::WindowText, text);
+        setPalette(colours);
+    } else if (panel == m_panel) {
         return;
     }
     m_panel = panel;
-    QPalette colours = palette();
-    colours.setColor(QPalette::WindowText, text);
-    setPalette(colours);
     update();
 }
 
-bool RoundedLabel::drawsPlainLine() const {
+bool RoundedLabel::drawsPlainLine() {
+    if (wordWrap() || textFormat() == Qt::RichText || indent() > 0 || margin() > 0 ||
+        !styleSheet().isEmpty() || !pixmap().isNull()) {
+        return false;
+    }
+    // Whether the text reads as one plain line is asked at every paint and
+    // changes only with the text.
     const QString line = text();
-    return !(wordWrap() || textFormat() == Qt::RichText ||
-             (textFormat() == Qt::AutoText && Qt::mightBeRichText(line)) || line.contains(u'\n') ||
-             line.contains(u'&') || !pixmap().isNull() || !styleSheet().isEmpty() || indent() > 0 ||
-             margin() > 0);
+    if (line != m_checkedText || textFormat() != m_checkedFormat) {
+        m_checkedText = line;
+        m_checkedFormat = textFormat();
+        m_checkedPlain = !((textFormat() == Qt::AutoText && Qt::mightBeRichText(line)) ||
+                           line.contains(u'\n') || line.contains(u'&'));
+    }
+    return m_checkedPlain;
+}
+
+void paintRoundedGround(QPainter& painter, const QRect& area, const QColor& colour) {
+    if (colour.alpha() > 0) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(colour);
+        painter.drawRoundedRect(area, px(kRadiusTwips), px(kRadiusTwips));
+        painter.setRenderHint(QPainter::Antialiasing, false);
+    }
 }
 
 void RoundedLabel::paintGround(QPainter& painter) const {
-    if (m_panel.alpha() > 0) {
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(m_panel);
-        painter.drawRoundedRect(rect(), px(kRadiusTwips), px(kRadiusTwips));
-        painter.setRenderHint(QPainter::Antialiasing, false);
-    }
+    paintRoundedGround(painter, rect(), m_panel);
 }
 
 void RoundedLabel::paintLine(QPainter& painter) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QColor>
 #include <QFont>
 #include <QLabel>
 #include <QPixmap>
@@ -10,7 +11,13 @@
 #include <array>
 #include <cstddef>
 
+class QPainter;
+
 namespace quillora {
+
+// The rounded ground the board's panels stand on; nothing for a transparent
+// colour.
+void paintRoundedGround(QPainter& painter, const QRect& area, const QColor& colour);
 
 // A label on a rounded panel of its own colour, or on none. The board's lamps
 // recolour these after every letter: a colour set by hand repaints the label
@@ -31,7 +38,7 @@ protected:
 private:
     // True when the text is one plain line that this label draws itself;
     // rich text, pictures, wrapped lines and style sheets are QLabel's.
-    bool drawsPlainLine() const;
+    bool drawsPlainLine();
     void paintGround(QPainter& painter) const;
     void paintLine(QPainter& painter);
     // The panel as it looks now, drawn once and then copied: the lamp takes
@@ -48,6 +55,9 @@ private:
         QPixmap pixmap;
     };
     QColor m_panel = Qt::transparent;
+    QString m_checkedText;
+    Qt::TextFormat m_checkedFormat = Qt::AutoText;
+    bool m_checkedPlain = true;
     QStaticText m_line;
     QFont m_lineFont;
     std::array<Look, 3> m_looks{};

@@ -6,6 +6,8 @@
 #include "windows/board/KeyboardView.h"
 #include "windows/board/PhraseAccessible.h"
 #include "windows/board/PhraseView.h"
+#include "windows/board/StrikeStrip.h"
+#include "windows/board/StrikesAccessible.h"
 
 #include <QAccessibleWidget>
 #include <QCoreApplication>
@@ -92,6 +94,9 @@ QAccessibleInterface* boardFactory(const QString&, QObject* object) {
     }
     if (auto* keyboard = dynamic_cast<KeyboardView*>(widget)) {
         return new KeyboardAccessible(keyboard);
+    }
+    if (auto* strikes = dynamic_cast<StrikeStrip*>(widget)) {
+        return new StrikesAccessible(strikes);
     }
     const QVariant role = widget->property(kRoleProperty);
     if (role.isValid()) {

@@ -128,7 +128,7 @@ void BoardControls::paint() {
     const BoardAppearance& look = m_model.appearance();
     const LampColours lamp = look.lampColours(m_model.round().lamp());
     const Rgb score = m_model.round().deathColours() ? kRedLamp : lamp.light;
-    const QString lampColours = css(lamp.light) + css(lamp.dark) + css(score);
+    const std::array<Rgb, 3> lampColours{lamp.light, lamp.dark, score};
     if (lampColours != m_lampColours) {
         m_lampColours = lampColours;
         statusLabel->setColours(qc(lamp.light), Qt::white);
@@ -139,7 +139,7 @@ void BoardControls::paint() {
         strikes->paint(qc(lamp.light), qc(lamp.dark));
         scorePanel->paint(qc(score), qc(lamp.light));
     }
-    const QString gameColours = css(look.gameColour()) + css(look.background());
+    const std::array<Rgb, 2> gameColours{look.gameColour(), look.background()};
     if (gameColours != m_gameColours) {
         m_gameColours = gameColours;
         paintGamePanels();

@@ -2,11 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "look/Colour.h"
 #include "models/board/BoardAreas.h"
 
-#include <QString>
-
+#include <array>
 #include <functional>
+#include <optional>
 
 class QKeyEvent;
 class QLabel;
@@ -105,8 +106,8 @@ private:
     QWidget* m_board;
     // Style sheets are costly to apply, and the lamps flash after every
     // letter: the colours last painted, so that only a change paints again.
-    QString m_lampColours;
-    QString m_gameColours;
+    std::optional<std::array<Rgb, 3>> m_lampColours;
+    std::optional<std::array<Rgb, 2>> m_gameColours;
 };
 
 } // namespace quillora

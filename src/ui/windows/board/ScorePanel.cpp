@@ -103,7 +103,9 @@ void ScorePanel::syncPlayer() {
     // it as the panel's description.
     const QString players = qs(m_turn.label().tooltip);
     for (QWidget* label : std::initializer_list<QWidget*>{m_player1Label, m_scoreFrame}) {
-        label->setToolTip(players);
+        if (label->toolTip() != players) {
+            label->setToolTip(players);
+        }
         setSpokenDescription(label, players.trimmed());
     }
 }

@@ -14,9 +14,13 @@
 #include "windows/board/BoardAccessible.h"
 
 #include <QEvent>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
+#include <QStaticText>
+#include <QToolTip>
 
 namespace quillora {
 
@@ -37,19 +41,10 @@ StrikeStrip::StrikeStrip(Round& round, KeyFaces& faces, SidePanels& panels,
       m_changed(std::move(changed)) {
     setGeometry(px(kLeft - kMargin), px(kTop - kMargin), px(kPitch * 7 + kWidth + 2 * kMargin),
                 px(kHeight + 2 * kMargin));
-    setAccessibleRole(this, QAccessible::Grouping);
-    for (int slot = 1; slot <= RoundState::kSlots; ++slot) {
-        auto* label = new RoundedLabel(this);
-        label->setGeometry(px(kMargin + kPitch * (slot - 1)), px(kMargin), px(kWidth), px(kHeight));
-        label->setAlignment(Qt::AlignCenter);
-        label->setFont(Fonts::display(14));
-        label->setToolTip(QString::fromUtf8(kStrikeTips[static_cast<std::size_t>(slot - 1)]));
-        label->setAccessibleDescription(label->toolTip().trimmed());
-        m_strikeLabel[static_cast<std::size_t>(slot - 1)] = label;
-    }
+    setFont(Fonts::display(14));
     m_correctionLabel = new QLabel(this);
     m_correctionLabel->setObjectName(QStringLiteral("lblQuit"));
-    m_correctionLabel->setGeometry(m_strikeLabel.back()->geometry());
+    m_correctionLabel->setGeometry(markRect(RoundState::kSlots));
     m_correctionLabel->setAlignment(Qt::AlignCenter);
     m_correctionLabel->setFont(Fonts::display(16));
     m_correctionLabel->setCursor(Qt::PointingHandCursor);
@@ -67,9 +62,31 @@ StrikeStrip::StrikeStrip(Round& round, KeyFaces& faces, SidePanels& panels,
     m_correctionLabel->setPalette(white);
 }
 
+QRect StrikeStrip::markRect(int slot) const {
+    return {px(kMargin + kPitch * (slot - 1)), px(kMargin), px(kWidth), px(kHeight)};
+}
+
+int StrikeStrip::markAt(QPoint point) const {
+    for (int slot = 1; slot <= RoundState::kSlots; ++slot) {
+        if (markRect(slot).contains(point)) {
+            return slot;
+        }
+    }
+    return 0;
+}
+
+QString StrikeStrip::spokenMark(int slot) const {
+    return qs(spokenStrikeMark(m_round.state(), slot));
+}
+
+QString StrikeStrip::markTip(int slot) const {
+    return QString::fromUtf8(kStrikeTips[index(slot)]);
+}
+
 void StrikeStrip::paint(const QColor& lamp, const QColor& lines) {
-    for (RoundedLabel* label : m_strikeLabel) {
-        label->setColours(lamp, Qt::white);
+    if (lamp != m_lamp) {
+        m_lamp = lamp;
+        update(markRect(1).united(markRect(RoundState::kSlots)));
     }
     if (lines != m_lines) {
         m_lines = lines;
@@ -77,25 +94,92 @@ void StrikeStrip::paint(const QColor& lamp, const QColor& lines) {
     }
 }
 
-void StrikeStrip::paintEvent(QPaintEvent*) {
-    // The strip's rules above and below the marks.
-    QPainter p(this);
-    p.setPen(QPen(m_lines, 2));
-    p.drawLine(0, 1, width(), 1);
-    p.drawLine(0, height() - 1, width(), height() - 1);
-}
-
 void StrikeStrip::sync() {
     const RoundState& state = m_round.state();
+    QList<int> changed;
     for (int slot = 1; slot <= RoundState::kSlots; ++slot) {
-        strikeLabel(slot)->setText(qs(state.slot(slot)));
-        setSpokenName(strikeLabel(slot), qs(spokenStrikeMark(state, slot)));
+        const QString mark = qs(state.slot(slot));
+        if (mark != m_marks[index(slot)].text()) {
+            // Laid out once, when the mark is written: the lamps repaint
+            // it after every letter.
+            QStaticText& text = m_marks[index(slot)];
+            text.setText(mark);
+            text.setTextFormat(Qt::PlainText);
+            text.prepare(QTransform(), font());
+            update(markRect(slot));
+            changed << slot - 1;
+        }
     }
+    announceChildren(this, changed, QAccessible::NameChanged);
     setSpokenName(this, qs(spokenStrikes(state, m_round.figure())));
     m_correctionLabel->setText(qs(m_faces.correctionCaption()));
-    m_correctionLabel->setToolTip(qs(m_faces.correctionTooltip()));
+    if (const QString tip = qs(m_faces.correctionTooltip()); m_correctionLabel->toolTip() != tip) {
+        m_correctionLabel->setToolTip(tip);
+    }
     setAccessibleUnavailable(m_correctionLabel, !m_round.correctionOffered());
-    m_correctionLabel->raise();
+}
+
+const QPixmap& StrikeStrip::ground() {
+    const qreal ratio = devicePixelRatioF();
+    for (const Ground& kept : m_grounds) {
+        if (kept.lamp == m_lamp && kept.pixmap.devicePixelRatio() == ratio) {
+            return kept.pixmap;
+        }
+    }
+    // One for each colour the lamp takes in a game, and one more while the
+    // board's colour changes.
+    constexpr std::size_t kKeptGrounds = 4;
+    if (m_grounds.size() < kKeptGrounds) {
+        m_grounds.push_back({});
+        m_nextGround = m_grounds.size() - 1;
+    }
+    Ground& drawn = m_grounds[m_nextGround];
+    m_nextGround = (m_nextGround + 1) % kKeptGrounds;
+    const QSize size = markRect(1).size();
+    drawn.lamp = m_lamp;
+    drawn.pixmap = QPixmap(size * ratio);
+    drawn.pixmap.setDevicePixelRatio(ratio);
+    drawn.pixmap.fill(Qt::transparent);
+    QPainter painter(&drawn.pixmap);
+    paintRoundedGround(painter, QRect(QPoint(0, 0), size), m_lamp);
+    return drawn.pixmap;
+}
+
+void StrikeStrip::paintEvent(QPaintEvent* event) {
+    QPainter p(this);
+    // The strip's rules above and below the marks.
+    p.setPen(QPen(m_lines, 2));
+    p.drawLine(0, 1, width(), 1);
+    p.setPen(Qt::white);
+    p.setFont(font());
+    for (int slot = 1; slot <= RoundState::kSlots; ++slot) {
+        const QRect area = markRect(slot);
+        if (!event->region().intersects(area)) {
+            continue;
+        }
+        p.drawPixmap(area.topLeft(), ground());
+        QStaticText& mark = m_marks[index(slot)];
+        if (!mark.text().isEmpty()) {
+            const QSizeF size = mark.size();
+            p.drawStaticText(QPointF(area.left() + (area.width() - size.width()) / 2,
+                                     area.top() + (area.height() - size.height()) / 2),
+                             mark);
+        }
+    }
+}
+
+bool StrikeStrip::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        if (const int slot = markAt(help->pos())) {
+            QToolTip::showText(help->globalPos(), markTip(slot), this, markRect(slot));
+        } else {
+            QToolTip::hideText();
+            event->ignore();
+        }
+        return true;
+    }
+    return QWidget::event(event);
 }
 
 void StrikeStrip::takeBackStrike() {
