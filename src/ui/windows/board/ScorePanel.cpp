@@ -38,10 +38,12 @@ ScorePanel::ScorePanel(Scoring& scoring, const ScorePulse& pulse, PlayersTurn& t
     setAccessibleRole(m_scoreFrame, QAccessible::Grouping);
     m_scoreFrame->setAccessibleName(QStringLiteral("Puntos"));
     m_scoreFrame->setGeometry(0, 0, px(kWidth), px(kHeight));
-    auto* caption = new RoundedLabel(m_scoreFrame, QStringLiteral(" Puntos "));
-    caption->setGeometry(0, px(15), px(kWidth), px(kCaptionHeight));
-    caption->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    caption->setFont(Fonts::display(7));
+    // The caption is the frame's own text, drawn into its kept looks with
+    // the ground: the lamp recolours the frame after every letter.
+    m_scoreFrame->setText(QStringLiteral(" Puntos "));
+    m_scoreFrame->setContentsMargins(0, px(15), 0, 0);
+    m_scoreFrame->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    m_scoreFrame->setFont(Fonts::display(7));
     m_scoreLabel = new RoundedLabel(m_scoreFrame);
     m_scoreLabel->setGeometry(0, px(kCaptionHeight), px(kWidth), px(kHeight - 240));
     m_scoreLabel->setAlignment(Qt::AlignCenter);
