@@ -34,9 +34,11 @@ ThemeBox::ThemeBox(const Round& round, const Scoring& scoring, SidePanels& panel
     setObjectName(QStringLiteral("shpTheme"));
     setAccessibleRole(this, QAccessible::Grouping);
     setAccessibleName(QStringLiteral("Tema"));
-    m_captionLabel = new RoundedLabel(this, QStringLiteral("Tema"));
-    m_captionLabel->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    m_captionLabel->setFont(Fonts::display(7));
+    // The caption is the box's own text, kept with its ground in the box's
+    // looks: the lamp recolours the box after every letter.
+    setText(QStringLiteral("Tema"));
+    setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    setFont(Fonts::display(7));
     m_themeLabel = new RoundedLabel(this);
     m_themeLabel->setAlignment(Qt::AlignCenter);
     m_themeLabel->setFont(Fonts::display(kThemePoints));
@@ -66,7 +68,6 @@ void ThemeBox::sync() {
     const int width = compact ? kCompactWidth : kWidth;
     setGeometry(px(compact ? kCompactLeft : kLeft), px(compact ? kCompactTop : kTop), px(width),
                 px(kHeight));
-    m_captionLabel->setGeometry(0, 0, px(width), px(kHeight));
     m_themeLabel->setGeometry(px(kLabelMargin), px(kLabelTop), px(width - 2 * kLabelMargin),
                               px(kHeight - kLabelTop - 30));
     const QString theme = qs(m_round.themeLabel());

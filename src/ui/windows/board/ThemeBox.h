@@ -34,7 +34,6 @@ private:
     SidePanels& m_panels;
     TipModel& m_tip;
     std::function<void()> m_changed;
-    QLabel* m_captionLabel = nullptr;
     QLabel* m_themeLabel = nullptr;
     int m_fittedWidth = 0;
 };
