@@ -25,6 +25,8 @@ namespace fs = std::filesystem;
 
 // Far beyond any account the game can reach, and still exact in a double.
 constexpr double kMostPoints = 1e15;
+// A theme's name is a short line; a longer one is no name the game wrote.
+constexpr std::size_t kMostNameBytes = 1024;
 
 constexpr std::string_view kNormalPoints = "normal points";
 constexpr std::string_view kSurvivalPoints = "survival points";
@@ -189,7 +191,7 @@ bool takeLine(std::string_view key, std::string_view value, Progress& p,
     }
     if (key == kLastOwnTheme) {
         p.lastOwnTheme = value;
-        return true;
+        return value.size() <= kMostNameBytes;
     }
     if (key == kNormalPoints || key == kSurvivalPoints) {
         const auto number = points(value);
@@ -260,7 +262,7 @@ std::string progressBytes(const Progress& p) {
     if (p.tourPosition != 0) {
         put(kTourThemes, themeListText(p.tourCopy));
     }
-    if (!p.lastOwnTheme.empty()) {
+    if (!p.lastOwnTheme.empty() && p.lastOwnTheme.size() <= kMostNameBytes) {
         put(kLastOwnTheme, oneLine(p.lastOwnTheme));
     }
     // The newest phrases that fit; the history itself runs without end.
