@@ -36,6 +36,9 @@ struct SessionSlot {
     // The page of the options window the user looked at last, shown first
     // when the window opens again: 0 PERSONAL, 1 VISUAL, 2 FUNCIONAL, 3 LIBRE!.
     int optionsPage = 0;
+    // Kept for the themes of the player's own: read from the progress file
+    // and written back as it stands.
+    std::string lastOwnTheme;
     // Kept in memory only: a restart of the board or a change of user leaves
     // them, the end of the program forgets them.
     UserStats stats;
@@ -63,6 +66,13 @@ struct SharedState {
     // The player said No to copying an older installation's configuration:
     // the menu does not ask again until the program ends.
     bool importDeclined = false;
+    // The next start reads the current user's progress file rather than
+    // starting them afresh: at program start, and when a deleted session
+    // hands back to the main one.
+    bool progressToRead = true;
+    // What the player is to be told of a progress file that could not be
+    // read; the main menu says it once.
+    std::string progressNotice;
 
     // --- live values of the current user ----------------------------------------
     double normalPoints = 0;

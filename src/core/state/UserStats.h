@@ -17,7 +17,14 @@ public:
         // no game has been won yet.
         std::int16_t best = 0;
         std::int16_t worst = 0;
+        bool operator==(const Counters&) const = default;
     };
+
+    UserStats() = default;
+    // The counters as an earlier run of the game left them.
+    UserStats(const Counters& normal, const Counters& survival)
+        : m_normal(normal), m_survival(survival) {}
+    bool operator==(const UserStats&) const = default;
 
     const Counters& normal() const { return m_normal; }
     const Counters& survival() const { return m_survival; }

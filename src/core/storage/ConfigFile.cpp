@@ -6,6 +6,7 @@
 #include "ports/Random.h"
 #include "state/SharedState.h"
 #include "storage/FileReplace.h"
+#include "storage/ProgressFile.h"
 #include "words/Text.h"
 #include "words/ThemeCatalogue.h"
 
@@ -466,10 +467,23 @@ bool reportSave(SharedState& shared, Dialogs& dialogs, const std::string& path, 
 }
 
 bool saveSettings(SharedState& shared, Dialogs& dialogs) {
-    return reportSave(shared, dialogs, shared.currentSession().filePath, writeSettings(shared));
+    const bool saved =
+        reportSave(shared, dialogs, shared.currentSession().filePath, writeOptions(shared));
+    // A folder that refuses both files is told of once, not twice.
+    if (saved) {
+        saveProgress(shared, dialogs);
+    } else {
+        writeProgress(shared);
+    }
+    return saved;
 }
 
 bool writeSettings(SharedState& shared) {
+    writeProgress(shared);
+    return writeOptions(shared);
+}
+
+bool writeOptions(SharedState& shared) {
     Settings& s = shared.settings;
     if (s.userName.empty()) {
         s.userName = kDefaultName;

@@ -104,12 +104,15 @@ void applyLineValues(SharedState& shared);
 void loadSessionSettings(SharedState& shared, Random& random);
 // Whether the options in memory were read from the current session's file.
 bool sessionSettingsLoaded(const SharedState& shared);
-// Writes the live options to the current session's file. A failure leaves
-// the old file whole and tells the player (reportSave).
+// Writes the live options to the current session's file, and the user's
+// progress beside it (saveProgress). A failure leaves the old file whole and
+// tells the player (reportSave).
 bool saveSettings(SharedState& shared, Dialogs& dialogs);
 // The same save, telling nobody: for a window that tells the player of a
-// failure in its own words.
+// failure of the options in its own words.
 bool writeSettings(SharedState& shared);
+// The options alone.
+bool writeOptions(SharedState& shared);
 // Hands back `saved`, telling the player first when a save of the file at
 // `path` failed and they have not been told of it yet.
 bool reportSave(SharedState& shared, Dialogs& dialogs, const std::string& path, bool saved);

@@ -216,7 +216,7 @@ bool replaceFile(const fs::path& file, std::string_view bytes, SaveWatcher* watc
     return false;
 }
 
-bool keepCopyBeside(const fs::path& file) {
+bool keepCopyBeside(const fs::path& file, fs::path* kept) {
     for (int n = 1; n <= kMostCopies; ++n) {
         fs::path copy = file;
         copy += n == 1 ? std::string(".bak") : ".bak" + std::to_string(n);
@@ -226,11 +226,17 @@ bool keepCopyBeside(const fs::path& file) {
             // The same bytes kept by an earlier save that then failed: no
             // need for another copy of them.
             if (fs::is_regular_file(status) && sameBytes(file, copy)) {
+                if (kept) {
+                    *kept = copy;
+                }
                 return true;
             }
             continue;
         }
         if (fs::copy_file(file, copy, fs::copy_options::none, error)) {
+            if (kept) {
+                *kept = copy;
+            }
             return true;
         }
         // Half a copy would pass for a whole one next time.

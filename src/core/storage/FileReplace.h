@@ -43,8 +43,9 @@ bool replaceFile(const std::filesystem::path& file, std::string_view bytes,
 
 // Copies the file beside itself before the game writes over something it
 // could not read: "<name>.bak", or "<name>.bak2", "<name>.bak3"... when an
-// earlier copy holds something else. False if no copy could be made.
-bool keepCopyBeside(const std::filesystem::path& file);
+// earlier copy holds something else. False if no copy could be made; else
+// `kept`, when given, names the copy that holds the bytes.
+bool keepCopyBeside(const std::filesystem::path& file, std::filesystem::path* kept = nullptr);
 
 // Removes what saves cut short by a crash or a kill left in the folder: the
 // game's own temporary files whose process is gone, or that are too old to

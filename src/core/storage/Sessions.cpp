@@ -6,6 +6,7 @@
 #include "state/SharedState.h"
 #include "storage/ConfigFile.h"
 #include "storage/FileReplace.h"
+#include "storage/ProgressFile.h"
 #include "words/Text.h"
 
 #include <filesystem>
@@ -24,6 +25,10 @@ std::string defaultName(int slot) {
 // Only a small text file can be a configuration file. Pictures, programs,
 // folders and anything unreadable are passed over without being touched.
 bool looksLikeConfigFile(const std::string& path) {
+    // Nor is a user's progress, though it is small text too.
+    if (isProgressFileName(path)) {
+        return false;
+    }
     const auto text = readConfigText(path);
     return text && text->whole;
 }
@@ -84,6 +89,8 @@ void Sessions::fillNewSlot(const std::string& path, const std::string& name) {
     s.filePath = path;
     s.tour = "0";
     s.displayName = name;
+    // A user who played here before finds what they had left.
+    fillSlotProgress(m_shared.current(), readUserProgress(m_shared, m_shared.current()));
 }
 
 bool Sessions::add(const std::string& typedName, bool manyErrors, std::string& shownName) {
@@ -191,6 +198,9 @@ bool Sessions::deleteCurrent() {
     // Everything the user kept goes with the slot, so a later slot moves down whole.
     m_shared.sessions[static_cast<std::size_t>(last)] = SessionSlot{};
     m_shared.currentSlot = 0;
+    // The restart that follows starts the main user afresh in memory; what
+    // they have kept on disk is theirs to come back to.
+    m_shared.progressToRead = true;
     loadCurrent();
     return true;
 }

@@ -23,7 +23,10 @@ namespace {
 namespace fs = std::filesystem;
 
 TEST(StartScreen, TheLineRunsSixtyFiveTicksThenShowsTheMenuOrOffersTheFont) {
+    // Each start reads or writes the user's progress in the data folder.
+    TempFolder folder("quillora-start");
     SharedState shared;
+    shared.dataFolder = folder.path();
     StartScreenModel withFont(shared, true);
     StartScreenModel withoutFont(shared, false);
     for (int i = 0; i < 64; ++i) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/ConfigFile.h"
 #include "state/SharedState.h"
+#include "storage/ProgressFile.h"
 
 #include "support/Fakes.h"
 #include "support/RefusedWrites.h"
@@ -14,6 +15,7 @@
 #include <iterator>
 #include <limits>
 #include <map>
+#include <set>
 #include <tuple>
 
 namespace quillora {
@@ -287,11 +289,11 @@ TEST_F(ConfigFileTest, SavingCreatesTheFolderAndLeavesNoTemporaryFile) {
     shared.currentSession().filePath = nested.string();
     ASSERT_TRUE(saveSettings(shared, dialogs));
     ASSERT_TRUE(saveSettings(shared, dialogs));
-    std::vector<fs::path> entries;
+    std::set<fs::path> entries;
     for (const auto& entry : fs::directory_iterator(nested.parent_path())) {
-        entries.push_back(entry.path());
+        entries.insert(entry.path());
     }
-    EXPECT_EQ(entries, std::vector<fs::path>{nested});
+    EXPECT_EQ(entries, (std::set<fs::path>{nested, progressFilePath(nested)}));
 
     writeRaw("not a folder");
     shared.currentSession().filePath = (file() / "QuilloraVS5.txt").string();

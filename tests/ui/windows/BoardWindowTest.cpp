@@ -167,6 +167,24 @@ TEST_F(BoardWindowTest, AWinCountsItsPointsUpAndSavesTheOptions) {
     EXPECT_EQ(saved->size(), 20U);
 }
 
+TEST_F(BoardWindowTest, AGameLostInOneRunShowsItsPointsAtTheNextStart) {
+    startVaca();
+    type("bdefghik");
+    ASSERT_EQ(window->controls().statusLabel->text(), QStringLiteral("¡MUERTO!"));
+    window.reset();
+
+    // The program starts again on the same data folder.
+    SharedState next;
+    next.dataFolder = folder;
+    loadAtStart(next);
+    BoardWindow board(next, dialogs, announcer, random, sounds, desktop.lookUp);
+    board.show();
+    EXPECT_EQ(board.controls().scorePanel->scoreLabel()->text(), "-1000");
+    EXPECT_EQ(next.current().stats.normal().games, 1);
+    EXPECT_EQ(next.history, "VACA");
+    EXPECT_TRUE(dialogs.shown.empty());
+}
+
 TEST_F(BoardWindowTest, TheBoardHandsItsPagesAndItsAboutBoxToTheDesktop) {
     startVaca();
     type("vac");

@@ -5,6 +5,7 @@
 #include "support/AccessibleTree.h"
 #include "support/Fakes.h"
 #include "support/Keys.h"
+#include "support/TempFolder.h"
 #include "windows/QtColour.h"
 
 #include <QLabel>
@@ -17,7 +18,10 @@ namespace quillora {
 namespace {
 
 TEST(StartScreenWindow, TheMenuComesAfterTheLineOrTheNoticeStaysAndItsButtonsWork) {
+    // Each start reads or writes the user's progress in the data folder.
+    TempFolder folder("quillora-start");
     SharedState shared;
+    shared.dataFolder = folder.path();
     ScriptedDialogs dialogs;
     FakeDesktop desktop(dialogs);
     int menus = 0, restarts = 0;

@@ -9,6 +9,7 @@
 #include "state/SharedState.h"
 #include "storage/ConfigFile.h"
 #include "storage/ConfigImport.h"
+#include "storage/ProgressFile.h"
 
 namespace quillora {
 
@@ -35,6 +36,9 @@ void MainMenuModel::load() {
 }
 
 void MainMenuModel::offerOldConfig() {
+    // A progress file that could not be read is told of here, once the
+    // menu stands on screen.
+    tellProgressNotice(m_shared, m_dialogs);
     // The copied file brings its own game colour, shown at once when it is
     // the current session's file.
     if (quillora::offerOldConfig(m_shared, m_dialogs) == ImportOutcome::Copied) {

@@ -50,8 +50,9 @@ public:
     // Every showing: the game colour from the session's file, the tiles'
     // colours, the lock, and the welcome legend.
     void load();
-    // The offer to copy an older installation's configuration. The window
-    // makes it once it is on screen, so the question stands over the menu.
+    // The offer to copy an older installation's configuration, after the
+    // word on a progress file that could not be read. The window makes it
+    // once it is on screen, so the question stands over the menu.
     void offerOldConfig();
 
     // --- the mouse ---------------------------------------------------------------

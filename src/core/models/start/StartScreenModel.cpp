@@ -6,6 +6,7 @@
 #include "state/SharedState.h"
 #include "storage/ConfigFile.h"
 #include "storage/FileReplace.h"
+#include "storage/ProgressFile.h"
 #include "storage/Sessions.h"
 
 namespace quillora {
@@ -18,7 +19,8 @@ void loadAtStart(SharedState& shared) {
     Sessions::initialise(shared);
     shared.palette = Palette{};
     shared.settings.autoPhrase = false;
-    if (shared.skipStartDefaults) {
+    const bool keepValues = shared.skipStartDefaults;
+    if (keepValues) {
         shared.skipStartDefaults = false;
     } else {
         // Every user's options window opens on its first page again.
@@ -35,6 +37,18 @@ void loadAtStart(SharedState& shared) {
         }
     }
     shared.correctionsLeft = leadingCount(shared.currentSession().corrections);
+    if (keepValues) {
+        return;
+    }
+    if (shared.progressToRead) {
+        // The user comes back to what they had.
+        shared.progressToRead = false;
+        takeProgress(shared, readUserProgress(shared, shared.current()));
+    } else {
+        // "Reiniciar": what it has just cleared is cleared on disk too, so
+        // the next run does not bring it back.
+        writeProgress(shared);
+    }
 }
 
 } // namespace quillora
