@@ -3,10 +3,31 @@
 #include "round/ThemeSelection.h"
 
 #include "state/SharedState.h"
+#include "words/ThemeCatalogue.h"
 
 #include <algorithm>
 
 namespace quillora {
+
+int themeCount(const SharedState& shared) {
+    return ThemeCatalogue::kThemes + static_cast<int>(shared.ownThemes.size());
+}
+
+std::string themeNameOf(const SharedState& shared, int theme) {
+    if (theme > ThemeCatalogue::kThemes && theme <= themeCount(shared)) {
+        return shared.ownThemes[static_cast<std::size_t>(theme - ThemeCatalogue::kThemes - 1)].name;
+    }
+    return std::string(ThemeCatalogue::storedThemeName(theme));
+}
+
+int ownThemeNumber(const SharedState& shared, std::string_view name) {
+    for (std::size_t index = 0; index < shared.ownThemes.size(); ++index) {
+        if (shared.ownThemes[index].name == name) {
+            return ThemeCatalogue::kThemes + 1 + static_cast<int>(index);
+        }
+    }
+    return 0;
+}
 
 int markedThemes(const SessionSlot& slot) {
     return static_cast<int>(

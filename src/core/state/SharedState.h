@@ -7,16 +7,19 @@
 #include "state/Settings.h"
 #include "state/UserSession.h"
 #include "state/UserStats.h"
+#include "words/OwnThemes.h"
 
 #include <array>
 #include <filesystem>
 #include <set>
 #include <string>
+#include <vector>
 
 namespace quillora {
 
 inline constexpr int kSessionSlots = 4;
-inline constexpr int kThemeFlags = 51; // themes 0..50
+// Themes 0..50 of the catalogue, then the player's own.
+inline constexpr int kThemeFlags = 51 + kMaxOwnThemes;
 inline constexpr int kMaxPlayers = 9;
 inline constexpr const char* kMainConfigName = "QuilloraVS5.txt";
 
@@ -58,6 +61,8 @@ struct SharedState {
     Palette palette;
     // Where the configuration files live.
     std::filesystem::path dataFolder;
+    // The themes of the player's own, read from the data folder at the start.
+    std::vector<OwnTheme> ownThemes;
     // Files whose last save failed and the player has been told so.
     std::set<std::string> saveFailuresTold;
     // The player said No to copying an older installation's configuration:

@@ -97,7 +97,9 @@ std::vector<std::string> linesOf(const Settings& s, bool keepAutomaticPhrase) {
         const bool on = f.line == kAutoPhraseLine ? keepAutomaticPhrase : s.*f.flag;
         at(f.line) = on ? "1" : "0";
     }
-    at(kThemeLine) = std::to_string(s.theme);
+    // The file moves between systems that know only the fifty built-in
+    // themes: a theme of one's own never reaches it.
+    at(kThemeLine) = std::to_string(s.theme <= ThemeCatalogue::kThemes ? s.theme : 1);
     at(kCountdownLine) = std::to_string(s.countdown == 1 || s.countdown == 2 ? s.countdown : 0);
     at(kUserNameLine) = s.userName;
     at(kGameColourLine) = std::to_string(s.gameColour.packed());
@@ -477,7 +479,15 @@ bool writeSettings(SharedState& shared) {
     // The automatic phrase comes back next time only for a chosen theme,
     // and never in the middle of a tour.
     const bool keepAutomaticPhrase = shared.tourPosition == 0 && s.autoPhrase && shared.themeChosen;
-    const std::vector<std::string> lines = linesOf(s, keepAutomaticPhrase);
+    std::vector<std::string> lines = linesOf(s, keepAutomaticPhrase);
+    if (s.theme > ThemeCatalogue::kThemes) {
+        // While a theme of one's own is played the file keeps the built-in
+        // theme it held.
+        const double kept = number(shared, kThemeLine);
+        if (kept >= 1 && kept <= ThemeCatalogue::kThemes) {
+            lines[static_cast<std::size_t>(kThemeLine - 1)] = line(shared, kThemeLine);
+        }
+    }
     std::copy(lines.begin(), lines.end(), shared.configLines.begin());
     return writeConfigLines(shared.currentSession().filePath, lines);
 }
