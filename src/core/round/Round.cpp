@@ -3,9 +3,9 @@
 #include "round/Round.h"
 
 #include "ports/Dialogs.h"
+#include "round/ThemeSelection.h"
 #include "state/SharedState.h"
 #include "words/Text.h"
-#include "round/ThemeSelection.h"
 
 namespace quillora {
 

@@ -73,7 +73,7 @@ char32_t keyboardLetter(char32_t c) {
         return U'Ñ';
     }
     static constexpr std::u32string_view kAccented[] = {U"ÁÀÂÄáàâä", U"ÉÈÊËéèêë", U"ÍÌÎÏíìîï",
-                                                         U"ÓÒÔÖóòôö", U"ÚÙÛÜúùûü"};
+                                                        U"ÓÒÔÖóòôö", U"ÚÙÛÜúùûü"};
     static constexpr char32_t kPlain[] = {U'A', U'E', U'I', U'O', U'U'};
     for (std::size_t v = 0; v < std::size(kPlain); ++v) {
         if (kAccented[v].find(c) != std::u32string_view::npos) {
@@ -178,8 +178,8 @@ OwnThemeFile readOwnTheme(std::string_view fileName, std::string_view bytes) {
                 return result;
             }
             std::u32string name = text;
-            std::replace_if(name.begin(), name.end(),
-                            [](char32_t c) { return c < 0x20 || c == 0x7F; }, U' ');
+            std::replace_if(
+                name.begin(), name.end(), [](char32_t c) { return c < 0x20 || c == 0x7F; }, U' ');
             result.theme.name = toUtf8(name);
             continue;
         }
@@ -255,8 +255,8 @@ OwnThemeSet loadOwnThemes(const std::filesystem::path& folder,
     for (const std::filesystem::path& path : files) {
         const std::string fileName = path.filename().string();
         if (set.themes.size() >= static_cast<std::size_t>(kMaxOwnThemes)) {
-            set.refusals.push_back(
-                fileRefusal(fileName, "ya hay 100 temas propios; este y los siguientes no se usan."));
+            set.refusals.push_back(fileRefusal(
+                fileName, "ya hay 100 temas propios; este y los siguientes no se usan."));
             break;
         }
         OwnThemeFile read = readOwnThemeFile(path);
