@@ -63,14 +63,6 @@ public:
         centre(*screen);
         screen->show();
         replace(std::move(screen));
-        // What was left out of the player's own themes is told once, over
-        // the first start screen, and not again after a restart.
-        if (!m_ownThemeRefusals.empty()) {
-            later([this, refusals = std::move(m_ownThemeRefusals)] {
-                m_dialogs.information(quillora::ownThemesNotice(refusals));
-            });
-            m_ownThemeRefusals.clear();
-        }
     }
 
 private:
@@ -88,6 +80,14 @@ private:
         }
         menu->show();
         replace(std::move(menu));
+        // What was left out of the player's own themes is told once, over
+        // the first menu: the start screen before it stays above every box.
+        if (!m_ownThemeRefusals.empty()) {
+            later([this, refusals = std::move(m_ownThemeRefusals)] {
+                m_dialogs.information(quillora::ownThemesNotice(refusals));
+            });
+            m_ownThemeRefusals.clear();
+        }
     }
 
     std::unique_ptr<quillora::MainMenu> newMenu() {

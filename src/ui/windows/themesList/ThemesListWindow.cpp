@@ -159,6 +159,8 @@ void ThemesListWindow::addThemes() {
     for (const QString& file : files) {
         if (m_model.addThemeFile(file.toStdString())) {
             m_themesList->addItem(QString::fromStdString(m_model.names().back()));
+            // The new theme is at the foot of a long list: bring it into view.
+            m_themesList->scrollToBottom();
         }
     }
     sync();
