@@ -21,12 +21,7 @@ std::string themeNameOf(const SharedState& shared, int theme) {
 }
 
 int ownThemeNumber(const SharedState& shared, std::string_view name) {
-    for (std::size_t index = 0; index < shared.ownThemes.size(); ++index) {
-        if (shared.ownThemes[index].name == name) {
-            return ThemeCatalogue::kThemes + 1 + static_cast<int>(index);
-        }
-    }
-    return 0;
+    return ownThemeNumber(shared.ownThemes, name);
 }
 
 std::vector<std::string> takenThemeNames(const SharedState& shared) {

@@ -34,6 +34,11 @@ struct SessionSlot {
     // The theme names of the last two games drawn from the catalogue.
     std::string lastThemeName;
     std::string previousThemeName;
+    // The name of the theme of one's own the user plays alone, empty while
+    // a built-in theme is the theme: the configuration file only holds
+    // numbers 1 to 50, so this stands in for its theme line while the
+    // program runs, and is what keeps the choice from one run to the next.
+    std::string ownThemeName;
     // "Turno libre".
     bool freeTurn = false;
     // The page of the options window the user looked at last, shown first

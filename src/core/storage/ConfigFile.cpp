@@ -435,6 +435,11 @@ void applyLineValues(SharedState& shared) {
     } else if (theme == 0) {
         s.theme = 1;
     }
+    // A theme of one's own chosen last stands in for the built-in one the
+    // file keeps, as long as its file is still there.
+    if (const int own = ownThemeNumber(shared.ownThemes, shared.current().ownThemeName); own > 0) {
+        s.theme = own;
+    }
     s.gameColour = colourFromLine(line(shared, kGameColourLine), shared.palette.defaultBlue);
     shared.palette.gameColour = s.gameColour;
     if (shared.themeChosen && s.theme >= 0 && s.theme < kThemeFlags) {
@@ -480,6 +485,11 @@ bool writeSettings(SharedState& shared) {
     // and never in the middle of a tour.
     const bool keepAutomaticPhrase = shared.tourPosition == 0 && s.autoPhrase && shared.themeChosen;
     std::vector<std::string> lines = linesOf(s, keepAutomaticPhrase);
+    const auto own = static_cast<std::size_t>(s.theme - ThemeCatalogue::kThemes - 1);
+    shared.current().ownThemeName =
+        s.theme > ThemeCatalogue::kThemes && own < shared.ownThemes.size()
+            ? shared.ownThemes[own].name
+            : std::string();
     if (s.theme > ThemeCatalogue::kThemes) {
         // While a theme of one's own is played the file keeps the built-in
         // theme it held.

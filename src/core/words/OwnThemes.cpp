@@ -4,6 +4,7 @@
 
 #include "round/PhraseBoard.h"
 #include "words/Text.h"
+#include "words/ThemeCatalogue.h"
 
 #include <algorithm>
 #include <fstream>
@@ -208,6 +209,12 @@ OwnThemeFile readOwnTheme(std::string_view fileName, std::string_view bytes) {
 OwnThemeFile readOwnThemeFile(const std::filesystem::path& file) {
     const std::string fileName = file.filename().string();
     std::error_code error;
+    // A pipe or a device would hold the reader up: only plain files are read.
+    if (!std::filesystem::is_regular_file(file, error)) {
+        OwnThemeFile result;
+        result.refusals.push_back(fileRefusal(fileName, "no se pudo leer el archivo."));
+        return result;
+    }
     const auto size = std::filesystem::file_size(file, error);
     if (!error && size > kMaxOwnThemeBytes) {
         OwnThemeFile result;
@@ -226,6 +233,15 @@ OwnThemeFile readOwnThemeFile(const std::filesystem::path& file) {
     }
     bytes.resize(static_cast<std::size_t>(in.gcount()));
     return readOwnTheme(fileName, bytes);
+}
+
+int ownThemeNumber(const std::vector<OwnTheme>& themes, std::string_view name) {
+    for (std::size_t index = 0; index < themes.size(); ++index) {
+        if (!name.empty() && themes[index].name == name) {
+            return ThemeCatalogue::kThemes + 1 + static_cast<int>(index);
+        }
+    }
+    return 0;
 }
 
 OwnThemeSet loadOwnThemes(const std::filesystem::path& folder,

@@ -60,4 +60,7 @@ OwnThemeFile readOwnThemeFile(const std::filesystem::path& file);
 OwnThemeSet loadOwnThemes(const std::filesystem::path& folder,
                           const std::vector<std::string>& takenNames);
 
+// The number of the theme of that name (51 on), or 0 when none has it.
+int ownThemeNumber(const std::vector<OwnTheme>& themes, std::string_view name);
+
 } // namespace quillora

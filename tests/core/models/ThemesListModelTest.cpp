@@ -130,6 +130,10 @@ TEST_F(ListModelTest, OwnThemesFollowTheFiftyAndAreAddedWithoutOverwriting) {
     EXPECT_EQ(shared.settings.theme, 51);
     EXPECT_EQ(model.round().phraseChoice().drawnPhrase(), "SOL Y LUNA");
     EXPECT_EQ(savedLine(11), "12") << "the file keeps the built-in theme it had";
+    // The board that opens next reads the file, and plays the own theme on.
+    loadSessionSettings(shared, random);
+    EXPECT_EQ(shared.settings.theme, 51);
+    EXPECT_EQ(shared.current().ownThemeName, "Mis palabras");
 
     // "Añadir temas…" copies a checked file in, telling what it left out.
     const auto outside = temp.path() / "Verbos.txt";

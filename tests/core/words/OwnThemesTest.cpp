@@ -9,6 +9,7 @@
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <fstream>
 #include <set>
@@ -116,6 +117,11 @@ TEST(OwnThemesTest, ReadsTheFolderInFileNameOrderOnceForEachName) {
     EXPECT_EQ(set.refusals, (std::vector<std::string>{"c.txt: ya hay un tema llamado «Frutas».",
                                                       "d.txt: ya hay un tema llamado «ANIMAL».",
                                                       "f.txt: el archivo pasa de 256 KB."}));
+
+    // A pipe chosen to be added would block a reader that opened it.
+    ASSERT_EQ(mkfifo((folder.path() / "tubo.txt").c_str(), 0600), 0);
+    EXPECT_EQ(readOwnThemeFile(folder.path() / "tubo.txt").refusals,
+              (std::vector<std::string>{"tubo.txt: no se pudo leer el archivo."}));
 
     const OwnThemeSet none = loadOwnThemes(folder.path() / "no-existe", {});
     EXPECT_TRUE(none.themes.empty());
