@@ -11,7 +11,7 @@
 # those, so two shells can share the machine's cores.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-targets=(${TARGETS:-config_reader dropped_file user_file_name friend_phrase libre_values progress_reader})
+targets=(${TARGETS:-config_reader dropped_file user_file_name friend_phrase libre_values progress_reader theme_file})
 runs="${RUNS:-1000000}"
 build_dir="${QUILLORA_FUZZ_BUILD:-build-fuzz}"
 lock="${QUILLORA_BUILD_LOCK:-/tmp/quillora-build.lock}"

@@ -15,6 +15,7 @@
 #include "platform/ScreenReaderAnnouncer.h"
 #include "platform/SystemNetworkCheck.h"
 #include "ports/ClockRandom.h"
+#include "round/ThemeSelection.h"
 #include "state/SharedState.h"
 #include "windows/board/BoardWindow.h"
 #include "windows/menu/MainMenu.h"
@@ -49,6 +50,7 @@ public:
             QStringLiteral("/quillora-vesta");
         m_shared.dataFolder = QDir(folder).absolutePath().toStdString();
         m_shared.settings.userName = "Quillora VS";
+        m_ownThemeRefusals = quillora::readOwnThemes(m_shared);
     }
 
     // The start screen, at program start and after every restart.
@@ -78,6 +80,14 @@ private:
         }
         menu->show();
         replace(std::move(menu));
+        // What was left out of the player's own themes is told once, over
+        // the first menu: the start screen before it stays above every box.
+        if (!m_ownThemeRefusals.empty()) {
+            later([this, refusals = std::move(m_ownThemeRefusals)] {
+                m_dialogs.information(quillora::ownThemesNotice(refusals));
+            });
+            m_ownThemeRefusals.clear();
+        }
     }
 
     std::unique_ptr<quillora::MainMenu> newMenu() {
@@ -175,6 +185,7 @@ private:
     std::unique_ptr<QWidget> m_window;
     // What the window system's frame adds to a window of the game.
     QSize m_frame;
+    std::vector<std::string> m_ownThemeRefusals;
 };
 
 } // namespace

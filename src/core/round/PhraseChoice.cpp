@@ -7,11 +7,14 @@
 #include "round/ThemeSelection.h"
 #include "state/SharedState.h"
 
+#include <algorithm>
+
 namespace quillora {
 
 PhraseChoice::PhraseChoice(PhraseChoiceGame& game, SharedState& shared, Random& random,
                            RoundEvents& events)
     : m_game(game), m_shared(shared), m_random(random), m_events(events) {
+    m_catalogue.setOwnThemes(&m_shared.ownThemes);
     m_catalogue.initDrawRanges();
 }
 
@@ -24,17 +27,26 @@ void PhraseChoice::prepareThemeWindow() {
 }
 
 int PhraseChoice::drawPhraseNumber() {
-    int number = m_random.drawHalfRange(m_catalogue.phraseDrawRange());
-    while (number == m_shared.previousPhraseNumber) {
-        number = m_random.drawHalfRange(m_catalogue.phraseDrawRange());
+    const int range = m_catalogue.phraseDrawRange(m_theme);
+    int number = m_random.drawHalfRange(range);
+    // A theme of one phrase has nothing else to give.
+    while (number == m_shared.previousPhraseNumber && range > 2) {
+        number = m_random.drawHalfRange(range);
     }
     return number;
 }
 
 void PhraseChoice::drawThemeAndPhrase() {
     m_catalogue.initDrawRanges();
+    const auto& selected = m_shared.current().selectedThemes;
+    const auto themes = static_cast<std::size_t>(m_catalogue.themeCount());
+    // Marks left on themes of one's own whose files have gone since would
+    // have the draw below look for ever.
+    if (m_randomTheme && std::find(selected.begin() + 1, selected.begin() + themes + 1, true) ==
+                             selected.begin() + themes + 1) {
+        m_randomTheme = false;
+    }
     if (m_randomTheme) {
-        const auto& selected = m_shared.current().selectedThemes;
         m_theme = m_random.drawHalfRange(m_catalogue.themeDrawRange());
         // The draw gives 0..49; a 0 drawn again stands for the fiftieth theme.
         while (!selected[static_cast<std::size_t>(m_theme)]) {
@@ -45,6 +57,9 @@ void PhraseChoice::drawThemeAndPhrase() {
         }
     } else {
         m_theme = m_shared.settings.theme;
+        if (m_theme > m_catalogue.themeCount()) {
+            m_theme = 1;
+        }
     }
     m_phraseNumber = drawPhraseNumber();
     m_catalogue.loadPhrases(m_theme);
@@ -81,6 +96,12 @@ void PhraseChoice::layAutomaticPhrase() {
 }
 
 void PhraseChoice::drawTourPhrase() {
+    m_catalogue.initDrawRanges();
+    // A tour that stood on a theme of one's own since taken away goes on
+    // from the first.
+    if (m_shared.tourPosition > m_catalogue.themeCount()) {
+        m_shared.tourPosition = 1;
+    }
     m_catalogue.loadThemeNames();
     m_themeName = m_catalogue.themeName(m_shared.tourPosition);
     m_catalogue.initDrawRanges();

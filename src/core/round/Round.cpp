@@ -3,9 +3,9 @@
 #include "round/Round.h"
 
 #include "ports/Dialogs.h"
+#include "round/ThemeSelection.h"
 #include "state/SharedState.h"
 #include "words/Text.h"
-#include "words/ThemeCatalogue.h"
 
 namespace quillora {
 
@@ -290,7 +290,7 @@ void Round::endRound(const std::string& caption) {
     m_state.over = true;
     // Every game ends under its theme's own name; a friend's phrase has
     // none, and shows the catalogue's "no theme".
-    m_themeLabel = ThemeCatalogue::storedThemeName(m_gameTheme);
+    m_themeLabel = themeNameOf(m_shared, m_gameTheme);
     m_events.roundEnded(toUtf8(m_board.answerText()));
     m_choice.moveTourOn();
     m_lookUpVisible = true;

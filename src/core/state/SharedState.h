@@ -7,16 +7,19 @@
 #include "state/Settings.h"
 #include "state/UserSession.h"
 #include "state/UserStats.h"
+#include "words/OwnThemes.h"
 
 #include <array>
 #include <filesystem>
 #include <set>
 #include <string>
+#include <vector>
 
 namespace quillora {
 
 inline constexpr int kSessionSlots = 4;
-inline constexpr int kThemeFlags = 51; // themes 0..50
+// Themes 0..50 of the catalogue, then the player's own.
+inline constexpr int kThemeFlags = 51 + kMaxOwnThemes;
 inline constexpr int kMaxPlayers = 9;
 inline constexpr const char* kMainConfigName = "QuilloraVS5.txt";
 
@@ -31,6 +34,11 @@ struct SessionSlot {
     // The theme names of the last two games drawn from the catalogue.
     std::string lastThemeName;
     std::string previousThemeName;
+    // The name of the theme of one's own the user plays alone, empty while
+    // a built-in theme is the theme: the configuration file only holds
+    // numbers 1 to 50, so this stands in for its theme line while the
+    // program runs, and is what keeps the choice from one run to the next.
+    std::string ownThemeName;
     // "Turno libre".
     bool freeTurn = false;
     // The page of the options window the user looked at last, shown first
@@ -61,6 +69,8 @@ struct SharedState {
     Palette palette;
     // Where the configuration files live.
     std::filesystem::path dataFolder;
+    // The themes of the player's own, read from the data folder at the start.
+    std::vector<OwnTheme> ownThemes;
     // Files whose last save failed and the player has been told so.
     std::set<std::string> saveFailuresTold;
     // The player said No to copying an older installation's configuration:

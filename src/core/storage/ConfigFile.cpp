@@ -98,7 +98,9 @@ std::vector<std::string> linesOf(const Settings& s, bool keepAutomaticPhrase) {
         const bool on = f.line == kAutoPhraseLine ? keepAutomaticPhrase : s.*f.flag;
         at(f.line) = on ? "1" : "0";
     }
-    at(kThemeLine) = std::to_string(s.theme);
+    // The file moves between systems that know only the fifty built-in
+    // themes: a theme of one's own never reaches it.
+    at(kThemeLine) = std::to_string(s.theme <= ThemeCatalogue::kThemes ? s.theme : 1);
     at(kCountdownLine) = std::to_string(s.countdown == 1 || s.countdown == 2 ? s.countdown : 0);
     at(kUserNameLine) = s.userName;
     at(kGameColourLine) = std::to_string(s.gameColour.packed());
@@ -434,6 +436,11 @@ void applyLineValues(SharedState& shared) {
     } else if (theme == 0) {
         s.theme = 1;
     }
+    // A theme of one's own chosen last stands in for the built-in one the
+    // file keeps, as long as its file is still there.
+    if (const int own = ownThemeNumber(shared.ownThemes, shared.current().ownThemeName); own > 0) {
+        s.theme = own;
+    }
     s.gameColour = colourFromLine(line(shared, kGameColourLine), shared.palette.defaultBlue);
     shared.palette.gameColour = s.gameColour;
     if (shared.themeChosen && s.theme >= 0 && s.theme < kThemeFlags) {
@@ -491,7 +498,20 @@ bool writeOptions(SharedState& shared) {
     // The automatic phrase comes back next time only for a chosen theme,
     // and never in the middle of a tour.
     const bool keepAutomaticPhrase = shared.tourPosition == 0 && s.autoPhrase && shared.themeChosen;
-    const std::vector<std::string> lines = linesOf(s, keepAutomaticPhrase);
+    std::vector<std::string> lines = linesOf(s, keepAutomaticPhrase);
+    const auto own = static_cast<std::size_t>(s.theme - ThemeCatalogue::kThemes - 1);
+    shared.current().ownThemeName =
+        s.theme > ThemeCatalogue::kThemes && own < shared.ownThemes.size()
+            ? shared.ownThemes[own].name
+            : std::string();
+    if (s.theme > ThemeCatalogue::kThemes) {
+        // While a theme of one's own is played the file keeps the built-in
+        // theme it held.
+        const double kept = number(shared, kThemeLine);
+        if (kept >= 1 && kept <= ThemeCatalogue::kThemes) {
+            lines[static_cast<std::size_t>(kThemeLine - 1)] = line(shared, kThemeLine);
+        }
+    }
     std::copy(lines.begin(), lines.end(), shared.configLines.begin());
     return writeConfigLines(shared.currentSession().filePath, lines);
 }

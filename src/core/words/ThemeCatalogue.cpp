@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "words/ThemeCatalogue.h"
 
+#include "words/OwnThemes.h"
+
+#include <array>
+
 namespace quillora {
 
 namespace {
@@ -646,32 +650,55 @@ const std::string& emptyText() {
 
 } // namespace
 
+int ThemeCatalogue::ownCount() const {
+    return m_own ? static_cast<int>(m_own->size()) : 0;
+}
+
+const OwnTheme* ThemeCatalogue::own(int theme) const {
+    const int index = theme - kThemes - 1;
+    return index >= 0 && index < ownCount() ? &(*m_own)[static_cast<std::size_t>(index)] : nullptr;
+}
+
 void ThemeCatalogue::initDrawRanges() {
-    m_phraseDrawRange = 40;
-    m_themeDrawRange = 100;
+    m_phraseDrawRange = 2 * kPhrasesPerTheme;
+    m_themeDrawRange = 2 * (kThemes + ownCount());
     m_themeCount = m_themeDrawRange / 2;
 }
 
+int ThemeCatalogue::phraseDrawRange(int theme) const {
+    const OwnTheme* ownTheme = own(theme);
+    return ownTheme ? 2 * static_cast<int>(ownTheme->phrases.size()) : m_phraseDrawRange;
+}
+
 void ThemeCatalogue::loadThemeNames() {
+    m_themeNames.resize(static_cast<std::size_t>(kThemes + ownCount() + 1));
     for (int theme = 0; theme <= kThemes; ++theme)
         m_themeNames[theme] = kThemeNames[theme];
+    for (int index = 0; index < ownCount(); ++index)
+        m_themeNames[kThemes + 1 + index] = (*m_own)[index].name;
 }
 
 void ThemeCatalogue::loadPhrases(int theme) {
+    if (const OwnTheme* ownTheme = own(theme)) {
+        m_phrases.assign(1, std::string());
+        m_phrases.insert(m_phrases.end(), ownTheme->phrases.begin(), ownTheme->phrases.end());
+        return;
+    }
     if (!hasTheme(theme))
         return;
+    m_phrases.resize(kPhrasesPerTheme + 1);
     for (int index = 1; index <= kPhrasesPerTheme; ++index)
         m_phrases[index] = kPhrases[theme - 1][index - 1];
 }
 
 const std::string& ThemeCatalogue::themeName(int theme) const {
-    if (theme < 0 || theme > kThemes)
+    if (theme < 0 || theme >= static_cast<int>(m_themeNames.size()))
         return emptyText();
     return m_themeNames[theme];
 }
 
 const std::string& ThemeCatalogue::phrase(int index) const {
-    if (!hasPhraseIndex(index))
+    if (index < 1 || index >= static_cast<int>(m_phrases.size()))
         return emptyText();
     return m_phrases[index];
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "models/themesList/ThemesListModel.h"
 
+#include "round/ThemeSelection.h"
 #include "storage/ConfigFile.h"
 #include "storage/Sessions.h"
 #include "support/BoardModelFixture.h"
@@ -10,6 +11,7 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <string>
 
 namespace quillora {
@@ -104,6 +106,53 @@ TEST_F(ListModelTest, AcceptingStoresTheTableAndOneThemeAloneBecomesTheTheme) {
     EXPECT_EQ(choice.themeWindowLabel(), std::string(ThemeCatalogue::storedThemeName(12)));
     EXPECT_EQ(choice.drawnPhrase(), ThemeCatalogue::storedPhrase(12, 6));
     EXPECT_FALSE(shared.current().selectedThemes[40]);
+}
+
+// The teacher's file in the data folder shows after the fifty, is chosen
+// alone as any theme is, and never reaches the configuration file's line.
+TEST_F(ListModelTest, OwnThemesFollowTheFiftyAndAreAddedWithoutOverwriting) {
+    std::filesystem::create_directories(temp.path() / "temas");
+    std::ofstream(temp.path() / "temas" / "Mis palabras.txt")
+        << "Mis palabras\nSOL\nsol y luna\n"
+           "12345678901234567890123456789012345678901234\n";
+    EXPECT_EQ(readOwnThemes(shared),
+              (std::vector<std::string>{"Mis palabras.txt, línea 4: la frase no cabe en el "
+                                        "tablero."}));
+    open({});
+    ASSERT_EQ(list.rows(), ThemeCatalogue::kThemes + 1);
+    EXPECT_EQ(list.names().back(), "Mis palabras");
+    highlightOnly({12});
+    random.queue({phrase(5)});
+    ASSERT_EQ(list.acceptChoice(), Outcome::Accepted);
+    random.queue({0.9});
+    highlightOnly({51});
+    ASSERT_EQ(list.acceptChoice(), Outcome::Accepted);
+    EXPECT_EQ(shared.settings.theme, 51);
+    EXPECT_EQ(model.round().phraseChoice().drawnPhrase(), "SOL Y LUNA");
+    EXPECT_EQ(savedLine(11), "12") << "the file keeps the built-in theme it had";
+    // The board that opens next reads the file, and plays the own theme on.
+    loadSessionSettings(shared, random);
+    EXPECT_EQ(shared.settings.theme, 51);
+    EXPECT_EQ(shared.current().ownThemeName, "Mis palabras");
+
+    // "Añadir temas…" copies a checked file in, telling what it left out.
+    const auto outside = temp.path() / "Verbos.txt";
+    std::ofstream(outside) << "Verbos\nCORRER\n¿SALTAR?\n";
+    EXPECT_TRUE(list.addThemeFile(outside));
+    EXPECT_EQ(slurp(temp.path() / "temas" / "Verbos.txt"), slurp(outside));
+    EXPECT_EQ(list.names().back(), "Verbos");
+    EXPECT_EQ(themeNameOf(shared, 52), "Verbos");
+    ASSERT_EQ(dialogs.shown.size(), 1u);
+    EXPECT_NE(dialogs.shown.back().text.find("Verbos.txt, línea 3:"), std::string::npos);
+
+    // The same name, or a file already there, is refused and left alone.
+    EXPECT_FALSE(list.addThemeFile(outside));
+    std::ofstream(outside) << "Otros verbos\nLEER\n";
+    EXPECT_FALSE(list.addThemeFile(outside));
+    EXPECT_EQ(slurp(temp.path() / "temas" / "Verbos.txt"), "Verbos\nCORRER\n¿SALTAR?\n");
+    EXPECT_EQ(list.rows(), ThemeCatalogue::kThemes + 2);
+    EXPECT_EQ(ownThemeNumber(shared, "Verbos"), 52);
+    EXPECT_EQ(ownThemeNumber(shared, "Otros verbos"), 0);
 }
 
 TEST_F(ListModelTest, OnlyAPressHeldUntilTheTickAcceptsAndPlays) {

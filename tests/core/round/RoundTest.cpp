@@ -493,5 +493,54 @@ TEST_F(RoundStartTest, SwitchingTheAutomaticPhraseOffEndsTheTourAndRestoresTheSe
     EXPECT_EQ(shared.tourPosition, 0) << "switching on starts no tour";
 }
 
+// A theme of one's own plays as the built-in ones do: drawn from its own
+// number of phrases without repeating the last, named at the end, toured.
+TEST_F(RoundStartTest, AnOwnThemeIsDrawnNamedAndTouredLikeTheOthers) {
+    shared.ownThemes.push_back({"a.txt", "Mis palabras", {"SOL", "LUNA", "ESTRELLA"}});
+    shared.settings.theme = 51;
+    const auto own = [](int i) { return (i + 0.5) / 3.0; }; // Int(6 * r / 2) == i
+    random.queue({own(2)});
+    playThroughWindow();
+    EXPECT_EQ(choice.themeWindowLabel(), "Mis palabras");
+    EXPECT_EQ(laid(), "ESTRELLA");
+    EXPECT_EQ(round.themeLabel(), "Mis palabras");
+    finishGame();
+    random.queue({own(2), own(0)});
+    playThroughWindow();
+    EXPECT_EQ(laid(), "SOL");
+    guessAll(U"SOL");
+    EXPECT_TRUE(round.state().over);
+    EXPECT_EQ(round.themeLabel(), "Mis palabras");
+
+    // The tour goes on from the fiftieth theme to the player's own, and
+    // from the last of those back to the first.
+    shared.tourPosition = 50;
+    choice.moveTourOn();
+    EXPECT_EQ(shared.tourPosition, 51);
+    choice.moveTourOn();
+    EXPECT_EQ(shared.tourPosition, 1);
+}
+
+TEST_F(RoundStartTest, AThemeOfOnePhrasePlaysItAgainAndLostThemesAreNotDrawn) {
+    shared.ownThemes.push_back({"a.txt", "Uno", {"SOL"}});
+    shared.settings.theme = 51;
+    random.queue({0.1});
+    playThroughWindow();
+    finishGame();
+    random.queue({0.1});
+    playThroughWindow();
+    EXPECT_EQ(laid(), "SOL") << "the only phrase comes again";
+    finishGame();
+
+    // Marks left on themes whose files are gone fall back on the setting.
+    shared.ownThemes.clear();
+    shared.sessions[0].selectedThemes[51] = shared.sessions[0].selectedThemes[52] = true;
+    shared.settings.theme = 7;
+    shared.settings.autoPhrase = false; // two games of one theme switched it on
+    random.queue({phrase(5)});
+    playThroughWindow();
+    EXPECT_EQ(laid(), ThemeCatalogue::storedPhrase(7, 6));
+}
+
 } // namespace
 } // namespace quillora

@@ -14,6 +14,7 @@
 #include <QScreen>
 #include <QTimer>
 
+#include <fstream>
 #include <string>
 
 namespace quillora {
@@ -139,6 +140,23 @@ TEST_F(ThemeLists, ATourStartedFromTheListPlaysTheFirstThemeAtOnce) {
               qs(std::string(ThemeCatalogue::storedThemeName(1))));
     EXPECT_TRUE(window->controls().autoMarker->isVisible());
     EXPECT_EQ(window->controls().autoMarker->text(), "T");
+}
+
+TEST_F(ThemeLists, AddingAThemeFileShowsItsNameAtTheEndOfTheList) {
+    ThemesListWindow* list = openList();
+    ASSERT_NE(list, nullptr);
+    const fs::path file = folder / "Mis palabras.txt";
+    std::ofstream(file) << "Mis palabras\nMARIPOSA\n";
+    list->chooseFiles = [&file] { return QStringList{QString::fromStdString(file.string())}; };
+    QMenu* menu = list->buildMenu();
+    entryOf(menu, QStringLiteral("Añadir temas…"))->trigger();
+    settle();
+    const int rows = list->list()->count();
+    ASSERT_EQ(rows, ThemeCatalogue::kThemes + 1);
+    EXPECT_EQ(list->list()->item(rows - 1)->text(), QStringLiteral("Mis palabras"));
+    EXPECT_TRUE(fs::exists(folder / "temas" / "Mis palabras.txt"));
+    list->close();
+    settle();
 }
 
 TEST_F(ThemeLists, TheHistoryListKeepsEnterAndAltBackspaceAndGivesTheBoardTheRest) {

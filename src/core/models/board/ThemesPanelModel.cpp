@@ -4,14 +4,13 @@
 
 #include "round/ThemeSelection.h"
 #include "state/SharedState.h"
-#include "words/ThemeCatalogue.h"
 
 namespace quillora {
 
 void ThemesPanelModel::fill() {
     m_names.clear();
     for (int theme : selectedThemeNumbers(m_shared.current())) {
-        m_names.emplace_back(ThemeCatalogue::storedThemeName(theme));
+        m_names.push_back(themeNameOf(m_shared, theme));
     }
 }
 

@@ -2,13 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "models/themesList/ThemesListModel.h"
 
+#include "ports/Dialogs.h"
 #include "round/PhraseChoice.h"
 #include "round/ThemeSelection.h"
 #include "state/SharedState.h"
 #include "storage/ConfigFile.h"
-#include "words/ThemeCatalogue.h"
+#include "storage/FileReplace.h"
+#include "words/OwnThemes.h"
 
 #include <algorithm>
+#include <fstream>
+#include <iterator>
 
 namespace quillora {
 
@@ -19,8 +23,8 @@ void ThemesListModel::load() {
     SessionSlot& slot = m_shared.current();
     slot.selectedThemes[0] = false;
     m_names.clear();
-    for (int theme = 1; theme <= ThemeCatalogue::kThemes; ++theme) {
-        m_names.emplace_back(ThemeCatalogue::storedThemeName(theme));
+    for (int theme = 1; theme <= themeCount(m_shared); ++theme) {
+        m_names.push_back(themeNameOf(m_shared, theme));
     }
     const bool showMarks = markedThemes(slot) >= 2;
     m_highlighted.assign(m_names.size(), false);
@@ -88,6 +92,59 @@ ThemesListModel::Outcome ThemesListModel::tour() {
     m_going = false;
     m_choice.startTour();
     return Outcome::Tour;
+}
+
+std::filesystem::path ThemesListModel::themesFolder() {
+    const std::filesystem::path folder = m_shared.dataFolder / kOwnThemesFolder;
+    std::error_code ignored;
+    std::filesystem::create_directories(folder, ignored);
+    return folder;
+}
+
+bool ThemesListModel::addThemeFile(const std::filesystem::path& file) {
+    OwnThemeFile read = readOwnThemeFile(file);
+    if (!read.usable) {
+        std::string text = "El tema no se puede añadir:\n";
+        for (const std::string& refusal : read.refusals) {
+            text += "\n" + refusal;
+        }
+        m_dialogs.exclamation(text);
+        return false;
+    }
+    const std::vector<std::string> taken = takenThemeNames(m_shared);
+    if (std::find(taken.begin(), taken.end(), read.theme.name) != taken.end()) {
+        m_dialogs.exclamation("Ya hay un tema llamado «" + read.theme.name + "».");
+        return false;
+    }
+    if (m_shared.ownThemes.size() >= static_cast<std::size_t>(kMaxOwnThemes)) {
+        m_dialogs.exclamation("Ya hay 100 temas propios; no caben más.");
+        return false;
+    }
+    const std::filesystem::path target = themesFolder() / file.filename();
+    std::error_code error;
+    if (std::filesystem::exists(std::filesystem::symlink_status(target, error))) {
+        m_dialogs.exclamation("Ya hay un archivo «" + read.theme.fileName +
+                              "» en la carpeta de temas. Cambia el nombre del archivo "
+                              "para añadirlo.");
+        return false;
+    }
+    // The file was found whole a moment ago and within the size a theme may
+    // have; it goes over as it is, comments and all, for the player to edit.
+    std::ifstream in(file, std::ios::binary);
+    std::string bytes(kMaxOwnThemeBytes, '\0');
+    in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    bytes.resize(static_cast<std::size_t>(in.gcount()));
+    if (in.bad() || !replaceFile(target, bytes)) {
+        m_dialogs.error("No se pudo copiar el tema en la carpeta de temas.");
+        return false;
+    }
+    if (!read.refusals.empty()) {
+        m_dialogs.information(ownThemesNotice(read.refusals));
+    }
+    m_names.push_back(read.theme.name);
+    m_highlighted.push_back(false);
+    addOwnTheme(m_shared, std::move(read.theme));
+    return true;
 }
 
 } // namespace quillora

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -12,8 +13,9 @@ class PhraseChoice;
 struct SharedState;
 
 // "Lista de temas:": the player who plays alone marks the themes the game
-// draws from, opened beside the phrase window. Rows are themes 1..50 in
-// number order; a highlighted row is a marked theme.
+// draws from, opened beside the phrase window. Rows are the themes in
+// number order, the player's own after the fifty; a highlighted row is a
+// marked theme.
 class ThemesListModel {
 public:
     // Holding the mouse down this long on the list accepts and plays.
@@ -56,6 +58,14 @@ public:
     void selectAll();
     void clearAll();
     Outcome tour();
+    // "Añadir temas…": the chosen file is checked as the start checks the
+    // folder, told about, and copied into the folder of one's own themes
+    // under its own name, never over a file already there. True when the
+    // list gained its theme, as a last row.
+    bool addThemeFile(const std::filesystem::path& file);
+    // The folder of one's own themes, made when missing, to be opened in
+    // the file manager.
+    std::filesystem::path themesFolder();
 
     // acceptChoice: " Aceptar " and a double click.
     Outcome acceptChoice();

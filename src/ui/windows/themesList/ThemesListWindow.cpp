@@ -4,11 +4,13 @@
 
 #include "look/Twips.h"
 #include "platform/Fonts.h"
+#include "platform/QtWeb.h"
 #include "state/SharedState.h"
 #include "windows/CurrentRowDelegate.h"
 #include "windows/FocusRing.h"
 #include "windows/QtColour.h"
 
+#include <QFileDialog>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
@@ -16,6 +18,7 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QTimer>
+#include <QUrl>
 
 namespace quillora {
 
@@ -136,7 +139,31 @@ QMenu* ThemesListWindow::buildMenu() {
         m_model.clearAll();
         sync();
     });
+    menu->addSeparator();
+    connect(menu->addAction(QStringLiteral("Añadir temas…")), &QAction::triggered, this,
+            [this] { addThemes(); });
+    connect(menu->addAction(QStringLiteral("Abrir la carpeta de temas")), &QAction::triggered, this,
+            [this] {
+                const QString folder = QString::fromStdString(m_model.themesFolder().string());
+                QtWeb().openUrl(
+                    QUrl::fromLocalFile(folder).toString(QUrl::FullyEncoded).toStdString());
+            });
     return menu;
+}
+
+void ThemesListWindow::addThemes() {
+    const QStringList files =
+        chooseFiles ? chooseFiles()
+                    : QFileDialog::getOpenFileNames(this, QStringLiteral("Añadir temas"), QString(),
+                                                    QStringLiteral("Temas (*.txt)"));
+    for (const QString& file : files) {
+        if (m_model.addThemeFile(file.toStdString())) {
+            m_themesList->addItem(QString::fromStdString(m_model.names().back()));
+            // The new theme is at the foot of a long list: bring it into view.
+            m_themesList->scrollToBottom();
+        }
+    }
+    sync();
 }
 
 void ThemesListWindow::follow(ThemesListModel::Outcome outcome) {

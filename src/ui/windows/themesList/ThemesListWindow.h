@@ -5,6 +5,7 @@
 #include "models/themesList/ThemesListModel.h"
 
 #include <QDialog>
+#include <QStringList>
 
 #include <functional>
 
@@ -31,6 +32,8 @@ public:
     QTimer* goTimer() const { return m_goTimer; }
     // The list's own menu.
     QMenu* buildMenu();
+    // The files "Añadir temas…" adds; a file dialog unless set, as tests do.
+    std::function<QStringList()> chooseFiles;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -40,6 +43,7 @@ private:
     // The highlights and " Aceptar " as the model has them.
     void sync();
     void follow(ThemesListModel::Outcome outcome);
+    void addThemes();
 
     ThemesListModel m_model;
     std::function<void(ThemesListModel::Outcome)> m_done;
