@@ -44,9 +44,6 @@ struct SessionSlot {
     // The page of the options window the user looked at last, shown first
     // when the window opens again: 0 PERSONAL, 1 VISUAL, 2 FUNCIONAL, 3 LIBRE!.
     int optionsPage = 0;
-    // Kept for the themes of the player's own: read from the progress file
-    // and written back as it stands.
-    std::string lastOwnTheme;
     // Kept in memory only: a restart of the board or a change of user leaves
     // them, the end of the program forgets them.
     UserStats stats;

@@ -5,6 +5,7 @@
 #include "ports/Dialogs.h"
 #include "storage/ConfigFile.h"
 #include "storage/FileReplace.h"
+#include "words/OwnThemes.h"
 #include "words/Text.h"
 #include "words/ThemeCatalogue.h"
 
@@ -35,6 +36,9 @@ constexpr std::string_view kThemes = "themes";
 constexpr std::string_view kTour = "tour";
 constexpr std::string_view kTourThemes = "tour themes";
 constexpr std::string_view kLastOwnTheme = "last own theme";
+constexpr std::string_view kOwnTheme = "own theme";
+constexpr std::string_view kTourOwnTheme = "tour own theme";
+constexpr std::string_view kTourAtOwnTheme = "tour at own theme";
 constexpr std::string_view kHistory = "history";
 
 // The statistics counters: "normal games", "survival best", ...
@@ -189,9 +193,14 @@ bool takeLine(std::string_view key, std::string_view value, Progress& p,
         history.push_back(value);
         return true;
     }
-    if (key == kLastOwnTheme) {
-        p.lastOwnTheme = value;
+    if (key == kLastOwnTheme || key == kTourAtOwnTheme) {
+        (key == kLastOwnTheme ? p.lastOwnTheme : p.tourOwnTheme) = value;
         return value.size() <= kMostNameBytes;
+    }
+    if (key == kOwnTheme || key == kTourOwnTheme) {
+        std::vector<std::string>& names = key == kOwnTheme ? p.ownThemes : p.tourOwnThemes;
+        names.emplace_back(value);
+        return !value.empty() && value.size() <= kMostNameBytes && names.size() <= kMaxOwnThemes;
     }
     if (key == kNormalPoints || key == kSurvivalPoints) {
         const auto number = points(value);
@@ -259,12 +268,22 @@ std::string progressBytes(const Progress& p) {
     put(kCorrections, std::to_string(p.correctionsLeft));
     put(kThemes, themeListText(p.selectedThemes));
     put(kTour, std::to_string(p.tourPosition));
+    const auto putName = [&put](std::string_view key, const std::string& name) {
+        if (!name.empty() && name.size() <= kMostNameBytes) {
+            put(key, oneLine(name));
+        }
+    };
+    for (const std::string& name : p.ownThemes) {
+        putName(kOwnTheme, name);
+    }
     if (p.tourPosition != 0) {
         put(kTourThemes, themeListText(p.tourCopy));
+        for (const std::string& name : p.tourOwnThemes) {
+            putName(kTourOwnTheme, name);
+        }
+        putName(kTourAtOwnTheme, p.tourOwnTheme);
     }
-    if (!p.lastOwnTheme.empty() && p.lastOwnTheme.size() <= kMostNameBytes) {
-        put(kLastOwnTheme, oneLine(p.lastOwnTheme));
-    }
+    putName(kLastOwnTheme, p.lastOwnTheme);
     // The newest phrases that fit; the history itself runs without end.
     std::vector<std::string> entries;
     std::string_view rest = p.history;
@@ -325,6 +344,9 @@ ParsedProgress parseProgress(std::string_view bytes) {
     }
     if (p.tourPosition != 0) {
         p.tourCopy = tour;
+    } else {
+        p.tourOwnThemes.clear();
+        p.tourOwnTheme.clear();
     }
     for (std::size_t i = 0; i < history.size(); ++i) {
         p.history.append(i == 0 ? "" : "\r\n").append(history[i]);
@@ -396,6 +418,17 @@ fs::path currentProgressPath(const SharedState& shared) {
     return progressFilePath(shared.currentSession().filePath);
 }
 
+namespace {
+
+// The name of an own theme by its number in this run; empty for a number
+// no file holds.
+std::string ownThemeName(const SharedState& shared, int theme) {
+    const auto index = static_cast<std::size_t>(theme - ThemeCatalogue::kThemes - 1);
+    return index < shared.ownThemes.size() ? shared.ownThemes[index].name : std::string();
+}
+
+} // namespace
+
 Progress progressOf(const SharedState& shared) {
     const SessionSlot& slot = shared.current();
     Progress p;
@@ -404,36 +437,74 @@ Progress progressOf(const SharedState& shared) {
     p.stats = slot.stats;
     p.correctionsLeft = shared.correctionsLeft;
     p.history = shared.history;
-    p.selectedThemes = slot.selectedThemes;
     p.tourPosition = shared.tourPosition;
+    p.selectedThemes = slot.selectedThemes;
     p.tourCopy = slot.tourCopy;
-    p.lastOwnTheme = slot.lastOwnTheme;
+    // The player's own themes by name, their numbers cleared.
+    for (int theme = ThemeCatalogue::kThemes + 1; theme < kThemeFlags; ++theme) {
+        const auto flag = static_cast<std::size_t>(theme);
+        const std::string name = ownThemeName(shared, theme);
+        if (p.selectedThemes[flag] && !name.empty()) {
+            p.ownThemes.push_back(name);
+        }
+        if (p.tourCopy[flag] && p.tourPosition != 0 && !name.empty()) {
+            p.tourOwnThemes.push_back(name);
+        }
+        p.selectedThemes[flag] = p.tourCopy[flag] = false;
+    }
+    if (p.tourPosition > ThemeCatalogue::kThemes) {
+        p.tourOwnTheme = ownThemeName(shared, p.tourPosition);
+        p.tourPosition = ThemeCatalogue::kThemes;
+    }
+    p.lastOwnTheme = slot.ownThemeName;
     return p;
 }
 
+namespace {
+
+// The tour's place, on an own theme when its file is still there.
+int tourPositionOf(const SharedState& shared, const Progress& p) {
+    const int own = ownThemeNumber(shared.ownThemes, p.tourOwnTheme);
+    return own > 0 ? own : p.tourPosition;
+}
+
+} // namespace
+
 void takeProgress(SharedState& shared, const Progress& p) {
-    fillSlotProgress(shared.current(), p);
+    fillSlotProgress(shared, shared.current(), p);
     shared.normalPoints = p.normalPoints;
     shared.survivalPoints = p.survivalPoints;
     shared.correctionsLeft = p.correctionsLeft;
     shared.history = p.history;
-    shared.tourPosition = p.tourPosition;
+    shared.tourPosition = tourPositionOf(shared, p);
     // Themes chosen in an earlier run are as good as chosen in this one: the
     // automatic phrase may keep drawing from them.
-    shared.themeChosen = shared.themeChosen || anyTheme(p.selectedThemes) || anyTheme(p.tourCopy);
+    shared.themeChosen = shared.themeChosen || anyTheme(shared.current().selectedThemes) ||
+                         anyTheme(shared.current().tourCopy);
 }
 
-void fillSlotProgress(SessionSlot& slot, const Progress& p) {
+void fillSlotProgress(const SharedState& shared, SessionSlot& slot, const Progress& p) {
     UserSession& s = slot.record;
     s.points = formatNumber(p.normalPoints);
     s.survivalPoints = formatNumber(p.survivalPoints);
     s.history = p.history;
     s.corrections = std::to_string(p.correctionsLeft);
-    s.tour = std::to_string(p.tourPosition);
+    s.tour = std::to_string(tourPositionOf(shared, p));
     slot.stats = p.stats;
     slot.selectedThemes = p.selectedThemes;
     slot.tourCopy = p.tourCopy;
-    slot.lastOwnTheme = p.lastOwnTheme;
+    // An own theme whose file has gone is no choice any more.
+    for (const std::string& name : p.ownThemes) {
+        if (const int own = ownThemeNumber(shared.ownThemes, name); own > 0) {
+            slot.selectedThemes[static_cast<std::size_t>(own)] = true;
+        }
+    }
+    for (const std::string& name : p.tourOwnThemes) {
+        if (const int own = ownThemeNumber(shared.ownThemes, name); own > 0) {
+            slot.tourCopy[static_cast<std::size_t>(own)] = true;
+        }
+    }
+    slot.ownThemeName = p.lastOwnTheme;
 }
 
 Progress readUserProgress(SharedState& shared, const SessionSlot& slot) {

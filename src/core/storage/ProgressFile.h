@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace quillora {
 
@@ -42,7 +43,14 @@ struct Progress {
     // not kept.
     int tourPosition = 0;
     std::array<bool, kThemeFlags> tourCopy{};
-    // Kept for the themes of the player's own; read and written back as it is.
+    // Themes of the player's own go by their names: their numbers follow the
+    // files in the "temas" folder, which may change between two runs. The
+    // chosen ones, the tour's copy, the own theme the tour stands on (then
+    // tourPosition holds 50, so a tour whose file has gone goes on after
+    // the fifty), and the own theme played alone.
+    std::vector<std::string> ownThemes;
+    std::vector<std::string> tourOwnThemes;
+    std::string tourOwnTheme;
     std::string lastOwnTheme;
 
     bool operator==(const Progress&) const = default;
@@ -87,7 +95,7 @@ Progress progressOf(const SharedState& shared);
 // Into the live values of the current user.
 void takeProgress(SharedState& shared, const Progress& progress);
 // Into a slot whose user comes in: the switch that follows makes it live.
-void fillSlotProgress(SessionSlot& slot, const Progress& progress);
+void fillSlotProgress(const SharedState& shared, SessionSlot& slot, const Progress& progress);
 // Reads the file of the user in `slot`'s record; a notice for the player is
 // left in shared.progressNotice.
 Progress readUserProgress(SharedState& shared, const SessionSlot& slot);

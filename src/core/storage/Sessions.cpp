@@ -90,7 +90,7 @@ void Sessions::fillNewSlot(const std::string& path, const std::string& name) {
     s.tour = "0";
     s.displayName = name;
     // A user who played here before finds what they had left.
-    fillSlotProgress(m_shared.current(), readUserProgress(m_shared, m_shared.current()));
+    fillSlotProgress(m_shared, m_shared.current(), readUserProgress(m_shared, m_shared.current()));
 }
 
 bool Sessions::add(const std::string& typedName, bool manyErrors, std::string& shownName) {

@@ -6,6 +6,8 @@
 #include "storage/Sessions.h"
 #include "support/LoadedSession.h"
 #include "support/RefusedWrites.h"
+#include "words/OwnThemes.h"
+#include "words/ThemeCatalogue.h"
 
 #include <gtest/gtest.h>
 
@@ -28,15 +30,15 @@ Progress wellIntoTheGame() {
     p.selectedThemes[1] = p.selectedThemes[50] = true;
     p.tourPosition = 7;
     p.tourCopy[3] = p.tourCopy[12] = true;
-    p.lastOwnTheme = "Mis palabras";
     return p;
 }
 
 // The data folder of a player whose game starts: the main user's progress
 // is read as the start screen runs.
 struct NextRun {
-    explicit NextRun(const fs::path& folder) {
+    explicit NextRun(const fs::path& folder, std::vector<OwnTheme> ownThemes = {}) {
         shared.dataFolder = folder;
+        shared.ownThemes = std::move(ownThemes);
         loadAtStart(shared);
     }
     void tellAtMenu() {
@@ -77,6 +79,38 @@ TEST_F(ProgressFileTest, EveryFieldComesBackInTheNextRunBesideAnUnchangedConfigu
     // Nor did the configuration change: its twenty lines, as before.
     ASSERT_TRUE(writeOptions(next.shared));
     EXPECT_EQ(readConfigLines(folder / "QuilloraVS5.txt")->size(), 20U);
+}
+
+// The player's own themes are numbered after their files, which may come
+// and go between two runs: the marks, the tour and the theme played alone
+// follow the names, and a theme whose file has gone is dropped.
+TEST_F(ProgressFileTest, OwnThemesComeBackByNameWhateverTheirNumbers) {
+    const auto own = [](const std::string& name) { return OwnTheme{name + ".txt", name, {"SOL"}}; };
+    shared.ownThemes = {own("Animales"), own("Verbos")};
+    SessionSlot& slot = shared.current();
+    slot.selectedThemes[3] = slot.selectedThemes[51] = slot.selectedThemes[52] = true;
+    slot.tourCopy = slot.selectedThemes;
+    shared.tourPosition = 52;
+    shared.settings.theme = 52;
+    ASSERT_TRUE(saveSettings(shared, dialogs));
+    EXPECT_NE(slurp(progressFile()).find("\nown theme=Verbos\n"), std::string::npos);
+
+    // "Animales.txt" has gone: "Verbos" is theme 51 now.
+    NextRun next(folder, {own("Verbos")});
+    const SessionSlot& back = next.shared.current();
+    EXPECT_TRUE(back.selectedThemes[3]);
+    EXPECT_TRUE(back.selectedThemes[51]);
+    EXPECT_FALSE(back.selectedThemes[52]);
+    EXPECT_TRUE(back.tourCopy[51]);
+    EXPECT_FALSE(back.tourCopy[52]);
+    EXPECT_EQ(next.shared.tourPosition, 51);
+    EXPECT_EQ(back.ownThemeName, "Verbos");
+    EXPECT_EQ(progressOf(next.shared).ownThemes, std::vector<std::string>{"Verbos"});
+
+    // With no own theme left the tour goes on after the fifty.
+    NextRun none(folder);
+    EXPECT_EQ(none.shared.tourPosition, ThemeCatalogue::kThemes);
+    EXPECT_FALSE(none.shared.current().selectedThemes[51]);
 }
 
 TEST_F(ProgressFileTest, AMissingFileIsAFreshStartWithoutAWord) {
