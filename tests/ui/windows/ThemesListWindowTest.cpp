@@ -11,6 +11,7 @@
 
 #include <QListWidget>
 #include <QMenu>
+#include <QPointer>
 #include <QScreen>
 #include <QTimer>
 
@@ -155,8 +156,11 @@ TEST_F(ThemeLists, AddingAThemeFileShowsItsNameAtTheEndOfTheList) {
     ASSERT_EQ(rows, ThemeCatalogue::kThemes + 1);
     EXPECT_EQ(list->list()->item(rows - 1)->text(), QStringLiteral("Mis palabras"));
     EXPECT_TRUE(fs::exists(folder / "temas" / "Mis palabras.txt"));
-    list->close();
-    settle();
+    // The board may close with the list still open over the phrase window:
+    // the phrase window goes first, and must not be asked to show again.
+    QPointer<ThemesListWindow> open = list;
+    window.reset();
+    EXPECT_TRUE(open.isNull());
 }
 
 TEST_F(ThemeLists, TheHistoryListKeepsEnterAndAltBackspaceAndGivesTheBoardTheRest) {

@@ -176,6 +176,14 @@ void ThemeWindow::openThemesList() {
     hide();
 }
 
+ThemeWindow::~ThemeWindow() {
+    // A list still open goes with this window, once this window is gone:
+    // it must not bring back a window that no longer is.
+    if (m_list) {
+        disconnect(m_list, nullptr, this, nullptr);
+    }
+}
+
 bool ThemeWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == m_themeLabel && event->type() == QEvent::MouseButtonRelease) {
         openThemesList();

@@ -25,6 +25,9 @@ public:
     // laid, or a tour started from the themes list.
     ThemeWindow(PhraseChoice& choice, SharedState& shared, Dialogs& dialogs,
                 std::function<void()> changed, QWidget* board);
+    ~ThemeWindow() override;
+    ThemeWindow(const ThemeWindow&) = delete;
+    ThemeWindow& operator=(const ThemeWindow&) = delete;
 
     QLabel* themeLabel() const { return m_themeLabel; }
     QPushButton* acceptButton() const { return m_okButton; }
