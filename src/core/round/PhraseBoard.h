@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "words/PhraseLayout.h"
+
 #include "round/Keyboard.h"
 
 #include <array>
@@ -13,8 +15,8 @@ namespace quillora {
 // the phrase laid on them.
 class PhraseBoard {
 public:
-    static constexpr int kCells = 42;
-    static constexpr int kColumns = 14;
+    static constexpr int kCells = kPhraseCells;
+    static constexpr int kColumns = kPhraseColumns;
 
     struct Cell {
         char32_t character = U' ';
@@ -29,10 +31,6 @@ public:
     static int countLetters(std::u32string_view phrase);
     // The phrase with every run of blanks reduced to one blank.
     static std::u32string answerTextOf(std::u32string_view phrase);
-    // Words separated by single blanks, padded so that no word of up to
-    // fourteen letters is split between two rows; a longer word starts a row
-    // and runs on. Empty when the padded phrase would pass the 42 cells.
-    static std::u32string layOut(std::u32string_view words);
 
     // Lays a phrase of at most 42 characters; a longer one is refused (false)
     // and the board is left as it was.

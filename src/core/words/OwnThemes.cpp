@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "words/OwnThemes.h"
 
-#include "round/PhraseBoard.h"
+#include "words/PhraseLayout.h"
 #include "words/Text.h"
 #include "words/ThemeCatalogue.h"
 
@@ -132,7 +132,7 @@ PhraseCheck checkOwnPhrase(std::string_view line) {
         }
         words.push_back(letter);
     }
-    const std::u32string laid = PhraseBoard::layOut(words);
+    const std::u32string laid = layOutPhrase(words);
     if (laid.empty()) {
         return {{}, "la frase no cabe en el tablero."};
     }

@@ -3,6 +3,7 @@
 #include "words/OwnThemes.h"
 
 #include "round/PhraseBoard.h"
+#include "words/PhraseLayout.h"
 #include "words/Text.h"
 #include "words/ThemeCatalogue.h"
 
@@ -29,14 +30,14 @@ TEST(OwnThemesTest, LaysOutWordsAsTheCataloguePadsItsPhrases) {
             const std::string_view stored = ThemeCatalogue::storedPhrase(theme, index);
             if (breakEarlier.count(stored) == 0) {
                 const std::u32string words = PhraseBoard::answerTextOf(toU32(stored));
-                EXPECT_EQ(toUtf8(PhraseBoard::layOut(words)), stored) << theme << "/" << index;
+                EXPECT_EQ(toUtf8(layOutPhrase(words)), stored) << theme << "/" << index;
             }
         }
     }
     // A fourteen-letter word after a full row still keeps a blank before it.
-    EXPECT_EQ(toUtf8(PhraseBoard::layOut(U"ABCDEFGHIJKLMN OPQRSTUVWXYZAB")),
+    EXPECT_EQ(toUtf8(layOutPhrase(U"ABCDEFGHIJKLMN OPQRSTUVWXYZAB")),
               "ABCDEFGHIJKLMN              OPQRSTUVWXYZAB");
-    EXPECT_TRUE(PhraseBoard::layOut(U"ABCDEFGHIJKL ABCDEFGHIJKL ABCDEFGHIJKL ABC").empty());
+    EXPECT_TRUE(layOutPhrase(U"ABCDEFGHIJKL ABCDEFGHIJKL ABCDEFGHIJKL ABC").empty());
 }
 
 TEST(OwnThemesTest, KeepsTheGoodLinesAndTellsWhyEachOtherOneIsLeftOut) {
