@@ -70,6 +70,9 @@ struct SharedState {
     std::vector<OwnTheme> ownThemes;
     // Files whose last save failed and the player has been told so.
     std::set<std::string> saveFailuresTold;
+    // The board fills the screen, scaled up for a classroom (F11): kept
+    // from one opening of the board to the next until the program ends.
+    bool boardFullScreen = false;
     // The player said No to copying an older installation's configuration:
     // the menu does not ask again until the program ends.
     bool importDeclined = false;

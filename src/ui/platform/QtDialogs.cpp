@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/QtDialogs.h"
 
+#include "platform/TwipScale.h"
+
 #include <QApplication>
 #include <QMessageBox>
 
@@ -21,11 +23,20 @@ QMessageBox::Icon iconOf(Dialogs::Icon icon) {
     return QMessageBox::Information;
 }
 
+// A box over a board that fills a classroom's screen is read from as far.
+void scaleLikeParent(QMessageBox& box) {
+    const TwipScale scale = TwipScale::of(box.parentWidget());
+    if (!scale.unscaled()) {
+        box.setFont(scale.font(box.font()));
+    }
+}
+
 } // namespace
 
 void QtDialogs::message(Icon icon, const std::string& text, const std::string& title) {
     QMessageBox box(iconOf(icon), QString::fromStdString(title), QString::fromStdString(text),
                     QMessageBox::Ok, QApplication::activeWindow());
+    scaleLikeParent(box);
     box.exec();
 }
 
@@ -34,6 +45,7 @@ bool QtDialogs::ask(Question kind, const std::string& text, const std::string& t
                                                  : QMessageBox::Ok | QMessageBox::Cancel;
     QMessageBox box(QMessageBox::Question, QString::fromStdString(title),
                     QString::fromStdString(text), buttons, QApplication::activeWindow());
+    scaleLikeParent(box);
     const int answer = box.exec();
     return answer == QMessageBox::Yes || answer == QMessageBox::Ok;
 }

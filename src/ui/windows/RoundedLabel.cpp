@@ -3,6 +3,7 @@
 #include "windows/RoundedLabel.h"
 
 #include "look/Twips.h"
+#include "platform/TwipScale.h"
 
 #include <QPaintEvent>
 #include <QPainter>
@@ -48,18 +49,20 @@ bool RoundedLabel::drawsPlainLine() {
     return m_checkedPlain;
 }
 
-void paintRoundedGround(QPainter& painter, const QRect& area, const QColor& colour) {
+void paintRoundedGround(QPainter& painter, const QRect& area, const QColor& colour,
+                        TwipScale scale) {
     if (colour.alpha() > 0) {
+        const int radius = scale.px(kRadiusTwips);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(Qt::NoPen);
         painter.setBrush(colour);
-        painter.drawRoundedRect(area, px(kRadiusTwips), px(kRadiusTwips));
+        painter.drawRoundedRect(area, radius, radius);
         painter.setRenderHint(QPainter::Antialiasing, false);
     }
 }
 
 void RoundedLabel::paintGround(QPainter& painter) const {
-    paintRoundedGround(painter, rect(), m_panel);
+    paintRoundedGround(painter, rect(), m_panel, TwipScale::of(this));
 }
 
 void RoundedLabel::paintLine(QPainter& painter) {

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/TwipScale.h"
+
 #include <QColor>
 #include <QFont>
 #include <QLabel>
@@ -17,7 +19,8 @@ namespace quillora {
 
 // The rounded ground the board's panels stand on; nothing for a transparent
 // colour.
-void paintRoundedGround(QPainter& painter, const QRect& area, const QColor& colour);
+void paintRoundedGround(QPainter& painter, const QRect& area, const QColor& colour,
+                        TwipScale scale);
 
 // A label on a rounded panel of its own colour, or on none. The board's lamps
 // recolour these after every letter: a colour set by hand repaints the label

@@ -169,7 +169,17 @@ BoardAreas BoardModel::guessAreas(bool wasInPlay) const {
     return BoardAreas::everything();
 }
 
+bool BoardModel::fullScreen() const {
+    return m_shared.boardFullScreen;
+}
+
 GameStart BoardModel::keyTyped(WindowKey key, char32_t character) {
+    // How the board is shown is no part of the game: a lock or the session
+    // panel does not hold these keys back.
+    if (key == WindowKey::FullScreen || key == WindowKey::Escape) {
+        m_shared.boardFullScreen = key == WindowKey::FullScreen && !m_shared.boardFullScreen;
+        m_changed = BoardAreas::everything();
+    }
     if (!keyReachesBoard(key)) {
         return GameStart::Nothing;
     }
@@ -230,6 +240,7 @@ GameStart BoardModel::keyTyped(WindowKey key, char32_t character) {
         m_narration.readBoard();
         break;
     case WindowKey::DeadKey:
+    case WindowKey::FullScreen:
     case WindowKey::MenuKey:
     case WindowKey::Names:
     case WindowKey::Design:

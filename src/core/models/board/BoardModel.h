@@ -94,6 +94,9 @@ public:
         // F6, which no rule of the game uses: a player who cannot see the
         // board hears it read out.
         ReadBoard,
+        // F11, which no rule of the game uses either: the board fills the
+        // screen, for a classroom, or goes back to its window.
+        FullScreen,
         MenuKey,
         ToggleAuto,
         ToggleSounds,
@@ -106,6 +109,9 @@ public:
     // Whether a key reaches the board at all: behind a lock nothing does, and
     // an open session panel lets through only F4, which closes it.
     bool keyReachesBoard(WindowKey key) const;
+    // Whether the board fills the screen. F11 switches it whatever else the
+    // board is doing, and Esc, besides its own work, leaves it.
+    bool fullScreen() const;
     GameStart keyTyped(WindowKey key, char32_t character = 0);
     // What the last key changed on the board.
     BoardAreas changedAreas() const { return m_changed; }

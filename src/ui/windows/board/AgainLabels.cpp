@@ -5,6 +5,7 @@
 #include "look/Twips.h"
 #include "models/board/SurvivalSwitch.h"
 #include "platform/Fonts.h"
+#include "platform/TwipScale.h"
 #include "windows/ButtonLike.h"
 #include "windows/board/BoardAccessible.h"
 
@@ -22,9 +23,9 @@ constexpr int kRestartLeft = 8760, kRestartWidth = 2535;
 
 QLabel* makeLabel(const QString& text, int left, int width, QWidget* board) {
     auto* label = new QLabel(text, board);
-    label->setGeometry(px(left), px(kTop), px(width), px(kHeight));
+    placeInTwips(label, QRect(left, kTop, width, kHeight));
     label->setAlignment(Qt::AlignCenter);
-    label->setFont(Fonts::display(11));
+    setScaledFont(label, Fonts::display(11));
     label->setCursor(Qt::PointingHandCursor);
     setAccessibleRole(label, QAccessible::Button);
     label->hide();
@@ -58,7 +59,7 @@ void AgainLabels::press(QObject* label) {
 void AgainLabels::paint(const QString& gameColour) {
     const QString style = QStringLiteral("background: %1; color: white; border-radius: %2px;")
                               .arg(gameColour)
-                              .arg(px(90));
+                              .arg(TwipScale::of(m_restart).px(90));
     m_restart->setStyleSheet(style);
     m_getPoints->setStyleSheet(style);
 }

@@ -4,6 +4,7 @@
 
 #include "look/Twips.h"
 #include "platform/Fonts.h"
+#include "platform/TwipScale.h"
 #include "round/AnswerBox.h"
 #include "round/Keyboard.h"
 #include "windows/ButtonLike.h"
@@ -26,16 +27,16 @@ AnswerPanel::AnswerPanel(AnswerBox& box, std::function<void()> changed,
                          std::function<bool(QKeyEvent*)> shortcut, QWidget* board)
     : QWidget(board), m_box(box), m_changed(std::move(changed)), m_shortcut(std::move(shortcut)) {
     setObjectName(QStringLiteral("answerFrame"));
-    setGeometry(px(kLeft), px(kTop), px(kWidth), px(kHeight));
+    placeInTwips(this, QRect(kLeft, kTop, kWidth, kHeight));
     setAttribute(Qt::WA_StyledBackground);
     setAccessibleRole(this, QAccessible::Grouping);
     setAccessibleName(QStringLiteral("Introduzca Frase a Adivinar"));
     m_promptLabel = new QLabel(QStringLiteral(" Introduzca Frase a Adivinar "), this);
-    m_promptLabel->setGeometry(px(60), px(75), px(3000), px(390));
-    m_promptLabel->setFont(Fonts::display(9));
+    placeInTwips(m_promptLabel, QRect(60, 75, 3000, 390));
+    setScaledFont(m_promptLabel, Fonts::display(9));
     m_wordBox = new QLineEdit(this);
-    m_wordBox->setGeometry(px(3060), px(75), px(4320), px(390));
-    m_wordBox->setFont(Fonts::display(11));
+    placeInTwips(m_wordBox, QRect(3060, 75, 4320, 390));
+    setScaledFont(m_wordBox, Fonts::display(11));
     m_wordBox->setAccessibleName(accessibleName());
     // The filter installed last looks first: the board's keys come first,
     // then "!" and Enter, then the typing rule.
@@ -48,10 +49,10 @@ AnswerPanel::AnswerPanel(AnswerBox& box, std::function<void()> changed,
         m_okButton->setEnabled(m_box.okEnabled());
     });
     m_okButton = new QPushButton(QStringLiteral("OK"), this);
-    m_okButton->setGeometry(px(7470), px(60), px(765), px(420));
+    placeInTwips(m_okButton, QRect(7470, 60, 765, 420));
     new ButtonLike(
         m_okButton, [this] { m_okButton->click(); }, Qt::TabFocus);
-    m_okButton->setFont(Fonts::display(10));
+    setScaledFont(m_okButton, Fonts::display(10));
     connect(m_okButton, &QPushButton::clicked, this, &AnswerPanel::okPressed);
 }
 
@@ -59,7 +60,7 @@ void AnswerPanel::paint(const QString& gameColour) {
     setStyleSheet(QStringLiteral("#answerFrame { background: %1; border-radius: %2px; }"
                                  "QLabel { color: white; }")
                       .arg(gameColour)
-                      .arg(px(90)) +
+                      .arg(TwipScale::of(this).px(90)) +
                   focusMarkStyle(QStringLiteral("QLineEdit")));
 }
 
@@ -75,7 +76,7 @@ void AnswerPanel::sync() {
     if (box.isOpen() && !wasOpen) {
         m_wordBox->setFocus();
     } else if (!box.isOpen() && wasOpen) {
-        parentWidget()->setFocus();
+        window()->setFocus();
     }
 }
 

@@ -5,6 +5,7 @@
 #include "look/Twips.h"
 #include "models/board/BoardSpeech.h"
 #include "platform/Fonts.h"
+#include "platform/TwipScale.h"
 #include "round/PhraseChoice.h"
 #include "windows/ButtonLike.h"
 #include "windows/QtColour.h"
@@ -18,9 +19,9 @@ constexpr int kLeft = 2610, kTop = 345, kSize = 330;
 
 AutoMarker::AutoMarker(PhraseChoice& choice, std::function<void()> changed, QWidget* board)
     : QLabel(board), m_choice(choice), m_changed(std::move(changed)) {
-    setGeometry(px(kLeft), px(kTop), px(kSize), px(kSize));
+    placeInTwips(this, QRect(kLeft, kTop, kSize, kSize));
     setAlignment(Qt::AlignCenter);
-    setFont(Fonts::display(9));
+    setScaledFont(this, Fonts::display(9));
     setCursor(Qt::PointingHandCursor);
     setAccessibleRole(this, QAccessible::Button);
     // Tab reaches it, and the mouse leaves the focus on the board, where

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/board/BackgroundView.h"
 
+#include "platform/TwipScale.h"
+
 #include "look/Twips.h"
 #include "models/board/BoardModel.h"
 #include "windows/board/BoardAccessible.h"
@@ -16,7 +18,7 @@ BackgroundView::BackgroundView(const BoardAppearance& appearance, QWidget* board
     setAccessibleRole(this, QAccessible::Graphic);
     setAccessibleName(QStringLiteral("Imagen de fondo"));
     // The picture area is the board without its keyboard.
-    setGeometry(0, 0, px(BoardModel::kWidthTwips), px(BoardModel::kBaseHeightTwips));
+    placeInTwips(this, QRect(0, 0, BoardModel::kWidthTwips, BoardModel::kBaseHeightTwips));
     lower();
 }
 

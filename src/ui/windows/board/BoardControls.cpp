@@ -6,6 +6,7 @@
 #include "models/board/BoardModel.h"
 #include "models/board/BoardSpeech.h"
 #include "platform/Fonts.h"
+#include "platform/TwipScale.h"
 #include "windows/QtColour.h"
 #include "windows/RoundedLabel.h"
 #include "windows/board/AgainLabels.h"
@@ -42,10 +43,6 @@ namespace quillora {
 
 namespace {
 
-QRect twipRect(int left, int top, int width, int height) {
-    return QRect(px(left), px(top), px(width), px(height));
-}
-
 // Where the board's own labels sit, in twips.
 constexpr int kStatusLeft = 3000, kStatusTop = 300, kStatusWidth = 5040, kStatusHeight = 720;
 constexpr int kCounterLeft = 10200, kCounterTop = 1050, kCounterWidth = 1095, kCounterHeight = 360;
@@ -66,18 +63,18 @@ BoardControls::BoardControls(BoardModel& model, Announcer& announcer, QWidget* b
     themesPanel = new ThemesPanel(panels, changed, actions.boardKeys, board);
 
     statusLabel = new RoundedLabel(board);
-    statusLabel->setGeometry(twipRect(kStatusLeft, kStatusTop, kStatusWidth, kStatusHeight));
+    placeInTwips(statusLabel, QRect(kStatusLeft, kStatusTop, kStatusWidth, kStatusHeight));
     statusLabel->setAlignment(Qt::AlignCenter);
-    statusLabel->setFont(Fonts::display(18));
+    setScaledFont(statusLabel, Fonts::display(18));
 
     Round& round = model.round();
     Scoring& scoring = model.scoring();
     themeBox = new ThemeBox(round, scoring, panels, model.tip(), changed, board);
 
     counterLabel = new RoundedLabel(board, QStringLiteral("XX/YY"));
-    counterLabel->setGeometry(twipRect(kCounterLeft, kCounterTop, kCounterWidth, kCounterHeight));
+    placeInTwips(counterLabel, QRect(kCounterLeft, kCounterTop, kCounterWidth, kCounterHeight));
     counterLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    counterLabel->setFont(Fonts::display(12));
+    setScaledFont(counterLabel, Fonts::display(12));
     counterLabel->setToolTip(QStringLiteral(" Letras reveladas. "));
     timeLabel = new CountdownLabel(model.countdown(), model.appearance(), board);
 
@@ -146,23 +143,34 @@ void BoardControls::paint() {
     }
 }
 
+void BoardControls::rescaled() {
+    m_lampColours.reset();
+    m_gameColours.reset();
+    syncAll();
+}
+
 void BoardControls::paintGamePanels() {
     const BoardAppearance& look = m_model.appearance();
     const Rgb game = look.gameColour();
     const Rgb shade = look.shade();
-    QPalette windowPalette = m_board->palette();
+    const TwipScale scale = TwipScale::of(m_board);
+    // The window's ground, which also fills the screen round a board shown
+    // full screen.
+    QWidget* window = m_board->window();
+    QPalette windowPalette = window->palette();
     windowPalette.setColor(QPalette::Window, qc(look.background()));
-    m_board->setPalette(windowPalette);
+    window->setPalette(windowPalette);
     smallPlayButton->paint(css(game), css(kPictureButtonBack));
     playPanel->paint(QStringLiteral("QPushButton { background: %1; color: white; border: none;"
                                     " border-radius: %3px; }"
                                     "QPushButton:hover { background: %2; }"
                                     "QPushButton:pressed { background: %4; }")
                          .arg(css(game), css(shade))
-                         .arg(px(120))
+                         .arg(scale.px(120))
                          .arg(css(kGreenLamp)),
-                     QStringLiteral("QLabel { border: 1px dashed %1; border-radius: 8px; }")
-                         .arg(css(kPictureButtonBack)));
+                     QStringLiteral("QLabel { border: 1px dashed %1; border-radius: %2px; }")
+                         .arg(css(kPictureButtonBack))
+                         .arg(scale.pixels(8)));
     lookUpLabel->paint(css(shade));
     answerPanel->paint(css(game));
     againLabels->paint(css(game));

@@ -72,6 +72,9 @@ public:
     // The lamp's and the game's colours, painted on the panels that wear them
     // when they changed.
     void paint();
+    // After the board's scale changed: what each control drew or styled at
+    // the old scale is done again.
+    void rescaled();
 
     BackgroundView* background = nullptr;
     GallowsView* gallows = nullptr;

@@ -45,6 +45,8 @@ BoardModel::WindowKey shortcutOf(const QKeyEvent& event) {
         return WindowKey::F5;
     case Qt::Key_F6:
         return WindowKey::ReadBoard;
+    case Qt::Key_F11:
+        return WindowKey::FullScreen;
     case Qt::Key_Delete:
         return WindowKey::Delete;
     case Qt::Key_Escape:

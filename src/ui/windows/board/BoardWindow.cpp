@@ -4,6 +4,7 @@
 
 #include "look/Twips.h"
 #include "platform/ScreenKeeper.h"
+#include "platform/TwipScale.h"
 #include "ports/SoundPlayer.h"
 #include "windows/FocusRing.h"
 #include "windows/QtColour.h"
@@ -31,6 +32,7 @@
 #include <QMenu>
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
 #include <QTimer>
 
 namespace quillora {
@@ -67,8 +69,12 @@ BoardWindow::BoardWindow(SharedState& shared, Dialogs& dialogs, Announcer& annou
     m_model.load();
     installBoardAccessibility();
     setAccessibleRole(this, QAccessible::Window);
+    // The controls stand on a stage of the board's own size: the window's
+    // ground shows round it while the board fills a larger screen.
+    m_stage = new QWidget(this);
+    m_stage->setObjectName(QStringLiteral("stage"));
     m_ui = std::make_unique<BoardControls>(
-        m_model, announcer, this,
+        m_model, announcer, m_stage,
         BoardActions{
             [this] { sync(); }, [this](BoardAreas areas) { sync(areas); },
             [this] { playPressed(); }, [this](QKeyEvent* key) { return windowShortcut(key); },
@@ -181,12 +187,17 @@ void BoardWindow::buildTimers() {
         }
     });
     m_climbTimer = timer(KeyboardSlide::kOpenTickMs, [this] {
-        move(x(), y() - px(m_model.slide().tickClimb()));
+        const int climb = px(m_model.slide().tickClimb());
+        if (m_fullScreen) {
+            m_windowedPlace.ry() -= climb;
+        } else {
+            move(x(), y() - climb);
+        }
         follow(m_climbTimer, m_model.slide().climbing());
     });
     m_topCheckTimer = timer(KeyboardSlide::kTopCheckTickMs, [this] {
         const int top = px(KeyboardSlide::keepTopOnScreen(y() * kTwipsPerPixel));
-        if (top != y()) {
+        if (top != y() && !m_fullScreen) {
             move(x(), top);
         }
         fitFrame();
@@ -218,9 +229,67 @@ void BoardWindow::buildTimers() {
 }
 
 void BoardWindow::syncView() {
+    followFullScreen();
     m_ui->syncAll();
     setWindowTitle(qs(m_model.windowTitle()));
     fitFrame();
+}
+
+double BoardWindow::fullScreenFactor() const {
+    const QSize screenSize = screen()->geometry().size();
+    const int boardHeightTwips = BoardModel::kBaseHeightTwips + KeyboardSlide::kKeyboardExtraTwips;
+    return std::min(screenSize.width() * static_cast<double>(kTwipsPerPixel) /
+                        BoardModel::kWidthTwips,
+                    screenSize.height() * static_cast<double>(kTwipsPerPixel) / boardHeightTwips);
+}
+
+void BoardWindow::followFullScreen() {
+    const bool wanted = m_model.fullScreen();
+    if (wanted == m_fullScreen) {
+        return;
+    }
+    if (wanted) {
+        m_windowedPlace = pos();
+        // A fixed size would keep the window from filling the screen.
+        setMinimumSize(0, 0);
+        setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    }
+    m_fullScreen = wanted;
+    TwipScale::hold(this, wanted ? fullScreenFactor() : 1.0);
+    m_ui->rescaled();
+    // A hidden window takes the state with it when it shows.
+    const Qt::WindowStates state =
+        wanted ? windowState() | Qt::WindowFullScreen : windowState() & ~Qt::WindowFullScreen;
+    setWindowState(state);
+    if (wanted) {
+        // Without a window manager to fill the screen, the window fills it
+        // itself; with one, it asks the same.
+        setGeometry(screen()->geometry());
+    } else {
+        fitFrame();
+        move(m_windowedPlace);
+    }
+    placeStage();
+}
+
+void BoardWindow::placeStage() {
+    if (!m_fullScreen) {
+        m_stage->setGeometry(rect());
+        return;
+    }
+    // The board stands in the middle of the screen with room below for its
+    // keyboard, whether or not the keyboard is out yet.
+    const TwipScale scale = TwipScale::of(this);
+    const QSize board(scale.px(BoardModel::kWidthTwips), scale.px(m_model.slide().heightTwips()));
+    const int fullHeight =
+        scale.px(BoardModel::kBaseHeightTwips + KeyboardSlide::kKeyboardExtraTwips);
+    m_stage->setGeometry(
+        QRect(QPoint((width() - board.width()) / 2, (height() - fullHeight) / 2), board));
+}
+
+void BoardWindow::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    placeStage();
 }
 
 void BoardWindow::sync() {
@@ -239,6 +308,11 @@ void BoardWindow::sync(BoardAreas areas) {
 }
 
 void BoardWindow::fitFrame() {
+    if (m_fullScreen) {
+        // The window is the screen; the stage grows with the keyboard.
+        placeStage();
+        return;
+    }
     // The board's sizes are the window's outer sizes: where the window
     // system draws a frame, the frame comes out of them and the controls
     // keep their places inside.
@@ -249,6 +323,7 @@ void BoardWindow::fitFrame() {
     if (client != size() || minimumSize() != maximumSize()) {
         setFixedSize(client);
     }
+    placeStage();
 }
 
 void BoardWindow::drawNow() {
@@ -261,13 +336,17 @@ void BoardWindow::drawNow() {
 
 void BoardWindow::placeOver(QPoint menuCentre) {
     fitFrame();
-    move(menuCentre - menuOffset());
+    if (m_fullScreen) {
+        m_windowedPlace = menuCentre - menuOffset();
+    } else {
+        move(menuCentre - menuOffset());
+    }
 }
 
 void BoardWindow::followRestart() {
     if (m_model.survival().reopenRequested() && !m_restarting) {
         m_restarting = true;
-        const QPoint at = pos();
+        const QPoint at = windowedPlace();
         QTimer::singleShot(0, this, [this, at] {
             m_leaving = true;
             hide();
@@ -456,12 +535,16 @@ void BoardWindow::openPlayersWindow() {
     if (m_namesWindow) {
         return;
     }
-    m_namesWindow = new PlayersWindow(m_model.shared(), [this] {
-        m_model.turn().namesClosed();
-        show();
-        activateWindow();
-        sync();
-    });
+    // Opened by the board, it takes the board's scale.
+    m_namesWindow = new PlayersWindow(
+        m_model.shared(),
+        [this] {
+            m_model.turn().namesClosed();
+            show();
+            activateWindow();
+            sync();
+        },
+        this);
     m_namesWindow->setAttribute(Qt::WA_DeleteOnClose);
     ScreenKeeper::watch(*m_namesWindow);
     connect(m_namesWindow, &QObject::destroyed, this, [this] { m_namesWindow = nullptr; });

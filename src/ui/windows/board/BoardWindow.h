@@ -51,7 +51,7 @@ public:
     // other way round: where the menu goes back to, so trips between the two
     // leave both where they were.
     void placeOver(QPoint menuCentre);
-    QPoint menuCentre() const { return pos() + menuOffset(); }
+    QPoint menuCentre() const { return windowedPlace() + menuOffset(); }
 
     // Brings every control in step with the model and starts or stops the
     // timers it asks for.
@@ -61,6 +61,9 @@ public:
 
     // The controls a player sees, and the timers that move the board on its own.
     const BoardControls& controls() const { return *m_ui; }
+    // What holds the controls: the whole window, or the board's place in the
+    // middle of the screen while the board fills it.
+    QWidget* stage() const { return m_stage; }
     QTimer* countdownTimer() const { return m_countdownTimer; }
     QTimer* soundTimer() const { return m_soundTimer; }
     QTimer* scoreTimer() const { return m_scoreTimer; }
@@ -89,6 +92,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     // From the board's top left corner to the centre of the menu it stands
@@ -97,6 +101,14 @@ private:
         return QPoint(px(BoardModel::kWidthTwips) / 2, px(BoardModel::kBaseHeightTwips) / 2 -
                                                            px(m_model.slide().openingDropTwips()));
     }
+    // Where the board stands as a window: where it is, or where it goes back
+    // to when it leaves full screen.
+    QPoint windowedPlace() const { return m_fullScreen ? m_windowedPlace : pos(); }
+    // Fills the screen or goes back to the window, as the model says.
+    void followFullScreen();
+    // The scale that fits the whole board, its keyboard out, to the screen.
+    double fullScreenFactor() const;
+    void placeStage();
     void buildTimers();
     // Starts or stops the timers whose state the areas given may have changed.
     void followTimers(BoardAreas areas);
@@ -122,6 +134,9 @@ private:
     bool m_restarting = false;
     bool m_leaving = false;
     bool m_shownOnce = false;
+    QWidget* m_stage = nullptr;
+    bool m_fullScreen = false;
+    QPoint m_windowedPlace;
 
     QTimer* m_statusDotsTimer = nullptr;
     QTimer* m_lampTimer = nullptr;

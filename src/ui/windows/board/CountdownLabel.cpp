@@ -5,6 +5,7 @@
 #include "look/Twips.h"
 #include "models/board/BoardAppearance.h"
 #include "platform/Fonts.h"
+#include "platform/TwipScale.h"
 #include "scoring/Countdown.h"
 #include "windows/QtColour.h"
 
@@ -18,9 +19,9 @@ constexpr int kLeft = 9240, kTop = 1050, kWidth = 900, kHeight = 360;
 CountdownLabel::CountdownLabel(const Countdown& countdown, const BoardAppearance& look,
                                QWidget* board)
     : QLabel(board), m_countdown(countdown), m_look(look) {
-    setGeometry(px(kLeft), px(kTop), px(kWidth), px(kHeight));
+    placeInTwips(this, QRect(kLeft, kTop, kWidth, kHeight));
     setAlignment(Qt::AlignCenter);
-    setFont(Fonts::display(12));
+    setScaledFont(this, Fonts::display(12));
     setToolTip(QStringLiteral(" Segundos para que se acabe la partida del juego. "));
     hide();
 }
@@ -32,7 +33,7 @@ void CountdownLabel::sync() {
     const QString style =
         QStringLiteral("color: %1; background: %2; border-radius: %3px;")
             .arg(css(m_look.countdownColour(m_countdown.urgent())), css(kKeyboardPanel))
-            .arg(px(90));
+            .arg(TwipScale::of(this).px(90));
     if (style != styleSheet()) {
         setStyleSheet(style);
     }

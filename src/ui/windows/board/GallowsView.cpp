@@ -5,6 +5,7 @@
 #include "look/Twips.h"
 #include "models/board/BoardSpeech.h"
 #include "platform/Fonts.h"
+#include "platform/TwipScale.h"
 #include "round/Figure.h"
 #include "windows/QtColour.h"
 #include "windows/board/BoardAccessible.h"
@@ -13,6 +14,8 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QRegion>
+
+#include <cmath>
 
 namespace quillora {
 
@@ -31,16 +34,18 @@ QPen pen(Rgb colour, int widthPixels) {
     return p;
 }
 
-// A place in twips as pixels, with room for the widest pen around it.
-QRect pixelRect(const QRectF& twips) {
-    constexpr int kPenRoom = 6;
-    const QRectF pixels(twips.topLeft() / kTwipsPerPixel, twips.size() / kTwipsPerPixel);
-    return pixels.toAlignedRect().adjusted(-kPenRoom, -kPenRoom, kPenRoom, kPenRoom);
+// A place in twips as pixels at the board's scale, with room for the widest
+// pen around it.
+QRect pixelRect(const QRectF& twips, double factor) {
+    const int penRoom = static_cast<int>(std::ceil(6 * factor));
+    const double perTwip = factor / kTwipsPerPixel;
+    const QRectF pixels(twips.topLeft() * perTwip, twips.size() * perTwip);
+    return pixels.toAlignedRect().adjusted(-penRoom, -penRoom, penRoom, penRoom);
 }
 
 // Where a part stands, in pixels, with room for the widest pen around it; an
 // empty rectangle for a part not shown.
-QRect partRect(const Figure& figure, Figure::Part part) {
+QRect partRect(const Figure& figure, Figure::Part part, double factor) {
     if (!figure.visible(part)) {
         return {};
     }
@@ -64,7 +69,7 @@ QRect partRect(const Figure& figure, Figure::Part part) {
         break;
     }
     }
-    return pixelRect(area);
+    return pixelRect(area, factor);
 }
 
 // The little drop of sweat that shows when the figure starts to panic.
@@ -91,19 +96,32 @@ void paintPanicPicture(QPainter& p, QRectF area) {
 GallowsView::GallowsView(const Figure& figure, QWidget* parent)
     : QWidget(parent), m_figure(figure) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    setGeometry(0, 0, px(kWidthTwips), px(kHeightTwips));
-    // Nothing of the figure reaches above the beam, where the score panel
-    // flashes with every lamp: without the mask, this transparent view would
-    // be painted again over the panel after every letter.
-    setMask(QRect(0, px(kTopTwips), width(), height() - px(kTopTwips)));
+    placeInTwips(this, QRect(0, 0, kWidthTwips, kHeightTwips));
     setAccessibleRole(this, QAccessible::Graphic);
 }
 
+void GallowsView::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    // Nothing of the figure reaches above the beam, where the score panel
+    // flashes with every lamp: without the mask, this transparent view would
+    // be painted again over the panel after every letter.
+    const int top = TwipScale::of(this).px(kTopTwips);
+    setMask(QRect(0, top, width(), height() - top));
+}
+
 void GallowsView::sync() {
+    const double factor = TwipScale::of(this).factor();
+    if (factor != m_factor) {
+        // A new scale draws everything anew, the face in a font of its size.
+        m_factor = factor;
+        m_faceFont = QFont();
+        m_faceLine = QStaticText();
+        update();
+    }
     QRegion changed;
     for (int index = 0; index < Figure::PartCount; ++index) {
         const auto part = static_cast<Figure::Part>(index);
-        const QRect now = partRect(m_figure, part);
+        const QRect now = partRect(m_figure, part, m_factor);
         QRect& before = m_painted[static_cast<std::size_t>(index)];
         if (now != before) {
             changed += before;
@@ -155,13 +173,15 @@ void GallowsView::draw(QPainter& p, const QRect& area) {
     // Only what lies in the area is drawn: a strike redraws the place of the
     // part it adds, and antialiased strokes are dear to lay out even where
     // the clip then throws them away.
-    const auto inArea = [&area](QRectF twips) { return area.intersects(pixelRect(twips)); };
+    const auto inArea = [this, &area](QRectF twips) {
+        return area.intersects(pixelRect(twips, m_factor));
+    };
     const auto lineInArea = [&inArea](TwipLine l) {
         return inArea(QRectF(QPointF(l.x1, l.y1), QPointF(l.x2, l.y2)).normalized());
     };
     p.setRenderHint(QPainter::Antialiasing);
     p.save();
-    p.scale(1.0 / kTwipsPerPixel, 1.0 / kTwipsPerPixel);
+    p.scale(m_factor / kTwipsPerPixel, m_factor / kTwipsPerPixel);
 
     p.setPen(Qt::NoPen);
     p.setBrush(qc(kGallowsWood));
@@ -219,14 +239,14 @@ void GallowsView::draw(QPainter& p, const QRect& area) {
         const QString face = QString::fromStdString(m_figure.faceText());
         if (m_faceLine.text() != face) {
             if (m_faceFont == QFont()) {
-                m_faceFont = Fonts::face(12);
+                m_faceFont = TwipScale(m_factor).font(Fonts::face(12));
             }
             m_faceLine.setText(face);
             m_faceLine.setTextFormat(Qt::PlainText);
             m_faceLine.prepare(QTransform(), m_faceFont);
         }
         const QRectF place = box(m_figure.faceBox());
-        const QPointF centre = place.center() / kTwipsPerPixel;
+        const QPointF centre = place.center() * m_factor / kTwipsPerPixel;
         const QSizeF size = m_faceLine.size();
         p.setFont(m_faceFont);
         p.setPen(Qt::black);

@@ -34,6 +34,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     // Draws the gallows and the figure; parts wholly outside area may be
@@ -51,6 +52,8 @@ private:
     // is painted again, not the gallows and the controls over it.
     std::array<QRect, Figure::PartCount> m_painted{};
     std::string m_paintedFace;
+    // The scale the parts were last measured and drawn at.
+    double m_factor = 1.0;
     QFont m_faceFont;
     QStaticText m_faceLine;
 };

@@ -6,6 +6,7 @@
 #include "models/board/BoardSpeech.h"
 #include "models/board/KeyFaces.h"
 #include "platform/Fonts.h"
+#include "platform/TwipScale.h"
 #include "round/Round.h"
 #include "windows/QtColour.h"
 #include "windows/board/BoardAccessible.h"
@@ -35,7 +36,7 @@ KeyboardView::KeyboardView(const Round& round, const AnswerBox& answer, KeyFaces
       m_changed(std::move(changed)), m_keyFont(Fonts::display(kKeyFontPoints)),
       m_wideKeyFont(Fonts::display(kWideKeyFontPoints)) {
     setMouseTracking(true);
-    setGeometry(px(kLeftTwips), px(kTopTwips), px(kWidthTwips), px(kHeightTwips));
+    placeInTwips(this, QRect(kLeftTwips, kTopTwips, kWidthTwips, kHeightTwips));
     setAccessibleName(QStringLiteral("Teclado"));
 }
 
@@ -60,7 +61,18 @@ KeyboardView::Face KeyboardView::faceOf(int key) const {
                 key == kWriteKey ? m_answer.writeKeyCaption() : std::u32string(keyCaption(key))};
 }
 
+void KeyboardView::followScale() {
+    const TwipScale scale = TwipScale::of(this);
+    if (scale.factor() != m_scale.factor()) {
+        // The captions were laid out in the fonts of the old scale.
+        m_scale = scale;
+        m_captions = {};
+        update();
+    }
+}
+
 void KeyboardView::sync() {
+    followScale();
     // The digit panel coming or going changes the ground under the keys.
     const bool digits = m_round.digitPanelVisible();
     if (digits != m_digitsShown) {
@@ -103,7 +115,7 @@ bool KeyboardView::keyShown(int key) const {
     if (place.panel == KeyPanel::Digits) {
         return digits && round.board().keyVisible(key);
     }
-    if (digits && place.top == 0 && px(kLeftTwips + place.left) >= px(kDigitsLeftTwips)) {
+    if (digits && place.top == 0 && kLeftTwips + place.left >= kDigitsLeftTwips) {
         return false; // under the digit panel
     }
     return key >= 38 || round.board().keyVisible(key);
@@ -112,7 +124,7 @@ bool KeyboardView::keyShown(int key) const {
 QRect KeyboardView::keyRect(int key) const {
     const KeyPlace place = keyPlace(key);
     const int panelLeft = place.panel == KeyPanel::Digits ? kDigitsLeftTwips - kLeftTwips : 0;
-    return QRect(px(panelLeft + place.left), px(place.top), px(place.width), px(place.height));
+    return m_scale.rect(panelLeft + place.left, place.top, place.width, place.height);
 }
 
 int KeyboardView::keyAt(QPoint point) const {
@@ -142,24 +154,26 @@ bool KeyboardView::event(QEvent* event) {
 }
 
 void KeyboardView::paintEvent(QPaintEvent* event) {
+    followScale();
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
     p.fillRect(event->rect(), qc(kKeyboardPanel));
     if (m_round.digitPanelVisible()) {
-        p.fillRect(QRect(px(kDigitsLeftTwips - kLeftTwips), 0, px(kDigitsWidthTwips),
-                         px(kDigitsHeightTwips)),
-                   qc(kKeyboardPanel));
+        p.fillRect(
+            m_scale.rect(kDigitsLeftTwips - kLeftTwips, 0, kDigitsWidthTwips, kDigitsHeightTwips),
+            qc(kKeyboardPanel));
     }
     for (int key = 0; key < kKeyCount; ++key) {
         if (!keyShown(key) || !event->rect().intersects(keyRect(key))) {
             continue;
         }
-        const QRectF r = QRectF(keyRect(key)).adjusted(1.5, 1.5, -1.5, -1.5);
+        const qreal inset = m_scale.pixels(1.5);
+        const QRectF r = QRectF(keyRect(key)).adjusted(inset, inset, -inset, -inset);
         const KeyLook look = m_mouse.face(key);
         p.setPen(Qt::NoPen);
         p.setBrush(qc(look.face));
-        p.drawRoundedRect(r, 5, 5);
-        p.setFont(key >= 38 ? m_wideKeyFont : m_keyFont);
+        p.drawRoundedRect(r, m_scale.pixels(5.0), m_scale.pixels(5.0));
+        p.setFont(keyFont(key));
         p.setPen(qc(look.caption));
         const QStaticText& caption = captionText(key);
         const QSizeF size = caption.size();
@@ -174,7 +188,7 @@ const QStaticText& KeyboardView::captionText(int key) {
     if (text.text() != caption) {
         text.setText(caption);
         text.setTextFormat(Qt::PlainText);
-        text.prepare(QTransform(), key >= 38 ? m_wideKeyFont : m_keyFont);
+        text.prepare(QTransform(), keyFont(key));
     }
     return text;
 }

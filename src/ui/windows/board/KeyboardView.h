@@ -4,6 +4,7 @@
 
 #include "look/BoardLook.h"
 #include "models/board/BoardAreas.h"
+#include "platform/TwipScale.h"
 #include "round/Keyboard.h"
 
 #include <QFont>
@@ -92,8 +93,13 @@ private:
     bool m_digitsShown = false;
     // Built once: the database lookup behind a font is too dear for every key
     // of every paint.
-    QFont m_keyFont;
-    QFont m_wideKeyFont;
+    // The board's scale, followed as the keys are brought in step and painted.
+    void followScale();
+    const QFont& keyFont(int key) { return (key >= 38 ? m_wideKeyFont : m_keyFont).at(m_scale); }
+
+    TwipScale m_scale;
+    ScaledFont m_keyFont;
+    ScaledFont m_wideKeyFont;
     std::array<QStaticText, kKeyCount> m_captions;
 };
 

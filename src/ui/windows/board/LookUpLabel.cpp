@@ -5,6 +5,7 @@
 #include "look/Twips.h"
 #include "models/board/BoardLookUps.h"
 #include "platform/Fonts.h"
+#include "platform/TwipScale.h"
 #include "round/Round.h"
 #include "windows/ButtonLike.h"
 #include "windows/board/BoardAccessible.h"
@@ -19,9 +20,9 @@ constexpr int kLeft = 240, kTop = 4380, kWidth = 2520, kHeight = 360;
 
 LookUpLabel::LookUpLabel(const Round& round, BoardLookUps& lookUps, QWidget* board)
     : QLabel(QStringLiteral("¿Qué es eso?"), board), m_round(round), m_lookUps(lookUps) {
-    setGeometry(px(kLeft), px(kTop), px(kWidth), px(kHeight));
+    placeInTwips(this, QRect(kLeft, kTop, kWidth, kHeight));
     setAlignment(Qt::AlignCenter);
-    setFont(Fonts::display(10));
+    setScaledFont(this, Fonts::display(10));
     setCursor(Qt::PointingHandCursor);
     setAccessibleRole(this, QAccessible::PushButton);
     new ButtonLike(

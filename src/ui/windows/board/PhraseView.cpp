@@ -6,6 +6,7 @@
 #include "models/board/BoardAppearance.h"
 #include "models/board/BoardSpeech.h"
 #include "platform/Fonts.h"
+#include "platform/TwipScale.h"
 #include "round/Round.h"
 #include "windows/QtColour.h"
 #include "windows/board/BoardAccessible.h"
@@ -31,7 +32,7 @@ PhraseView::PhraseView(const Round& round, const BoardAppearance& look, QWidget*
     setAccessibleName(QStringLiteral("Frase"));
     const int width = kColumnPitch * (PhraseBoard::kColumns - 1) + kCellSize;
     const int height = kRowPitch * 2 + kCellSize + 30;
-    setGeometry(px(kLeftTwips), px(kTopTwips), px(width), px(height));
+    placeInTwips(this, QRect(kLeftTwips, kTopTwips, width, height));
 }
 
 QFont PhraseView::makeCellFont() {
@@ -42,7 +43,7 @@ QFont PhraseView::makeCellFont() {
 QRect PhraseView::cellRect(int cell) const {
     const int row = (cell - 1) / PhraseBoard::kColumns;
     const int column = (cell - 1) % PhraseBoard::kColumns;
-    return QRect(px(kColumnPitch * column), px(kRowPitch * row), px(kCellSize), px(kCellSize));
+    return m_scale.rect(kColumnPitch * column, kRowPitch * row, kCellSize, kCellSize);
 }
 
 PhraseView::Face PhraseView::faceOf(int cell) const {
@@ -54,13 +55,27 @@ QRect PhraseView::paintedRect(int cell) const {
     const int column = (cell - 1) % PhraseBoard::kColumns;
     // The underline runs below the cell's box; antialiased edges spill a
     // pixel round it.
-    return QRect(px(kColumnPitch * column), px(kRowPitch * row), px(kCellSize),
-                 px(kUnderlineBelowTop + 2 * kTwipsPerPixel))
+    const int spill = m_scale.pixels(1);
+    return m_scale
+        .rect(kColumnPitch * column, kRowPitch * row, kCellSize,
+              kUnderlineBelowTop + 2 * kTwipsPerPixel)
         .united(cellRect(cell))
-        .adjusted(-1, -1, 1, 1);
+        .adjusted(-spill, -spill, spill, spill);
+}
+
+void PhraseView::followScale() {
+    const TwipScale scale = TwipScale::of(this);
+    if (scale.factor() != m_scale.factor()) {
+        // The letters were laid out in the font of the old scale.
+        m_scale = scale;
+        m_cellFont = scale.font(makeCellFont());
+        m_letters.clear();
+        update();
+    }
 }
 
 void PhraseView::sync() {
+    followScale();
     QList<int> changed;
     for (int i = 1; i <= PhraseBoard::kCells; ++i) {
         const auto index = static_cast<std::size_t>(i - 1);
@@ -80,6 +95,7 @@ void PhraseView::sync() {
 }
 
 void PhraseView::paintEvent(QPaintEvent* event) {
+    followScale();
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
     p.setRenderHint(QPainter::TextAntialiasing);
@@ -88,7 +104,8 @@ void PhraseView::paintEvent(QPaintEvent* event) {
     // The cells are placed in twips and painted in pixels: text scaled down
     // from twips is laid out afresh at every paint, where a letter's kept
     // layout is only copied from the glyph cache.
-    const auto pixels = [](double twips) { return twips / kTwipsPerPixel; };
+    const double perTwip = m_scale.factor() / kTwipsPerPixel;
+    const auto pixels = [perTwip](double twips) { return twips * perTwip; };
     const PhraseBoard& board = m_round.board();
     const Rgb miss = m_look.missColour();
     for (int i = 1; i <= PhraseBoard::kCells; ++i) {
@@ -111,7 +128,7 @@ void PhraseView::paintEvent(QPaintEvent* event) {
             p.drawStaticText(box.center() - QPointF(size.width() / 2, size.height() / 2), letter);
         }
         if (cell.underline) {
-            p.setPen(QPen(qc(look.underline), 2, Qt::SolidLine, Qt::FlatCap));
+            p.setPen(QPen(qc(look.underline), m_scale.pixels(2.0), Qt::SolidLine, Qt::FlatCap));
             const double y = pixels(kRowPitch * row + kUnderlineBelowTop);
             p.drawLine(QPointF(pixels(kColumnPitch * column), y),
                        QPointF(pixels(kColumnPitch * column + kUnderlineLength), y));

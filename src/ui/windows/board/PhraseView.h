@@ -5,6 +5,8 @@
 #include "look/BoardLook.h"
 #include "round/PhraseBoard.h"
 
+#include "platform/TwipScale.h"
+
 #include <QFont>
 #include <QStaticText>
 #include <QWidget>
@@ -56,6 +58,10 @@ private:
 
     const Round& m_round;
     const BoardAppearance& m_look;
+    // The board's scale, followed as the cells are brought in step and painted.
+    void followScale();
+
+    TwipScale m_scale;
     QFont m_cellFont = makeCellFont();
     std::unordered_map<char32_t, QStaticText> m_letters;
     std::array<QString, PhraseBoard::kCells> m_spoken;

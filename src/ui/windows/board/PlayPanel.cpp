@@ -5,6 +5,7 @@
 #include "look/Twips.h"
 #include "models/board/BoardCommands.h"
 #include "platform/Fonts.h"
+#include "platform/TwipScale.h"
 #include "round/Round.h"
 #include "scoring/Points.h"
 #include "state/Settings.h"
@@ -31,15 +32,15 @@ PlayPanel::PlayPanel(const Round& round, const Scoring& scoring, BoardCommands& 
                      std::function<void()> play, QWidget* board)
     : QWidget(board), m_round(round), m_scoring(scoring), m_commands(commands),
       m_settings(settings), m_changed(std::move(changed)), m_play(std::move(play)) {
-    setGeometry(px(kLeft), px(kTop), px(kWidth), px(kHeight));
+    placeInTwips(this, QRect(kLeft, kTop, kWidth, kHeight));
     setAccessibleRole(this, QAccessible::Grouping);
     setAccessibleName(QStringLiteral("JUGAR"));
     m_gameButton = new QPushButton(this);
-    m_gameButton->setGeometry(0, 0, px(kWidth), px(kHeight));
+    placeInTwips(m_gameButton, QRect(0, 0, kWidth, kHeight));
     // Tab reaches JUGAR, a click leaves the focus on the board.
     new ButtonLike(
         m_gameButton, [this] { m_gameButton->click(); }, Qt::TabFocus);
-    m_gameButton->setFont(Fonts::display(13));
+    setScaledFont(m_gameButton, Fonts::display(13));
     m_gameButton->setCursor(Qt::PointingHandCursor);
     connect(m_gameButton, &QPushButton::clicked, this, [this] { m_play(); });
     m_gameButton->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -47,7 +48,7 @@ PlayPanel::PlayPanel(const Round& round, const Scoring& scoring, BoardCommands& 
             [this](const QPoint& at) { buildPlayMenu()->popup(m_gameButton->mapToGlobal(at)); });
 
     m_restoreLabel = new QLabel(this);
-    m_restoreLabel->setGeometry(0, 0, px(kWidth), px(kHeight));
+    placeInTwips(m_restoreLabel, QRect(0, 0, kWidth, kHeight));
     m_restoreLabel->setCursor(Qt::PointingHandCursor);
     m_restoreLabel->installEventFilter(this);
     setAccessibleRole(m_restoreLabel, QAccessible::Button);
@@ -68,7 +69,8 @@ void PlayPanel::paint(const QString& buttonStyle, const QString& restoreStyle) {
 
 void PlayPanel::sync() {
     const bool compact = m_scoring.compactLayout();
-    move(px(compact ? kCompactLeft : kLeft), px(compact ? kCompactTop : kTop));
+    placeInTwips(
+        this, QRect(compact ? kCompactLeft : kLeft, compact ? kCompactTop : kTop, kWidth, kHeight));
     m_gameButton->setText(qs(m_round.playCaption()));
     m_gameButton->setEnabled(m_scoring.playEnabled());
     const bool hidden = m_settings.playButtonHidden;

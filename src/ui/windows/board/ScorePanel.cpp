@@ -7,6 +7,7 @@
 #include "models/board/ScorePulse.h"
 #include "models/board/SidePanels.h"
 #include "platform/Fonts.h"
+#include "platform/TwipScale.h"
 #include "scoring/Points.h"
 #include "windows/QtColour.h"
 #include "windows/RoundedLabel.h"
@@ -29,7 +30,7 @@ ScorePanel::ScorePanel(Scoring& scoring, const ScorePulse& pulse, PlayersTurn& t
                        std::function<void()> names, QWidget* board)
     : QWidget(board), m_scoring(scoring), m_pulse(pulse), m_turn(turn), m_panels(panels),
       m_changed(std::move(changed)), m_names(std::move(names)) {
-    setGeometry(px(kLeft), px(kTop), px(kWidth), px(kHeight));
+    placeInTwips(this, QRect(kLeft, kTop, kWidth, kHeight));
     setAccessibleRole(this, QAccessible::Grouping);
     setAccessibleName(QStringLiteral("Marcador"));
 
@@ -37,17 +38,16 @@ ScorePanel::ScorePanel(Scoring& scoring, const ScorePulse& pulse, PlayersTurn& t
     m_scoreFrame->setObjectName(QStringLiteral("scoreFrame"));
     setAccessibleRole(m_scoreFrame, QAccessible::Grouping);
     m_scoreFrame->setAccessibleName(QStringLiteral("Puntos"));
-    m_scoreFrame->setGeometry(0, 0, px(kWidth), px(kHeight));
+    placeInTwips(m_scoreFrame, QRect(0, 0, kWidth, kHeight));
     // The caption is the frame's own text, drawn into its kept looks with
     // the ground: the lamp recolours the frame after every letter.
     m_scoreFrame->setText(QStringLiteral(" Puntos "));
-    m_scoreFrame->setContentsMargins(0, px(15), 0, 0);
     m_scoreFrame->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    m_scoreFrame->setFont(Fonts::display(7));
+    setScaledFont(m_scoreFrame, Fonts::display(7));
     m_scoreLabel = new RoundedLabel(m_scoreFrame);
-    m_scoreLabel->setGeometry(0, px(kCaptionHeight), px(kWidth), px(kHeight - 240));
+    placeInTwips(m_scoreLabel, QRect(0, kCaptionHeight, kWidth, kHeight - 240));
     m_scoreLabel->setAlignment(Qt::AlignCenter);
-    m_scoreLabel->setFont(Fonts::display(14));
+    setScaledFont(m_scoreLabel, Fonts::display(14));
     m_scoreLabel->setAccessibleDescription(QStringLiteral("Puntos"));
     // The score's menu is there only while it has something to offer.
     m_scoreFrame->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -61,11 +61,11 @@ ScorePanel::ScorePanel(Scoring& scoring, const ScorePulse& pulse, PlayersTurn& t
     m_playerFrame->setObjectName(QStringLiteral("playerFrame"));
     setAccessibleRole(m_playerFrame, QAccessible::Grouping);
     m_playerFrame->setAccessibleName(QStringLiteral("Jugador"));
-    m_playerFrame->setGeometry(0, 0, px(kWidth), px(kHeight));
+    placeInTwips(m_playerFrame, QRect(0, 0, kWidth, kHeight));
     m_player1Label = new RoundedLabel(m_playerFrame);
-    m_player1Label->setGeometry(0, 0, px(kWidth), px(kHeight));
+    placeInTwips(m_player1Label, QRect(0, 0, kWidth, kHeight));
     m_player1Label->setAlignment(Qt::AlignCenter);
-    m_player1Label->setFont(Fonts::display(11));
+    setScaledFont(m_player1Label, Fonts::display(11));
     m_player1Label->setMouseTracking(true);
     m_player1Label->setContextMenuPolicy(Qt::CustomContextMenu);
     m_player1Label->installEventFilter(this);
@@ -79,6 +79,7 @@ void ScorePanel::paint(const QColor& scoreColour, const QColor& playerColour) {
 }
 
 void ScorePanel::sync() {
+    m_scoreFrame->setContentsMargins(0, TwipScale::of(this).px(15), 0, 0);
     const bool points = m_scoring.pointsCount();
     m_scoreFrame->setVisible(points);
     m_playerFrame->setVisible(!points);

@@ -6,6 +6,7 @@
 #include "models/board/BoardAppearance.h"
 #include "models/board/BoardSessions.h"
 #include "platform/Fonts.h"
+#include "platform/TwipScale.h"
 #include "storage/ConfigFile.h"
 #include "windows/ButtonLike.h"
 #include "windows/QtColour.h"
@@ -59,8 +60,8 @@ SessionPanel::SessionPanel(BoardSessions& sessions, const BoardAppearance& look,
     setAccessibleName(QStringLiteral("Sesión"));
 
     m_userLabel = new QLabel(QStringLiteral(" Usuario"), this);
-    m_userLabel->setGeometry(px(240), px(180), px(5400), px(420));
-    m_userLabel->setFont(Fonts::display(14));
+    placeInTwips(m_userLabel, QRect(240, 180, 5400, 420));
+    setScaledFont(m_userLabel, Fonts::display(14));
     m_userLabel->setCursor(Qt::PointingHandCursor);
     m_userLabel->setContextMenuPolicy(Qt::CustomContextMenu);
     m_userLabel->installEventFilter(this);
@@ -89,12 +90,12 @@ SessionPanel::SessionPanel(BoardSessions& sessions, const BoardAppearance& look,
     m_userBox->setPlaceholderText(QStringLiteral("Nombre"));
     m_userBox->setAccessibleName(QStringLiteral("Nombre"));
     m_userBox->setValidator(new StorableNameValidator(m_userBox));
-    m_userBox->setGeometry(px(5880), px(180), px(3240), px(420));
-    m_userBox->setFont(Fonts::display(11));
+    placeInTwips(m_userBox, QRect(5880, 180, 3240, 420));
+    setScaledFont(m_userBox, Fonts::display(11));
     m_userBox->installEventFilter(this);
 
     m_sessionsList = new QListWidget(this);
-    m_sessionsList->setFont(Fonts::display(12));
+    setScaledFont(m_sessionsList, Fonts::display(12));
     m_sessionsList->setFrameShape(QFrame::NoFrame);
     m_sessionsList->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_sessionsList->setAccessibleName(QStringLiteral("Sesiones"));
@@ -106,31 +107,30 @@ SessionPanel::SessionPanel(BoardSessions& sessions, const BoardAppearance& look,
         m_sessionsList, [this] { switchTo(m_sessionsList->currentItem()); }, Qt::TabFocus);
 
     m_keyFrame = new QWidget(this);
-    m_keyFrame->setGeometry(px(kKeyFrameLeft), px(kKeyFrameTop), px(kKeyFrameWidth),
-                            px(kKeyFrameHeight));
+    placeInTwips(m_keyFrame, QRect(kKeyFrameLeft, kKeyFrameTop, kKeyFrameWidth, kKeyFrameHeight));
     m_keyLabel = new QLabel(m_keyFrame);
-    m_keyLabel->setGeometry(0, 0, px(kKeyFrameWidth), px(480));
+    placeInTwips(m_keyLabel, QRect(0, 0, kKeyFrameWidth, 480));
     m_keyLabel->setAlignment(Qt::AlignCenter);
-    m_keyLabel->setFont(Fonts::display(14));
+    setScaledFont(m_keyLabel, Fonts::display(14));
     for (QLineEdit** box : {&m_keyBox, &m_key2Box}) {
         *box = new QLineEdit(m_keyFrame);
-        (*box)->setGeometry(px(480), px(660), px(kKeyFrameWidth - 1680), px(540));
+        placeInTwips(*box, QRect(480, 660, kKeyFrameWidth - 1680, 540));
         (*box)->setEchoMode(QLineEdit::Password);
-        (*box)->setFont(Fonts::display(14));
+        setScaledFont(*box, Fonts::display(14));
         (*box)->setAlignment(Qt::AlignCenter);
         (*box)->installEventFilter(this);
         (*box)->setAccessibleName(QStringLiteral("Clave"));
     }
     m_enterButton = new QPushButton(QStringLiteral(">"), m_keyFrame);
-    m_enterButton->setGeometry(px(kKeyFrameWidth - 1080), px(660), px(600), px(540));
-    m_enterButton->setFont(Fonts::display(14));
+    placeInTwips(m_enterButton, QRect(kKeyFrameWidth - 1080, 660, 600, 540));
+    setScaledFont(m_enterButton, Fonts::display(14));
     new ButtonLike(
         m_enterButton, [this] { enter(); }, Qt::TabFocus);
     m_enterButton->setAccessibleName(QStringLiteral("Entrar"));
     connect(m_enterButton, &QPushButton::clicked, this, &SessionPanel::enter);
 
     m_cancelLabel = new QLabel(QStringLiteral(" Cerrar "), this);
-    m_cancelLabel->setFont(Fonts::display(10));
+    setScaledFont(m_cancelLabel, Fonts::display(10));
     m_cancelLabel->setCursor(Qt::PointingHandCursor);
     m_cancelLabel->installEventFilter(this);
     setAccessibleRole(m_cancelLabel, QAccessible::Button);
@@ -146,7 +146,7 @@ SessionPanel::SessionPanel(BoardSessions& sessions, const BoardAppearance& look,
         QStringLiteral("El progreso de la partida no se guarda, termine si piensa continuar."),
         this);
     m_warningLabel->setAlignment(Qt::AlignCenter);
-    m_warningLabel->setFont(Fonts::display(10));
+    setScaledFont(m_warningLabel, Fonts::display(10));
     m_warningLabel->setWordWrap(true);
 
     hide();
@@ -203,8 +203,8 @@ void SessionPanel::enter() {
 
 void SessionPanel::sync() {
     const SessionPanelModel& panel = m_sessions.panel();
-    const int boardWidth = parentWidget()->width();
-    setGeometry(0, 0, boardWidth, px(panel.height()));
+    const TwipScale scale = TwipScale::of(this);
+    placeInTwips(this, QRect(0, 0, kBoardWidthTwips, panel.height()));
     QWidget* focused = QApplication::focusWidget();
     const bool inside = focused && (focused == this || isAncestorOf(focused));
     const bool onKeyBox = focused && (focused == m_keyBox || focused == m_key2Box);
@@ -212,7 +212,7 @@ void SessionPanel::sync() {
     // A panel on its way up hands the keys back to the board, before its
     // controls go and Qt hands them to the board's next button.
     if (inside && (!panel.shown() || panel.closing())) {
-        parentWidget()->setFocus();
+        window()->setFocus();
     }
     setVisible(panel.shown());
     // A style sheet polishes every child again: applied only when the
@@ -221,8 +221,9 @@ void SessionPanel::sync() {
         QStringLiteral(
             "#sessionFrame { background: %1; } QLabel { color: white; }"
             "QListWidget { background: %2; color: white; }"
-            "QPushButton { background: %2; color: white; border: none; border-radius: 6px; }")
-            .arg(css(m_look.gameColour()), css(m_look.shade())) +
+            "QPushButton { background: %2; color: white; border: none; border-radius: %3px; }")
+            .arg(css(m_look.gameColour()), css(m_look.shade()))
+            .arg(scale.pixels(6)) +
         focusMarkStyle(QStringLiteral("QLineEdit")) +
         focusMarkStyle(QStringLiteral("QListWidget"), true) +
         focusMarkStyle(QStringLiteral("#sessionFrame"), true);
@@ -240,16 +241,17 @@ void SessionPanel::sync() {
     // Filled again only when the users changed: the list slides a step
     // every 10 ms.
     std::vector<Sessions::Entry> entries = m_sessions.entries();
-    if (entries != m_entries) {
+    if (entries != m_entries || scale.factor() != m_entriesFactor) {
         m_entries = std::move(entries);
+        m_entriesFactor = scale.factor();
         m_sessionsList->clear();
         for (const auto& entry : m_entries) {
             auto* item = new QListWidgetItem(qs(entry.name + " "), m_sessionsList);
             item->setData(Qt::UserRole, entry.slot);
-            item->setSizeHint(QSize(px(5400), px(SessionPanelModel::kEntryHeight)));
+            item->setSizeHint(QSize(scale.px(5400), scale.px(SessionPanelModel::kEntryHeight)));
         }
     }
-    m_sessionsList->setGeometry(px(240), px(panel.listTop()), px(5400), px(panel.listHeight()));
+    placeInTwips(m_sessionsList, QRect(240, panel.listTop(), 5400, panel.listHeight()));
     m_sessionsList->setVisible(panel.listShown());
     m_sessionsList->raise();
 
@@ -262,9 +264,9 @@ void SessionPanel::sync() {
     }
     m_keyBox->setVisible(!panel.secondBoxShown());
     m_key2Box->setVisible(panel.secondBoxShown());
-    m_cancelLabel->setGeometry(boardWidth - px(1440), px(180), px(1200), px(420));
+    placeInTwips(m_cancelLabel, QRect(kBoardWidthTwips - 1440, 180, 1200, 420));
     m_cancelLabel->setVisible(panel.cancelShown());
-    m_warningLabel->setGeometry(px(1200), px(3720), boardWidth - px(2400), px(720));
+    placeInTwips(m_warningLabel, QRect(1200, 3720, kBoardWidthTwips - 2400, 720));
     m_warningLabel->setVisible(panel.warningShown() && panel.keyFrameShown());
     // The key box takes the focus as the panel arrives, when it is locked or
     // unlocked, and whenever the focus is outside the panel; a control the

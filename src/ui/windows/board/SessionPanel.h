@@ -65,6 +65,7 @@ private:
     std::function<void()> m_changed;
     QString m_style;
     std::vector<Sessions::Entry> m_entries;
+    double m_entriesFactor = 1.0;
     QLabel* m_userLabel = nullptr;
     QLineEdit* m_userBox = nullptr;
     QListWidget* m_sessionsList = nullptr;

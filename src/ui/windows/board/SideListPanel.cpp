@@ -4,6 +4,7 @@
 
 #include "look/Twips.h"
 #include "platform/Fonts.h"
+#include "platform/TwipScale.h"
 #include "windows/ButtonLike.h"
 #include "windows/QtColour.h"
 #include "windows/board/BoardAccessible.h"
@@ -27,7 +28,7 @@ SideListPanel::SideListPanel(const QString& name, const QString& title, std::fun
     : QWidget(board), m_close(std::move(close)), m_boardKeys(std::move(boardKeys)) {
     setObjectName(name);
     setAttribute(Qt::WA_StyledBackground);
-    setGeometry(px(kLeft), px(kTop), px(kWidth), px(kHeight));
+    placeInTwips(this, QRect(kLeft, kTop, kWidth, kHeight));
     setAccessibleRole(this, QAccessible::Grouping);
     QString spoken = title.trimmed();
     if (spoken.endsWith(QLatin1Char(':'))) {
@@ -36,12 +37,12 @@ SideListPanel::SideListPanel(const QString& name, const QString& title, std::fun
     setAccessibleName(spoken);
 
     auto* caption = new QLabel(title, this);
-    caption->setGeometry(px(kMargin), px(45), px(kWidth - 2 * kMargin), px(540));
-    caption->setFont(Fonts::display(8));
+    placeInTwips(caption, QRect(kMargin, 45, kWidth - 2 * kMargin, 540));
+    setScaledFont(caption, Fonts::display(8));
     caption->setWordWrap(true);
     m_closeLabel = new QLabel(QStringLiteral(" Cerrar "), this);
-    m_closeLabel->setGeometry(px(kWidth - 960), px(kHeight - 360), px(840), px(300));
-    m_closeLabel->setFont(Fonts::display(8));
+    placeInTwips(m_closeLabel, QRect(kWidth - 960, kHeight - 360, 840, 300));
+    setScaledFont(m_closeLabel, Fonts::display(8));
     m_closeLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_closeLabel->setCursor(Qt::PointingHandCursor);
     m_closeLabel->installEventFilter(this);
@@ -50,9 +51,8 @@ SideListPanel::SideListPanel(const QString& name, const QString& title, std::fun
         m_closeLabel, [this] { m_close(); }, Qt::TabFocus);
 
     m_list = new QListWidget(this);
-    m_list->setGeometry(px(kMargin), px(kListTop), px(kWidth - 2 * kMargin),
-                        px(kHeight - kListTop - 420));
-    m_list->setFont(Fonts::display(8));
+    placeInTwips(m_list, QRect(kMargin, kListTop, kWidth - 2 * kMargin, kHeight - kListTop - 420));
+    setScaledFont(m_list, Fonts::display(8));
     m_list->setAccessibleName(title.trimmed());
     m_list->installEventFilter(this);
     setFocusProxy(m_list);
@@ -67,7 +67,7 @@ void SideListPanel::paint(const QString& gameColour, const QString& shade) {
                                  "QListWidget::item { padding: 1px 2px; }"
                                  "QListWidget::item:selected { background: %4; color: white; }")
                       .arg(objectName(), gameColour)
-                      .arg(px(90))
+                      .arg(TwipScale::of(this).px(90))
                       .arg(shade) +
                   focusMarkStyle(QStringLiteral("QListWidget")));
 }
@@ -86,7 +86,7 @@ void SideListPanel::present(bool shown, const std::vector<std::string>& entries)
         const bool hadFocus = isAncestorOf(QApplication::focusWidget());
         hide();
         if (hadFocus) {
-            parentWidget()->setFocus();
+            window()->setFocus();
         }
         return;
     }

@@ -4,6 +4,7 @@
 
 #include "look/Twips.h"
 #include "models/board/SidePanelModel.h"
+#include "platform/TwipScale.h"
 #include "windows/board/BoardAccessible.h"
 
 namespace quillora {
@@ -18,14 +19,14 @@ SidePanel::SidePanel(const SidePanelModel& model, QWidget* board) : QWidget(boar
     setAttribute(Qt::WA_StyledBackground);
     setAccessibleRole(this, QAccessible::Grouping);
     setAccessibleName(QStringLiteral("Panel lateral"));
-    setGeometry(px(kLeft), px(kTop), px(kWidth), px(kHeight));
+    placeInTwips(this, QRect(kLeft, kTop, kWidth, kHeight));
     hide();
 }
 
 void SidePanel::paint(const QString& gameColour) {
     setStyleSheet(QStringLiteral("#sideFrame { background: %1; border-radius: %2px; }")
                       .arg(gameColour)
-                      .arg(px(90)));
+                      .arg(TwipScale::of(this).px(90)));
 }
 
 void SidePanel::sync() {

@@ -4,6 +4,7 @@
 
 #include "look/Twips.h"
 #include "platform/Fonts.h"
+#include "platform/TwipScale.h"
 #include "round/Round.h"
 #include "scoring/Points.h"
 #include "state/Settings.h"
@@ -20,8 +21,8 @@ SmallPlayButton::SmallPlayButton(const Round& round, const Scoring& scoring,
                                  QWidget* board)
     : QPushButton(QStringLiteral("JUGAR"), board), m_round(round), m_scoring(scoring),
       m_settings(settings) {
-    setGeometry(px(kLeft), px(kTop), px(kWidth), px(kHeight));
-    setFont(Fonts::display(5));
+    placeInTwips(this, QRect(kLeft, kTop, kWidth, kHeight));
+    setScaledFont(this, Fonts::display(5));
     setCursor(Qt::PointingHandCursor);
     // Only Tab gives it the focus: after a click, Enter still plays from
     // the board, and letters typed on it are guesses either way.

@@ -5,6 +5,7 @@
 #include "look/Twips.h"
 #include "models/board/BoardCommands.h"
 #include "models/board/KeyFaces.h"
+#include "platform/TwipScale.h"
 #include "state/Settings.h"
 #include "windows/ButtonLike.h"
 #include "windows/QtColour.h"
@@ -30,7 +31,8 @@ SoundButton::SoundButton(BoardCommands& commands, KeyFaces& faces, const Setting
                          std::function<void()> changed, QWidget* board)
     : QWidget(board), m_commands(commands), m_faces(faces), m_settings(settings),
       m_changed(std::move(changed)) {
-    setGeometry(px(kLeft), px(kTop), kPictureWidth + 2 * kMargin, kPictureHeight + 2 * kMargin);
+    placeInTwips(this, QRect(kLeft, kTop, (kPictureWidth + 2 * kMargin) * kTwipsPerPixel,
+                             (kPictureHeight + 2 * kMargin) * kTwipsPerPixel));
     setCursor(Qt::PointingHandCursor);
     setMouseTracking(true);
     setAccessibleRole(this, QAccessible::Button);
@@ -83,12 +85,15 @@ void SoundButton::paintPicture(QPainter& p, QRectF box, bool soundOn) {
 
 void SoundButton::paintEvent(QPaintEvent*) {
     QPainter p(this);
-    const QRectF frame = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+    const TwipScale scale = TwipScale::of(this);
+    const qreal line = scale.pixels(1.0);
+    const QRectF frame = QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2);
     // The rectangle fills while the button is held.
-    p.setPen(qc(kPictureButtonBack));
+    p.setPen(QPen(qc(kPictureButtonBack), line));
     p.setBrush(m_pressed ? QBrush(qc(kPictureButtonBack)) : QBrush(Qt::NoBrush));
     p.drawRect(frame);
-    paintPicture(p, QRectF(kMargin, kMargin, kPictureWidth, kPictureHeight), m_settings.sounds);
+    const qreal margin = scale.pixels(static_cast<qreal>(kMargin));
+    paintPicture(p, QRectF(rect()).adjusted(margin, margin, -margin, -margin), m_settings.sounds);
 }
 
 void SoundButton::mousePressEvent(QMouseEvent* event) {

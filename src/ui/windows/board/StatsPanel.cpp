@@ -5,6 +5,7 @@
 #include "look/Twips.h"
 #include "models/board/StatsPanelModel.h"
 #include "platform/Fonts.h"
+#include "platform/TwipScale.h"
 #include "ports/Announcer.h"
 #include "windows/ButtonLike.h"
 #include "windows/QtColour.h"
@@ -53,8 +54,8 @@ constexpr std::array<Line, 9> kLines{{
 QLabel* label(const QString& text, QWidget* parent, QRect twips, double points,
               Qt::Alignment align) {
     auto* l = new QLabel(text, parent);
-    l->setGeometry(px(twips.x()), px(twips.y()), px(twips.width()), px(twips.height()));
-    l->setFont(Fonts::display(points));
+    placeInTwips(l, twips);
+    setScaledFont(l, Fonts::display(points));
     l->setAlignment(align | Qt::AlignVCenter);
     return l;
 }
@@ -84,7 +85,7 @@ StatsPanel::StatsPanel(StatsPanelModel& model, Announcer& announcer, std::functi
         m_closeLabel, [this] { rollUp(); }, Qt::TabFocus);
 
     m_statsFrame = new QWidget(this);
-    m_statsFrame->setGeometry(0, px(kFrameTop), px(kWidth), px(kFrameHeight));
+    placeInTwips(m_statsFrame, QRect(0, kFrameTop, kWidth, kFrameHeight));
     label(QStringLiteral("Normal"), m_statsFrame, QRect(kNormalLeft, 0, kColumnWidth, kRowHeight),
           7, Qt::AlignHCenter);
     label(QStringLiteral("Superviv."), m_statsFrame,
@@ -118,12 +119,14 @@ StatsPanel::StatsPanel(StatsPanelModel& model, Announcer& announcer, std::functi
 }
 
 void StatsPanel::paint(const QString& gameColour, const QString& shade) {
+    const TwipScale scale = TwipScale::of(this);
     setStyleSheet(QStringLiteral("#statsFrame { background: %1; border-radius: %2px; }"
                                  "QLabel { color: white; background: transparent; }"
-                                 "#lblSDates { background: %3; border-radius: 4px; }")
+                                 "#lblSDates { background: %3; border-radius: %4px; }")
                       .arg(gameColour)
-                      .arg(px(90))
-                      .arg(shade));
+                      .arg(scale.px(90))
+                      .arg(shade)
+                      .arg(scale.pixels(4)));
 }
 
 void StatsPanel::rollUp() {
@@ -132,12 +135,12 @@ void StatsPanel::rollUp() {
 }
 
 void StatsPanel::sync() {
-    setGeometry(px(kLeft), px(kTop), px(kWidth), px(m_model.height()));
+    placeInTwips(this, QRect(kLeft, kTop, kWidth, m_model.height()));
     const bool opening = m_model.shown() && !isVisible();
     // A panel on its way up hands the keys back to the board.
     const bool focused = hasFocus() || isAncestorOf(QApplication::focusWidget());
     if (focused && (!m_model.shown() || m_model.closing())) {
-        parentWidget()->setFocus();
+        window()->setFocus();
     }
     setVisible(m_model.shown());
     if (opening) {

@@ -7,6 +7,7 @@
 #include "models/board/KeyFaces.h"
 #include "models/board/SidePanels.h"
 #include "platform/Fonts.h"
+#include "platform/TwipScale.h"
 #include "round/Round.h"
 #include "windows/ButtonLike.h"
 #include "windows/QtColour.h"
@@ -39,14 +40,14 @@ StrikeStrip::StrikeStrip(Round& round, KeyFaces& faces, SidePanels& panels,
                          std::function<void()> changed, QWidget* board)
     : QWidget(board), m_round(round), m_faces(faces), m_panels(panels),
       m_changed(std::move(changed)) {
-    setGeometry(px(kLeft - kMargin), px(kTop - kMargin), px(kPitch * 7 + kWidth + 2 * kMargin),
-                px(kHeight + 2 * kMargin));
-    setFont(Fonts::display(14));
+    placeInTwips(this, QRect(kLeft - kMargin, kTop - kMargin, kPitch * 7 + kWidth + 2 * kMargin,
+                             kHeight + 2 * kMargin));
+    setScaledFont(this, Fonts::display(14));
     m_correctionLabel = new QLabel(this);
     m_correctionLabel->setObjectName(QStringLiteral("lblQuit"));
-    m_correctionLabel->setGeometry(markRect(RoundState::kSlots));
+    placeInTwips(m_correctionLabel, markTwips(RoundState::kSlots));
     m_correctionLabel->setAlignment(Qt::AlignCenter);
-    m_correctionLabel->setFont(Fonts::display(16));
+    setScaledFont(m_correctionLabel, Fonts::display(16));
     m_correctionLabel->setCursor(Qt::PointingHandCursor);
     m_correctionLabel->setMouseTracking(true);
     // The correction is offered on the mouse's hover; a screen reader finds
@@ -62,8 +63,24 @@ StrikeStrip::StrikeStrip(Round& round, KeyFaces& faces, SidePanels& panels,
     m_correctionLabel->setPalette(white);
 }
 
+QRect StrikeStrip::markTwips(int slot) {
+    return {kMargin + kPitch * (slot - 1), kMargin, kWidth, kHeight};
+}
+
 QRect StrikeStrip::markRect(int slot) const {
-    return {px(kMargin + kPitch * (slot - 1)), px(kMargin), px(kWidth), px(kHeight)};
+    return m_scale.rect(markTwips(slot));
+}
+
+void StrikeStrip::followScale() {
+    const TwipScale scale = TwipScale::of(this);
+    if (scale.factor() != m_scale.factor()) {
+        // The grounds were drawn, and the marks laid out, at the old scale.
+        m_scale = scale;
+        m_grounds.clear();
+        m_nextGround = 0;
+        m_marks = {};
+        update();
+    }
 }
 
 int StrikeStrip::markAt(QPoint point) const {
@@ -95,6 +112,7 @@ void StrikeStrip::paint(const QColor& lamp, const QColor& lines) {
 }
 
 void StrikeStrip::sync() {
+    followScale();
     const RoundState& state = m_round.state();
     QList<int> changed;
     for (int slot = 1; slot <= RoundState::kSlots; ++slot) {
@@ -141,15 +159,17 @@ const QPixmap& StrikeStrip::ground() {
     drawn.pixmap.setDevicePixelRatio(ratio);
     drawn.pixmap.fill(Qt::transparent);
     QPainter painter(&drawn.pixmap);
-    paintRoundedGround(painter, QRect(QPoint(0, 0), size), m_lamp);
+    paintRoundedGround(painter, QRect(QPoint(0, 0), size), m_lamp, m_scale);
     return drawn.pixmap;
 }
 
 void StrikeStrip::paintEvent(QPaintEvent* event) {
+    followScale();
     QPainter p(this);
     // The strip's rules above and below the marks.
-    p.setPen(QPen(m_lines, 2));
-    p.drawLine(0, 1, width(), 1);
+    const int rule = m_scale.pixels(2);
+    p.setPen(QPen(m_lines, rule));
+    p.drawLine(0, rule / 2, width(), rule / 2);
     p.setPen(Qt::white);
     p.setFont(font());
     for (int slot = 1; slot <= RoundState::kSlots; ++slot) {

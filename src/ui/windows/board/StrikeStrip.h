@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/TwipScale.h"
 #include "round/RoundState.h"
 
 #include <QColor>
@@ -38,6 +39,7 @@ public:
     // Slots count from 1, as the player does.
     QString markText(int slot) const { return m_marks[index(slot)].text(); }
     QRect markRect(int slot) const;
+    static QRect markTwips(int slot);
     // The slot under a point of the strip, or 0.
     int markAt(QPoint point) const;
     // The words a screen reader says of a mark, and of the strip.
@@ -72,6 +74,10 @@ private:
     std::array<QStaticText, RoundState::kSlots> m_marks{};
     QColor m_lamp = Qt::transparent;
     QColor m_lines;
+    // The board's scale, followed as the marks are brought in step and painted.
+    void followScale();
+
+    TwipScale m_scale;
     std::vector<Ground> m_grounds;
     std::size_t m_nextGround = 0;
     QLabel* m_correctionLabel = nullptr;

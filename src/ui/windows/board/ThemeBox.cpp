@@ -6,6 +6,7 @@
 #include "models/board/SidePanels.h"
 #include "models/board/TipModel.h"
 #include "platform/Fonts.h"
+#include "platform/TwipScale.h"
 #include "round/Round.h"
 #include "scoring/Points.h"
 #include "windows/QtColour.h"
@@ -38,9 +39,10 @@ ThemeBox::ThemeBox(const Round& round, const Scoring& scoring, SidePanels& panel
     // looks: the lamp recolours the box after every letter.
     setText(QStringLiteral("Tema"));
     setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    setFont(Fonts::display(7));
+    setScaledFont(this, Fonts::display(7));
     m_themeLabel = new RoundedLabel(this);
     m_themeLabel->setAlignment(Qt::AlignCenter);
+    // Its font is fitted to the theme's name as the name changes.
     m_themeLabel->setFont(Fonts::display(kThemePoints));
     m_themeLabel->setAccessibleDescription(QStringLiteral("Tema"));
     m_themeLabel->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -66,23 +68,25 @@ QMenu* ThemeBox::buildMenu() {
 void ThemeBox::sync() {
     const bool compact = m_scoring.compactLayout();
     const int width = compact ? kCompactWidth : kWidth;
-    setGeometry(px(compact ? kCompactLeft : kLeft), px(compact ? kCompactTop : kTop), px(width),
-                px(kHeight));
-    m_themeLabel->setGeometry(px(kLabelMargin), px(kLabelTop), px(width - 2 * kLabelMargin),
-                              px(kHeight - kLabelTop - 30));
+    placeInTwips(
+        this, QRect(compact ? kCompactLeft : kLeft, compact ? kCompactTop : kTop, width, kHeight));
+    placeInTwips(m_themeLabel, QRect(kLabelMargin, kLabelTop, width - 2 * kLabelMargin,
+                                     kHeight - kLabelTop - 30));
     const QString theme = qs(m_round.themeLabel());
-    if (theme == m_themeLabel->text() && width == m_fittedWidth) {
+    if (theme == m_themeLabel->text() && m_themeLabel->width() == m_fittedWidth) {
         return;
     }
     // Long theme names step down in size until they fit the box.
-    QFont font = Fonts::display(kThemePoints);
-    while (font.pixelSize() > kSmallestPixels &&
+    const TwipScale scale = TwipScale::of(this);
+    QFont font = scale.font(Fonts::display(kThemePoints));
+    const int smallest = scale.pixels(kSmallestPixels);
+    while (font.pixelSize() > smallest &&
            QFontMetrics(font).horizontalAdvance(theme) > m_themeLabel->width()) {
         font.setPixelSize(font.pixelSize() - 1);
     }
     m_themeLabel->setFont(font);
     m_themeLabel->setText(theme);
-    m_fittedWidth = width;
+    m_fittedWidth = m_themeLabel->width();
 }
 
 } // namespace quillora

@@ -5,6 +5,7 @@
 #include "look/Twips.h"
 #include "models/board/TipModel.h"
 #include "platform/Fonts.h"
+#include "platform/TwipScale.h"
 #include "windows/QtColour.h"
 
 #include <QFontMetrics>
@@ -67,16 +68,16 @@ private:
 
 TipStrip::TipStrip(TipModel& model, QWidget* board) : RoundedLabel(board), m_model(model) {
     setObjectName(QStringLiteral("tipFrame"));
-    setGeometry(px(kLeft), px(kTop), px(TipModel::kWidthTwips), px(kHeight));
+    placeInTwips(this, QRect(kLeft, kTop, TipModel::kWidthTwips, kHeight));
     setCursor(Qt::PointingHandCursor);
     m_tipLabel = new TipText(this);
     m_tipLabel->setObjectName(QStringLiteral("lblTip"));
-    m_tipLabel->setFont(Fonts::display(kTipPoints));
+    setScaledFont(m_tipLabel, Fonts::display(kTipPoints));
     m_tipLabel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     // An opaque label is moved by copying what it already shows: each step
     // draws only the sliver that comes into view, and nothing behind it.
     m_tipLabel->setAutoFillBackground(true);
-    m_tipLabel->setGeometry(0, px(kInsetTwips), 0, px(kHeight - 2 * kInsetTwips));
+
     m_tipTimer = new QTimer(this);
     m_tipTimer->setInterval(TipModel::kTickMs);
     connect(m_tipTimer, &QTimer::timeout, this, &TipStrip::tick);
@@ -93,14 +94,18 @@ void TipStrip::paint(const QColor& gameColour) {
 
 void TipStrip::sync() {
     const QString text = qs(m_model.text());
-    if (text != m_tipLabel->text()) {
+    const TwipScale scale = TwipScale::of(this);
+    if (text != m_tipLabel->text() || scale.factor() != m_factor) {
+        m_factor = scale.factor();
         m_tipLabel->setText(text);
         static_cast<TipText*>(m_tipLabel)->forget();
         const int width = m_tipLabel->fontMetrics().horizontalAdvance(text);
-        m_tipLabel->resize(width, m_tipLabel->height());
-        m_model.setTextWidth(width * kTwipsPerPixel);
+        m_tipLabel->setGeometry(0, scale.px(kInsetTwips), width,
+                                scale.px(kHeight - 2 * kInsetTwips));
+        // The ticker runs in twips, whatever the scale.
+        m_model.setTextWidth(static_cast<int>(width * kTwipsPerPixel / m_factor + 0.5));
     }
-    m_tipLabel->move(px(m_model.left()), m_tipLabel->y());
+    m_tipLabel->move(scale.px(m_model.left()), m_tipLabel->y());
     setVisible(m_model.shown());
     if (m_model.running() && !m_tipTimer->isActive()) {
         m_tipTimer->start();

@@ -34,6 +34,8 @@ private:
     TipModel& m_model;
     QLabel* m_tipLabel = nullptr;
     QTimer* m_tipTimer = nullptr;
+    // The scale the text was last measured at; none before the first sync.
+    double m_factor = 0.0;
 };
 
 } // namespace quillora

@@ -3,6 +3,7 @@
 #include "windows/design/DesignToggle.h"
 
 #include "platform/Fonts.h"
+#include "platform/TwipScale.h"
 #include "windows/QtColour.h"
 
 #include <QPainter>
@@ -23,7 +24,7 @@ DesignToggle::DesignToggle(const QString& caption, const QString& tooltip, QWidg
     // The "&" of the caption gives the toggle its Alt shortcut.
     setText(caption);
     setToolTip(tooltip);
-    setFont(Fonts::display(8));
+    setScaledFont(this, Fonts::display(8));
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::TabFocus);
     // Checkable, so a screen reader hears a check box and whether it is lit.

@@ -4,6 +4,7 @@
 
 #include "look/Twips.h"
 #include "platform/Fonts.h"
+#include "platform/TwipScale.h"
 #include "windows/AccessibleControl.h"
 #include "windows/EnterPresses.h"
 #include "windows/FocusRing.h"
@@ -24,10 +25,6 @@
 namespace quillora {
 
 namespace {
-
-QRect twipRect(int left, int top, int width, int height) {
-    return QRect(px(left), px(top), px(width), px(height));
-}
 
 // The window, in twips: the address across the top, then three columns:
 // the folders over the pictures, the preview in the board's proportions over
@@ -93,7 +90,7 @@ DesignWindow::DesignWindow(DesignedBoard& board, SharedState& shared, Dialogs& d
     background.setColor(QPalette::Window, qc(kNearWhite));
     setPalette(background);
     setAutoFillBackground(true);
-    setFixedSize(px(kWidth), px(kHeight));
+    fixSizeInTwips(this, kWidth, kHeight);
     buildControls();
     paintButtons();
     m_model.open();
@@ -115,7 +112,7 @@ QListView* DesignWindow::fileList() const {
 void DesignWindow::buildControls() {
     const int addressWidth = kWidth - 2 * kMargin - kGoWidth - kGap / 2;
     m_addressBox = new QLineEdit(this);
-    m_addressBox->setGeometry(twipRect(kMargin, kMargin, addressWidth, kRowHeight));
+    placeInTwips(m_addressBox, QRect(kMargin, kMargin, addressWidth, kRowHeight));
     m_addressBox->setToolTip(QStringLiteral(" Barra de dirección.  "));
     m_addressBox->setAccessibleName(QStringLiteral("Barra de dirección"));
     connect(m_addressBox, &QLineEdit::textEdited, this, [this](const QString& text) {
@@ -132,7 +129,7 @@ void DesignWindow::buildControls() {
     AccessibleControl::button(
         m_goButton, [this] { return m_goButton->toolTip().trimmed(); },
         [this] { m_goButton->click(); });
-    m_goButton->setGeometry(twipRect(kWidth - kMargin - kGoWidth, kMargin, kGoWidth, kRowHeight));
+    placeInTwips(m_goButton, QRect(kWidth - kMargin - kGoWidth, kMargin, kGoWidth, kRowHeight));
     connect(m_goButton, &GoButton::clicked, this, [this] {
         m_model.goToAddress();
         sync();
@@ -148,15 +145,15 @@ void DesignWindow::buildControls() {
             m_model.chooseFile(name.toStdString());
             changed();
         });
-    folderList()->setGeometry(twipRect(kListLeft, kTop, kListWidth, kDirHeight));
-    fileList()->setGeometry(twipRect(kListLeft, kFileTop, kListWidth, kFileHeight));
+    placeInTwips(folderList(), QRect(kListLeft, kTop, kListWidth, kDirHeight));
+    placeInTwips(fileList(), QRect(kListLeft, kFileTop, kListWidth, kFileHeight));
 
-    m_previewImage->setGeometry(twipRect(kMiddleLeft, kTop, kMiddleWidth, kPreviewHeight));
+    placeInTwips(m_previewImage, QRect(kMiddleLeft, kTop, kMiddleWidth, kPreviewHeight));
     AccessibleControl::graphic(m_previewImage,
                                [] { return QStringLiteral("Vista previa del fondo"); });
 
     m_letterStyle = new QComboBox(this);
-    m_letterStyle->setGeometry(twipRect(kMiddleLeft, kStyleTop, kMiddleWidth, kRowHeight));
+    placeInTwips(m_letterStyle, QRect(kMiddleLeft, kStyleTop, kMiddleWidth, kRowHeight));
     m_letterStyle->setToolTip(QStringLiteral(" Estilo de las letras.  "));
     m_letterStyle->setAccessibleName(QStringLiteral("Estilo de las letras"));
     for (const StyleItem& item : kStyleItems) {
@@ -171,9 +168,9 @@ void DesignWindow::buildControls() {
     for (std::size_t i = 0; i < m_toggles.size(); ++i) {
         auto* toggle = new DesignToggle(QString::fromUtf8(kToggleTexts[i].caption),
                                         QString::fromUtf8(kToggleTexts[i].tooltip), this);
-        toggle->setGeometry(twipRect(kRightLeft,
-                                     kTop + static_cast<int>(i) * (kToggleHeight + kToggleGap),
-                                     kRightWidth, kToggleHeight));
+        placeInTwips(toggle,
+                     QRect(kRightLeft, kTop + static_cast<int>(i) * (kToggleHeight + kToggleGap),
+                           kRightWidth, kToggleHeight));
         const auto which = static_cast<DesignModel::Toggle>(i);
         connect(toggle, &DesignToggle::clicked, this, [this, which] {
             m_model.flip(which);
@@ -184,15 +181,15 @@ void DesignWindow::buildControls() {
 
     m_removePictureButton = new QPushButton(QStringLiteral("&Quitar fondo"), this);
     m_removePictureButton->setToolTip(QStringLiteral(" Quitar fondo. "));
-    m_removePictureButton->setGeometry(
-        twipRect(kMiddleLeft, kButtonTop, kMiddleWidth, kButtonHeight));
+    placeInTwips(m_removePictureButton,
+                 QRect(kMiddleLeft, kButtonTop, kMiddleWidth, kButtonHeight));
     connect(m_removePictureButton, &QPushButton::clicked, this, [this] {
         m_model.removePicture();
         changed();
     });
 
     m_okButton = new QPushButton(QStringLiteral("Guardar y cerrar"), this);
-    m_okButton->setGeometry(twipRect(kRightLeft, kButtonTop, kRightWidth, kButtonHeight));
+    placeInTwips(m_okButton, QRect(kRightLeft, kButtonTop, kRightWidth, kButtonHeight));
     connect(m_okButton, &QPushButton::clicked, this, [this] {
         if (m_model.save()) {
             close();
@@ -218,7 +215,7 @@ void DesignWindow::paintButtons() {
     const Rgb red = m_model.removeColour();
     m_removePictureButton->setStyleSheet(buttonSheet(red, kRedLampDark));
     for (QPushButton* button : {m_okButton, m_removePictureButton}) {
-        button->setFont(Fonts::display(9));
+        setScaledFont(button, Fonts::display(9));
         button->setCursor(Qt::PointingHandCursor);
     }
 }

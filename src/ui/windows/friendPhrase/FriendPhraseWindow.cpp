@@ -4,6 +4,7 @@
 
 #include "look/Twips.h"
 #include "platform/Fonts.h"
+#include "platform/TwipScale.h"
 #include "state/SharedState.h"
 #include "windows/AccessibleControl.h"
 #include "windows/FocusRing.h"
@@ -30,7 +31,7 @@ FriendPhraseWindow::FriendPhraseWindow(SharedState& shared, Dialogs& dialogs,
       m_accepted(std::move(accepted)) {
     setWindowTitle(QStringLiteral("LA FRASE ES:"));
     setModal(true);
-    setFixedSize(px(kWidth), px(kHeight));
+    fixSizeInTwips(this, kWidth, kHeight);
     const Palette& palette = shared.palette;
     setStyleSheet(
         QStringLiteral("QDialog { background: %1; }"
@@ -44,24 +45,24 @@ FriendPhraseWindow::FriendPhraseWindow(SharedState& shared, Dialogs& dialogs,
                  css(kNearWhite)));
 
     auto* caption = new QLabel(QStringLiteral("LA FRASE ES:"), this);
-    caption->setGeometry(px(240), px(120), px(3000), px(360));
-    caption->setFont(Fonts::display(10));
+    placeInTwips(caption, QRect(240, 120, 3000, 360));
+    setScaledFont(caption, Fonts::display(10));
 
     m_themeBox = new QLineEdit(this);
-    m_themeBox->setGeometry(px(3360), px(120), px(3000), px(390));
+    placeInTwips(m_themeBox, QRect(3360, 120, 3000, 390));
     m_themeBox->setMaxLength(FriendPhraseModel::kMaxThemeChars);
     m_themeBox->setToolTip(QStringLiteral(" Tema "));
     m_themeBox->setAccessibleName(QStringLiteral("Tema"));
-    m_themeBox->setFont(Fonts::display(9));
+    setScaledFont(m_themeBox, Fonts::display(9));
     m_themeBox->installEventFilter(this);
     connect(m_themeBox, &QLineEdit::textEdited, this,
             [this](const QString& text) { m_model.setThemeText(text.toStdString()); });
 
     m_wordBox = new QLineEdit(this);
-    m_wordBox->setGeometry(px(240), px(660), px(kWidth - 480), px(480));
+    placeInTwips(m_wordBox, QRect(240, 660, kWidth - 480, 480));
     m_wordBox->setMaxLength(FriendPhraseModel::kMaxPhraseChars);
     m_wordBox->setToolTip(QStringLiteral(" Frase a jugar. "));
-    m_wordBox->setFont(Fonts::display(12));
+    setScaledFont(m_wordBox, Fonts::display(12));
     // The friend sees what he types; a screen reader, which the others hear
     // too, gets a password box.
     AccessibleControl::secret(m_wordBox, QAccessible::EditableText, QStringLiteral("Frase a jugar"),
@@ -78,15 +79,15 @@ FriendPhraseWindow::FriendPhraseWindow(SharedState& shared, Dialogs& dialogs,
     });
 
     auto* preview = new QLabel(QStringLiteral("Vista previa >>>"), this);
-    preview->setGeometry(px(240), px(1320), px(3000), px(300));
-    preview->setFont(Fonts::display(8));
+    placeInTwips(preview, QRect(240, 1320, 3000, 300));
+    setScaledFont(preview, Fonts::display(8));
     for (int row = 0; row < 3; ++row) {
         auto* label = new QLabel(QStringLiteral("AAAAAAAAAAAAAA"), this);
-        label->setGeometry(px(1200), px(1680 + 420 * row), px(4200), px(390));
+        placeInTwips(label, QRect(1200, 1680 + 420 * row, 4200, 390));
         label->setAlignment(Qt::AlignCenter);
         QFont mono = Fonts::display(12);
-        mono.setLetterSpacing(QFont::AbsoluteSpacing, 4);
-        label->setFont(mono);
+        mono.setLetterSpacing(QFont::AbsoluteSpacing, TwipScale::of(this).pixels(4.0));
+        setScaledFont(label, mono);
         label->setStyleSheet(QStringLiteral("background: %1; color: black; border-radius: 4px;")
                                  .arg(css(kNearWhite)));
         AccessibleControl::secret(label, QAccessible::StaticText,
@@ -94,12 +95,12 @@ FriendPhraseWindow::FriendPhraseWindow(SharedState& shared, Dialogs& dialogs,
         m_rows[static_cast<std::size_t>(row)] = label;
     }
     auto* legend = new QLabel(QStringLiteral("Espacios repetidos se omiten."), this);
-    legend->setGeometry(px(240), px(3420), px(3600), px(360));
-    legend->setFont(Fonts::display(8));
+    placeInTwips(legend, QRect(240, 3420, 3600, 360));
+    setScaledFont(legend, Fonts::display(8));
 
     m_okButton = new QPushButton(QStringLiteral(" Aceptar "), this);
-    m_okButton->setGeometry(px(kWidth - 2280), px(3360), px(2040), px(480));
-    m_okButton->setFont(Fonts::display(10));
+    placeInTwips(m_okButton, QRect(kWidth - 2280, 3360, 2040, 480));
+    setScaledFont(m_okButton, Fonts::display(10));
     // Enter on the focused button accepts, as it does in the boxes.
     m_okButton->setAutoDefault(true);
     connect(m_okButton, &QPushButton::clicked, this, &FriendPhraseWindow::accept);
@@ -113,7 +114,7 @@ FriendPhraseWindow::FriendPhraseWindow(SharedState& shared, Dialogs& dialogs,
     if (board) {
         const QRect b = board->frameGeometry();
         move(b.left() + (b.width() - width()) / 2,
-             std::max(b.top() + (b.height() - height()) / 2, px(60)));
+             std::max(b.top() + (b.height() - height()) / 2, TwipScale::of(this).px(60)));
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include "look/Twips.h"
 #include "platform/Fonts.h"
+#include "platform/TwipScale.h"
 #include "windows/EnterPresses.h"
 #include "windows/FocusRing.h"
 #include "windows/QtColour.h"
@@ -33,15 +34,15 @@ PlayersWindow::PlayersWindow(SharedState& shared, std::function<void()> closed, 
         auto* row = new QWidget(this);
         row->setObjectName(QStringLiteral("row"));
         row->setAttribute(Qt::WA_StyledBackground);
-        row->setGeometry(px(120), px(kRowTop + kRowHeight * (box - 1)), px(kWidth - 240),
-                         px(kRowHeight - 60));
+        placeInTwips(row,
+                     QRect(120, kRowTop + kRowHeight * (box - 1), kWidth - 240, kRowHeight - 60));
         row->setStyleSheet(
             m_model.rowColoured(box)
                 ? QStringLiteral("#row { background: %1; border-radius: 6px; }").arg(css(game))
                 : QStringLiteral("#row { background: rgb(230,230,230); border-radius: 6px; }"));
         auto* text = new QLineEdit(row);
-        text->setGeometry(px(120), px(60), px(kWidth - 1080), px(420));
-        text->setFont(Fonts::display(10));
+        placeInTwips(text, QRect(120, 60, kWidth - 1080, 420));
+        setScaledFont(text, Fonts::display(10));
         text->setText(qs(m_model.text(box)));
         text->setAccessibleName(QStringLiteral("Jugador %1").arg(box));
         text->installEventFilter(this);
@@ -50,7 +51,7 @@ PlayersWindow::PlayersWindow(SharedState& shared, std::function<void()> closed, 
         auto* check = new QCheckBox(row);
         // Two ticks swap two players.
         check->setAccessibleName(QStringLiteral("Cambiar de lugar al jugador %1").arg(box));
-        check->setGeometry(px(kWidth - 840), px(90), px(420), px(360));
+        placeInTwips(check, QRect(kWidth - 840, 90, 420, 360));
         // The box's own state is what counts, whether a click, Space or a
         // screen reader's toggle changed it.
         connect(check, &QCheckBox::toggled, this, [this, box](bool on) {
@@ -74,7 +75,7 @@ PlayersWindow::PlayersWindow(SharedState& shared, std::function<void()> closed, 
         refresh();
     });
     setStyleSheet(QStringLiteral("#PlayersWindow { background: %1; }").arg(css(kNearWhite)));
-    setFixedSize(px(kWidth), px(kBaseHeight + m_model.extraHeightTwips()));
+    fixSizeInTwips(this, kWidth, kBaseHeight + m_model.extraHeightTwips());
     refresh();
     QLineEdit* first = nameBox(m_model.firstFocusBox());
     first->setFocus();

@@ -5,6 +5,7 @@
 #include "look/Twips.h"
 #include "platform/Fonts.h"
 #include "platform/ScreenKeeper.h"
+#include "platform/TwipScale.h"
 #include "round/PhraseChoice.h"
 #include "state/SharedState.h"
 #include "windows/AccessibleControl.h"
@@ -34,7 +35,7 @@ ThemeWindow::ThemeWindow(PhraseChoice& choice, SharedState& shared, Dialogs& dia
     const Palette& palette = shared.palette;
     setWindowTitle(QStringLiteral("EL TEMA ES:"));
     setModal(true);
-    setFixedSize(px(kWidthTwips), px(kHeightTwips));
+    fixSizeInTwips(this, kWidthTwips, kHeightTwips);
     setStyleSheet(QStringLiteral("QDialog { background: %1; }"
                                  "QLabel { color: white; }"
                                  "QPushButton { background: %2; color: white; border: none;"
@@ -45,13 +46,13 @@ ThemeWindow::ThemeWindow(PhraseChoice& choice, SharedState& shared, Dialogs& dia
                            css(palette.greenLamp)));
 
     auto* caption = new QLabel(QStringLiteral("EL TEMA ES:"), this);
-    caption->setGeometry(px(240), px(120), px(kWidthTwips - 480), px(360));
-    caption->setFont(Fonts::display(10));
+    placeInTwips(caption, QRect(240, 120, kWidthTwips - 480, 360));
+    setScaledFont(caption, Fonts::display(10));
 
     m_themeLabel = new QLabel(this);
-    m_themeLabel->setGeometry(px(240), px(480), px(kWidthTwips - 480), px(720));
+    placeInTwips(m_themeLabel, QRect(240, 480, kWidthTwips - 480, 720));
     m_themeLabel->setAlignment(Qt::AlignCenter);
-    m_themeLabel->setFont(Fonts::display(16));
+    setScaledFont(m_themeLabel, Fonts::display(16));
     m_themeLabel->setToolTip(QStringLiteral(" Tema "));
     m_themeLabel->setWordWrap(true);
     m_themeLabel->setCursor(Qt::PointingHandCursor);
@@ -63,7 +64,7 @@ ThemeWindow::ThemeWindow(PhraseChoice& choice, SharedState& shared, Dialogs& dia
 
     // The phrase travels in a box the player never sees.
     m_wordBox = new QLineEdit(this);
-    m_wordBox->setGeometry(-px(6000), 0, px(3000), px(300));
+    placeInTwips(m_wordBox, QRect(-6000, 0, 3000, 300));
     m_wordBox->setMaxLength(42);
     m_wordBox->setToolTip(QStringLiteral("  Frase a jugar. "));
     // Out of reach of the keyboard too: the keys belong to the window, and
@@ -73,15 +74,15 @@ ThemeWindow::ThemeWindow(PhraseChoice& choice, SharedState& shared, Dialogs& dia
     AccessibleControl::hidden(m_wordBox);
 
     m_otherButton = new QPushButton(QStringLiteral(" Más temas  "), this);
-    m_otherButton->setGeometry(px(360), px(1440), px(2160), px(480));
-    m_otherButton->setFont(Fonts::display(10));
+    placeInTwips(m_otherButton, QRect(360, 1440, 2160, 480));
+    setScaledFont(m_otherButton, Fonts::display(10));
     // Enter presses the focused button; elsewhere it accepts.
     m_otherButton->setAutoDefault(true);
     connect(m_otherButton, &QPushButton::clicked, this, &ThemeWindow::openThemesList);
 
     m_okButton = new QPushButton(QStringLiteral(" Aceptar "), this);
-    m_okButton->setGeometry(px(kWidthTwips - 2520), px(1440), px(2160), px(480));
-    m_okButton->setFont(Fonts::display(10));
+    placeInTwips(m_okButton, QRect(kWidthTwips - 2520, 1440, 2160, 480));
+    setScaledFont(m_okButton, Fonts::display(10));
     m_okButton->setDefault(true);
     connect(m_okButton, &QPushButton::clicked, this, &ThemeWindow::acceptPhrase);
 
@@ -95,7 +96,7 @@ ThemeWindow::ThemeWindow(PhraseChoice& choice, SharedState& shared, Dialogs& dia
     if (board) {
         const QRect b = board->frameGeometry();
         move(b.left() + (b.width() - width()) / 2,
-             std::max(b.top() + (b.height() - height()) / 2, px(60)));
+             std::max(b.top() + (b.height() - height()) / 2, TwipScale::of(this).px(60)));
     }
 }
 

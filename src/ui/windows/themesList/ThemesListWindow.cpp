@@ -5,6 +5,7 @@
 #include "look/Twips.h"
 #include "platform/Fonts.h"
 #include "platform/QtWeb.h"
+#include "platform/TwipScale.h"
 #include "state/SharedState.h"
 #include "windows/CurrentRowDelegate.h"
 #include "windows/FocusRing.h"
@@ -36,16 +37,16 @@ ThemesListWindow::ThemesListWindow(SharedState& shared, PhraseChoice& choice, Di
     : QDialog(phraseWindow), m_model(shared, choice, dialogs), m_done(std::move(done)) {
     setWindowTitle(QStringLiteral("Lista de temas:"));
     setWindowModality(Qt::WindowModal);
-    setFixedSize(px(kWidthTwips), px(kHeightTwips));
+    fixSizeInTwips(this, kWidthTwips, kHeightTwips);
 
     auto* caption = new QLabel(QStringLiteral("Lista de temas:"), this);
-    caption->setGeometry(px(kMargin), px(120), px(kWidthTwips - 2 * kMargin), px(420));
-    caption->setFont(Fonts::display(11));
+    placeInTwips(caption, QRect(kMargin, 120, kWidthTwips - 2 * kMargin, 420));
+    setScaledFont(caption, Fonts::display(11));
 
     m_themesList = new QListWidget(this);
-    m_themesList->setGeometry(px(kMargin), px(kListTop), px(kWidthTwips - 2 * kMargin),
-                              px(kHeightTwips - kListTop - kButtonHeight - 3 * kMargin));
-    m_themesList->setFont(Fonts::display(9));
+    placeInTwips(m_themesList, QRect(kMargin, kListTop, kWidthTwips - 2 * kMargin,
+                                     kHeightTwips - kListTop - kButtonHeight - 3 * kMargin));
+    setScaledFont(m_themesList, Fonts::display(9));
     m_themesList->setSelectionMode(QAbstractItemView::MultiSelection);
     m_themesList->setToolTip(QStringLiteral(" Click derecho para abrir el menú. "));
     m_themesList->setAccessibleName(QStringLiteral("Lista de temas"));
@@ -72,10 +73,9 @@ ThemesListWindow::ThemesListWindow(SharedState& shared, PhraseChoice& choice, Di
             [this] { follow(m_model.acceptChoice()); });
 
     m_okButton = new QPushButton(QStringLiteral(" Aceptar "), this);
-    m_okButton->setGeometry(px(kWidthTwips - kMargin - 1800),
-                            px(kHeightTwips - kMargin - kButtonHeight), px(1800),
-                            px(kButtonHeight));
-    m_okButton->setFont(Fonts::display(10));
+    placeInTwips(m_okButton, QRect(kWidthTwips - kMargin - 1800,
+                                   kHeightTwips - kMargin - kButtonHeight, 1800, kButtonHeight));
+    setScaledFont(m_okButton, Fonts::display(10));
     m_okButton->setDefault(true);
     connect(m_okButton, &QPushButton::clicked, this, [this] { follow(m_model.acceptChoice()); });
 
@@ -95,8 +95,9 @@ ThemesListWindow::ThemesListWindow(SharedState& shared, PhraseChoice& choice, Di
 
     if (phraseWindow) {
         const QRect from = phraseWindow->frameGeometry();
-        move(px(ThemesListModel::placeLeft(from.left() * kTwipsPerPixel)),
-             px(ThemesListModel::placeTop(from.top() * kTwipsPerPixel)));
+        const TwipScale scale = TwipScale::of(this);
+        move(scale.px(ThemesListModel::placeLeft(scale.twips(from.left()))),
+             scale.px(ThemesListModel::placeTop(scale.twips(from.top()))));
     }
 }
 
