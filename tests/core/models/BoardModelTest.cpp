@@ -115,6 +115,29 @@ TEST_F(BoardModelTest, ALockedBoardOrAnOpenSessionPanelLetsNoShortcutThrough) {
     ASSERT_TRUE(shared.locked);
     EXPECT_FALSE(model.keyReachesBoard(Key::F4)) << "behind the lock only the key box works";
     EXPECT_FALSE(model.scoring().smallPlayEnabled());
+
+    // How the board is shown is not the game's: F11 and Esc still switch it.
+    model.keyTyped(Key::FullScreen);
+    EXPECT_TRUE(model.fullScreen());
+    model.keyTyped(Key::Escape);
+    EXPECT_FALSE(model.fullScreen());
+}
+
+TEST_F(BoardModelTest, F11SwitchesFullScreenAndEscLeavesItStillClosingThePanels) {
+    start();
+    model.keyTyped(Key::FullScreen);
+    EXPECT_TRUE(model.fullScreen());
+    EXPECT_TRUE(shared.boardFullScreen) << "the next board opens full screen too";
+    model.keyTyped(Key::FullScreen);
+    EXPECT_FALSE(model.fullScreen());
+
+    model.keyTyped(Key::FullScreen);
+    model.panels().toggleHistory();
+    model.keyTyped(Key::Escape);
+    EXPECT_FALSE(model.fullScreen());
+    EXPECT_FALSE(model.panels().side().showing(SidePanelModel::Content::History));
+    model.keyTyped(Key::Escape);
+    EXPECT_FALSE(model.fullScreen()) << "Esc never fills the screen";
 }
 
 TEST_F(BoardModelTest, TheWindowNeverRisesAboveTheScreensEdge) {

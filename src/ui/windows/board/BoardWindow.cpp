@@ -255,20 +255,24 @@ void BoardWindow::followFullScreen() {
         setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     }
     m_fullScreen = wanted;
-    TwipScale::hold(this, wanted ? fullScreenFactor() : 1.0);
-    m_ui->rescaled();
-    // A hidden window takes the state with it when it shows.
-    const Qt::WindowStates state =
-        wanted ? windowState() | Qt::WindowFullScreen : windowState() & ~Qt::WindowFullScreen;
-    setWindowState(state);
+    showAtScale(wanted ? fullScreenFactor() : 1.0);
     if (wanted) {
         // Without a window manager to fill the screen, the window fills it
-        // itself; with one, it asks the same.
+        // itself; with one, the state asks the same. A hidden window takes
+        // the state with it when it shows.
         setGeometry(screen()->geometry());
+        setWindowState(windowState() | Qt::WindowFullScreen);
     } else {
+        setWindowState(windowState() & ~Qt::WindowFullScreen);
         fitFrame();
         move(m_windowedPlace);
     }
+    placeStage();
+}
+
+void BoardWindow::showAtScale(double factor) {
+    TwipScale::hold(this, factor);
+    m_ui->rescaled();
     placeStage();
 }
 

@@ -64,6 +64,9 @@ public:
     // What holds the controls: the whole window, or the board's place in the
     // middle of the screen while the board fills it.
     QWidget* stage() const { return m_stage; }
+    // Lays the board and the windows it opens out at a scale: F11 picks the
+    // one that fills the screen.
+    void showAtScale(double factor);
     QTimer* countdownTimer() const { return m_countdownTimer; }
     QTimer* soundTimer() const { return m_soundTimer; }
     QTimer* scoreTimer() const { return m_scoreTimer; }
