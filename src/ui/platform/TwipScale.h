@@ -69,10 +69,8 @@ void setScaledFont(QWidget* widget, const QFont& unscaled);
 // code that sets its own fonts asks for them at every paint.
 class ScaledFont {
 public:
-    ScaledFont() = default;
     explicit ScaledFont(const QFont& unscaled) : m_unscaled(unscaled), m_scaled(unscaled) {}
     const QFont& at(TwipScale scale);
-    const QFont& unscaled() const { return m_unscaled; }
 
 private:
     QFont m_unscaled;
