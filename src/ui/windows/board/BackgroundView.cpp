@@ -23,14 +23,25 @@ BackgroundView::BackgroundView(const BoardAppearance& appearance, QWidget* board
 }
 
 void BackgroundView::sync() {
-    if (m_picture.follow(QString::fromStdString(m_appearance.shownPicture()),
-                         m_appearance.pictureRealSize(), size(), devicePixelRatioF())) {
+    const bool realSize = m_appearance.pictureRealSize();
+    const double growth = realSize ? TwipScale::of(this).factor() : 1.0;
+    // A stretched picture is decoded to the pixels it covers, and stays sharp.
+    const QSize area(static_cast<int>(width() / growth + 0.5),
+                     static_cast<int>(height() / growth + 0.5));
+    if (m_picture.follow(QString::fromStdString(m_appearance.shownPicture()), realSize, area,
+                         devicePixelRatioF()) ||
+        growth != m_realSizeGrowth) {
+        m_realSizeGrowth = growth;
         update();
     }
 }
 
 void BackgroundView::paintEvent(QPaintEvent*) {
     QPainter p(this);
+    if (m_realSizeGrowth != 1.0) {
+        p.setRenderHint(QPainter::SmoothPixmapTransform);
+        p.scale(m_realSizeGrowth, m_realSizeGrowth);
+    }
     m_picture.paint(p);
 }
 

@@ -25,6 +25,9 @@ protected:
 private:
     const BoardAppearance& m_appearance;
     BackgroundPicture m_picture;
+    // How much a picture at its real size grows as it is painted: with the
+    // board, so the board shows the same corner of it at any scale.
+    double m_realSizeGrowth = 1.0;
 };
 
 } // namespace quillora
