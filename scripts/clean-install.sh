@@ -7,9 +7,11 @@
 # run), with a small Xfce desktop in Spanish and a user of its own. Inside
 # it, apt installs the package with whatever it depends on; the script then
 # checks that the desktop's menu lists the game under Games with its icon,
-# starts the game by clicking that menu entry on a private Xvfb, and reads
-# the manual page. Screenshots of the menu and of the started game go to
-# OUT (screenshots/clean-install by default). Needs root and Debian's
+# starts the game by clicking that menu entry on a private Xvfb, plays a few
+# strikes to see that the program draws with the fonts of Debian's font
+# packages, and reads the manual page in Spanish and in English.
+# Screenshots of the menu, the started game and the game in play go to OUT
+# (screenshots/clean-install by default). Needs root and Debian's
 # mirror; takes a few minutes the first time.
 #
 #   sudo bash scripts/clean-install.sh [package.deb]
@@ -146,7 +148,43 @@ sleep 3
 import -window root "$out/juego-iniciado.png"
 echo "started from the menu: $(inside pgrep -a -u jugadora quillora-vesta)"
 
+# A game alone, played on the rarest letters until the figure's face is
+# drawn: the board's letters are in Quicksand, the face in Comic Neue.
+# The Debian package draws them from the font packages' files, which the
+# running program then has open.
+game=$(inside pgrep -u jugadora -x quillora-vesta | head -n 1)
+xdotool key 1
+sleep 2
+# The board opens with its theme shown, or waits for Enter to draw one.
+theme() { xdotool search --onlyvisible --name '^EL TEMA ES:$' 2>/dev/null | head -n 1; }
+[ -n "$(theme)" ] || xdotool key Return
+if ! theme_window=$(wait_for_window --name '^EL TEMA ES:$'); then
+    echo "the board did not show its theme" >&2
+    exit 1
+fi
+xdotool windowactivate --sync "$theme_window" key Return
+sleep 1
+for letter in z x k w q j y v; do
+    xdotool key "$letter"
+    sleep 0.7
+done
+sleep 1
+import -window root "$out/partida.png"
+fonts=$(grep -o '/usr/share/fonts/.*' "/proc/$game/maps" | sort -u)
+echo "fonts the game has open:"
+for font in $fonts; do
+    echo "  $font ($(inside dpkg -S "$font" | cut -d: -f1))"
+done
+for font in truetype/quicksand/Quicksand-Bold.ttf opentype/comic-neue/ComicNeue-Bold.otf; do
+    grep -qx "/usr/share/fonts/$font" <<<"$fonts" ||
+        { echo "the game does not draw with the installed $font" >&2; exit 1; }
+done
+
+# The manual page in the desktop's Spanish, and in English elsewhere.
 page=$(as_player "MANWIDTH=80 MANPAGER=cat man 6 quillora-vesta 2>/dev/null")
 grep -q '^NOMBRE' <<<"$page" || { echo "man 6 quillora-vesta does not read" >&2; exit 1; }
 echo "man 6 quillora-vesta: $(grep -A1 '^NOMBRE' <<<"$page" | tail -n 1 | sed 's/^ *//')"
+page=$(as_player "LANG=C.UTF-8 MANWIDTH=80 MANPAGER=cat man 6 quillora-vesta 2>/dev/null")
+grep -q '^NAME' <<<"$page" || { echo "the English manual page does not read" >&2; exit 1; }
+echo "in English: $(grep -A1 '^NAME' <<<"$page" | tail -n 1 | sed 's/^ *//')"
 echo "screenshots in $out"

@@ -211,7 +211,7 @@ int main(int argc, char** argv) {
     QApplication app(count, arguments.data());
     systemFonts.join();
     quillora::nameApplication();
-    quillora::Fonts::registerEmbedded();
+    quillora::Fonts::findLookAlikes();
 
     Game game;
     game.start();

@@ -16,13 +16,8 @@ namespace {
 const QString kPreferredDisplay = QStringLiteral("Arial Rounded MT Bold");
 const QString kPreferredFace = QStringLiteral("Comic Sans MS");
 
-QString embeddedDisplay;
-QString embeddedFace;
-
-QString firstFamily(int id) {
-    const QStringList families = QFontDatabase::applicationFontFamilies(id);
-    return families.isEmpty() ? QString() : families.front();
-}
+QString lookAlikeDisplay;
+QString lookAlikeFace;
 
 // Whether the system has a family. QFontInfo would quietly answer some other
 // family, so the database is asked, once: its list is long, and the board
@@ -33,6 +28,36 @@ bool installed(const QString& family) {
     return families.contains(family);
 }
 
+#ifdef QUILLORA_SYSTEM_FONTS
+// The families Debian's fonts-quicksand and fonts-comic-neue install. When
+// one is missing the game falls back as it does for any missing font.
+QString installedOrNothing(const QString& family) {
+    return installed(family) ? family : QString();
+}
+
+QString displayLookAlike() {
+    return installedOrNothing(QStringLiteral("Quicksand"));
+}
+
+QString faceLookAlike() {
+    return installedOrNothing(QStringLiteral("Comic Neue"));
+}
+#else
+QString registered(const QString& resource) {
+    const QStringList families =
+        QFontDatabase::applicationFontFamilies(QFontDatabase::addApplicationFont(resource));
+    return families.isEmpty() ? QString() : families.front();
+}
+
+QString displayLookAlike() {
+    return registered(QStringLiteral(":/fonts/Quicksand-Bold.ttf"));
+}
+
+QString faceLookAlike() {
+    return registered(QStringLiteral(":/fonts/ComicNeue-Bold.otf"));
+}
+#endif
+
 } // namespace
 
 std::thread Fonts::readSystemFontsAhead() {
@@ -41,10 +66,9 @@ std::thread Fonts::readSystemFontsAhead() {
     return std::thread([] { FcInit(); });
 }
 
-void Fonts::registerEmbedded() {
-    if (embeddedDisplay.isEmpty()) {
-        embeddedDisplay = firstFamily(
-            QFontDatabase::addApplicationFont(QStringLiteral(":/fonts/Quicksand-Bold.ttf")));
+void Fonts::findLookAlikes() {
+    if (lookAlikeDisplay.isEmpty()) {
+        lookAlikeDisplay = displayLookAlike();
     }
 }
 
@@ -52,11 +76,11 @@ QString Fonts::displayFamily() {
     if (installed(kPreferredDisplay)) {
         return kPreferredDisplay;
     }
-    return embeddedDisplay.isEmpty() ? QFont().family() : embeddedDisplay;
+    return lookAlikeDisplay.isEmpty() ? QFont().family() : lookAlikeDisplay;
 }
 
 bool Fonts::displayAvailable() {
-    return installed(kPreferredDisplay) || !embeddedDisplay.isEmpty();
+    return installed(kPreferredDisplay) || !lookAlikeDisplay.isEmpty();
 }
 
 QString Fonts::faceFamily() {
@@ -65,11 +89,10 @@ QString Fonts::faceFamily() {
     }
     // Only the hanged figure's face wears this font: it is loaded when the
     // first board draws, not while the start screen waits for it.
-    if (embeddedFace.isEmpty()) {
-        embeddedFace = firstFamily(
-            QFontDatabase::addApplicationFont(QStringLiteral(":/fonts/ComicNeue-Bold.otf")));
+    if (lookAlikeFace.isEmpty()) {
+        lookAlikeFace = faceLookAlike();
     }
-    return embeddedFace.isEmpty() ? QFont().family() : embeddedFace;
+    return lookAlikeFace.isEmpty() ? QFont().family() : lookAlikeFace;
 }
 
 QFont Fonts::display(double points, bool bold) {

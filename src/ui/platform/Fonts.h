@@ -10,8 +10,9 @@
 namespace quillora {
 
 // The board's rounded display font and the figure's handwritten face font.
-// Where the preferred families are not installed, the free look-alikes that
-// ship inside the program stand in for them.
+// Where the preferred families are not installed, free look-alikes stand in
+// for them: copies inside the program, or, in a build for a system that
+// packages them, the installed Quicksand and Comic Neue.
 class Fonts {
 public:
     // Reading the system's font configuration takes several milliseconds,
@@ -19,11 +20,11 @@ public:
     // a thread of its own before the application connects to the display, it
     // is done by the time the connection is; join it before the first font.
     static std::thread readSystemFontsAhead();
-    // Registers the embedded display font once; call after the application
+    // Finds the display font's look-alike once; call after the application
     // exists. The figure's face font follows when it is first wanted.
-    static void registerEmbedded();
+    static void findLookAlikes();
     static QString displayFamily();
-    // The board's font is there: installed, or the look-alike registered.
+    // The board's font is there: the preferred one or its look-alike.
     static bool displayAvailable();
     static QString faceFamily();
     // The display font at a size in points of the reference layout.

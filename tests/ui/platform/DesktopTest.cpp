@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Quillora Vesta developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/CommandLine.h"
+#include "platform/Fonts.h"
 #include "platform/ScreenKeeper.h"
 
 #include <QApplication>
 #include <QFile>
+#include <QFontInfo>
 #include <QImage>
 #include <QScreen>
 #include <QWidget>
@@ -14,8 +16,8 @@
 namespace quillora {
 namespace {
 
-// How the game meets the desktop: its windows on the screen, its name and
-// its icon.
+// How the game meets the desktop: its windows on the screen, its name, its
+// icon and its fonts.
 
 TEST(ScreenKeeper, AWindowOpeningPartlyOffTheScreenIsMovedToShowWhole) {
     const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
@@ -47,6 +49,18 @@ TEST(Desktop, TheWindowsNameTheDesktopEntryThatCarriesTheIcon) {
     EXPECT_TRUE(QFile::exists(
         QStringLiteral(QUILLORA_DATA_DIR "/%1.desktop.in").arg(QGuiApplication::desktopFileName())))
         << QGuiApplication::desktopFileName().toStdString();
+}
+
+TEST(Desktop, TheBoardAndTheFaceDrawInTheFamiliesTheGameNames) {
+    // A family that is not there is quietly swapped for another, so a
+    // misnamed look-alike would show only as the wrong letters on the board.
+    EXPECT_TRUE(Fonts::displayAvailable());
+    EXPECT_NE(Fonts::faceFamily(), QFont().family()) << "the face has a font of its own";
+    for (const QFont& font : {Fonts::display(20), Fonts::face(20)}) {
+        const QFontInfo drawn(font);
+        EXPECT_EQ(drawn.family(), font.family());
+        EXPECT_TRUE(drawn.bold()) << font.family().toStdString();
+    }
 }
 
 TEST(Desktop, TheIconsBottomCornersAreRoundedLikeItsTopOnes) {
