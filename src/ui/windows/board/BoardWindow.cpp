@@ -13,6 +13,7 @@
 #include "windows/board/BoardDrops.h"
 #include "windows/board/BoardKeys.h"
 #include "windows/board/BoardPopup.h"
+#include "windows/board/BoardStage.h"
 #include "windows/board/CountdownLabel.h"
 #include "windows/board/KeyboardView.h"
 #include "windows/board/PhraseView.h"
@@ -235,14 +236,6 @@ void BoardWindow::syncView() {
     fitFrame();
 }
 
-double BoardWindow::fullScreenFactor() const {
-    const QSize screenSize = screen()->geometry().size();
-    const int boardHeightTwips = BoardModel::kBaseHeightTwips + KeyboardSlide::kKeyboardExtraTwips;
-    return std::min(screenSize.width() * static_cast<double>(kTwipsPerPixel) /
-                        BoardModel::kWidthTwips,
-                    screenSize.height() * static_cast<double>(kTwipsPerPixel) / boardHeightTwips);
-}
-
 void BoardWindow::followFullScreen() {
     const bool wanted = m_model.fullScreen();
     if (wanted == m_fullScreen) {
@@ -255,7 +248,7 @@ void BoardWindow::followFullScreen() {
         setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     }
     m_fullScreen = wanted;
-    showAtScale(wanted ? fullScreenFactor() : 1.0);
+    showAtScale(wanted ? fullScreenFactor(screen()->geometry().size()) : 1.0);
     if (wanted) {
         // Without a window manager to fill the screen, the window fills it
         // itself; with one, the state asks the same. A hidden window takes
@@ -277,18 +270,8 @@ void BoardWindow::showAtScale(double factor) {
 }
 
 void BoardWindow::placeStage() {
-    if (!m_fullScreen) {
-        m_stage->setGeometry(rect());
-        return;
-    }
-    // The board stands in the middle of the screen with room below for its
-    // keyboard, whether or not the keyboard is out yet.
-    const TwipScale scale = TwipScale::of(this);
-    const QSize board(scale.px(BoardModel::kWidthTwips), scale.px(m_model.slide().heightTwips()));
-    const int fullHeight =
-        scale.px(BoardModel::kBaseHeightTwips + KeyboardSlide::kKeyboardExtraTwips);
     m_stage->setGeometry(
-        QRect(QPoint((width() - board.width()) / 2, (height() - fullHeight) / 2), board));
+        stageRect(size(), m_fullScreen, m_model.slide().heightTwips(), TwipScale::of(this)));
 }
 
 void BoardWindow::resizeEvent(QResizeEvent* event) {

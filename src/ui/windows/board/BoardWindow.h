@@ -109,8 +109,6 @@ private:
     QPoint windowedPlace() const { return m_fullScreen ? m_windowedPlace : pos(); }
     // Fills the screen or goes back to the window, as the model says.
     void followFullScreen();
-    // The scale that fits the whole board, its keyboard out, to the screen.
-    double fullScreenFactor() const;
     void placeStage();
     void buildTimers();
     // Starts or stops the timers whose state the areas given may have changed.
