@@ -216,6 +216,20 @@ round_letters() {
 }
 keylatency() { "$work/keylatency" -n "$per_round" -p 500 -t 1000 "$@"; }
 # Every key's time from a log of rounds, one a line.
+# A round of letters on the board, timed into LOG: F2 first when a game
+# may be on, Enter for a new phrase, and another one every four letters, so
+# every letter is a new guess and no game is lost.
+game_round() {
+    local log=$1 clear=$2
+    shift 2
+    if ((clear)); then
+        xdotool key F2
+        sleep 1
+    fi
+    xdotool key Return
+    sleep 1.5
+    keylatency -r 4:F2,Return -w 1000 "$board" "$@" >>"$log" || true
+}
 key_times() { awk '$1 == "key" && $5 == "ms" {print $4}' "$1" | sort -n; }
 # Median, 90th percentile and worst of a log's times, and how many.
 summary() {
@@ -268,13 +282,7 @@ for ((round = 0; round < rounds; round++)); do
     mapfile -t these < <(round_letters "$round")
     keylatency "$echo_win" "${these[@]}" >>"$work/bare-keys.log" || true
     xdotool windowfocus --sync "$board"
-    if ((round > 0)); then
-        xdotool key F2
-        sleep 1
-    fi
-    xdotool key Return
-    sleep 1.5
-    keylatency -r 4:F2,Return -w 1000 "$board" "${these[@]}" >>"$work/game-keys.log" || true
+    game_round "$work/game-keys.log" $((round > 0)) "${these[@]}"
 done
 busy=$(busy_since "$busy0" "$total0")
 kill "$echo_pid"
@@ -291,11 +299,7 @@ sleep 1.5
 : >"$work/full-keys.log"
 for ((round = 0; round < full_rounds; round++)); do
     mapfile -t these < <(round_letters "$round")
-    xdotool key F2
-    sleep 1
-    xdotool key Return
-    sleep 1.5
-    keylatency -r 4:F2,Return -w 1000 "$board" "${these[@]}" >>"$work/full-keys.log" || true
+    game_round "$work/full-keys.log" 1 "${these[@]}"
 done
 rss_kb=$(awk '/^VmRSS/ {print $2}' "/proc/$pid/status")
 echo "resident memory after $((full_rounds * per_round)) more letters full screen: $((rss_kb / 1024)) MB"
